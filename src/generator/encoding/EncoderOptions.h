@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+namespace velmora
+{
+
+/// Which row set of the option table is used.
+enum class OutputProfile {
+    OriginalQuality, ///< "original": the table as it stands
+    PlaysEverywhere, ///< "everywhere": what televisions, phones and browsers play
+};
+
+/// "original" or "everywhere"; anything else is OriginalQuality.
+OutputProfile outputProfileFromKey(const QString &key);
+QString outputProfileKey(OutputProfile profile);
+
+/// Pure functions from settings to argument lists. Extensions are given without a dot.
+namespace EncoderOptions
+{
+
+/// The "-b:v" value for a frame height in px, for example "10M".
+QString bitRate(int height);
+/// The size really encoded: @p size with odd sides made even.
+QSize evenSize(const QSize &size);
+/// Options appended to every command that produces a picture.
+QStringList videoOptions(const QString &extension, int height, OutputProfile profile);
+/// The sound codec and its options for the multiplex.
+QStringList soundOptions(const QString &extension, OutputProfile profile);
+/// Container options of the final file, such as fast start.
+QStringList containerOptions(const QString &extension, OutputProfile profile);
+
+} // namespace EncoderOptions
+
+} // namespace velmora

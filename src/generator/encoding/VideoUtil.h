@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "generator/encoding/EncoderOptions.h"
+#include "generator/encoding/ToolRunner.h"
+#include "project/documents/AudioItemList.h"
+#include "project/slides/TransitionType.h"
+
+#include <QImage>
+#include <QMutex>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+#include <atomic>
+
+namespace velmora
+{
+
+/// What one generation has in common: output settings, tools and the shared state of its runs.
+/// Outlives every VideoUtil made from it; only the members marked so are written by them.
+struct EncodingContext {
+    QSize size;        ///< Output size in px, even.
+    QString extension; ///< Without a dot.
+    OutputProfile profile = OutputProfile::OriginalQuality;
+    QString cachePath; ///< The cache folder, with "images/" and "video/" in it.
+    QString encoder;   ///< Absolute path of ffmpeg.
+    std::atomic_bool cancelled{false};
+    QMutex outputMutex;   ///< Guards encoderOutput.
+    QString encoderOutput; ///< Standard error of running encoders, for the progress reader.
+};
+
+/// Builds every command line of the encoder and runs it. One object per thread; all share one
+/// EncodingContext. Operations return false on failure, log the reason and keep it in errorText().
+class VideoUtil
+{
+public:
+    explicit VideoUtil(EncodingContext &context);
+
+    /// Plain reason of the last failure, fit for the user: "The disk is full." and the like.
+    const QString &errorText() const { return m_errorText; }
+
+    /// Runs the encoder. With @p wait its standard error is fed to the progress reader. The output
+    /// is written under a temporary name beside @p outputFile and renamed. True when the encoder
+    /// succeeded and the file exists and is not empty.
+    bool executeUtility(QStringList arguments, const QString &outputFile, bool wait);
+
+    // Frames: JPEG files "%1img%2_%3.jpg" in the images folder, numbered from 1.
+    QString frameFile(const QString &prefix, int number) const;
+    /// @p prefix is "_p", "_t" or "_i" with the slide's index.
+    bool saveFrame(const QImage &frame, const QString &prefix, int number);
+    /// Renders frame @p number (from 1) of @p count of an effect and saves it.
+    bool saveTransitionFrame(TransitionType type, int number, const QImage &from, const QImage &to,
+                             const QString &prefix, int count);
+    void removeFrames(const QString &prefix, int count) const;
+
+    // Pictures. Durations in ms.
+    bool encodeSegment(const QString &prefix, int frameCount, qint64 duration,
+                       const QString &outputFile);
+    bool join(const QStringList &files, const QString &listFile, const QString &outputFile);
+    /// Copies the picture and encodes the sound, both to end with the picture at @p length ms.
+    bool multiplex(const QString &videoFile, const QString &soundFile, qint64 length,
+                   const QString &outputFile);
+    /// Copies the picture alone, with the container options of the output.
+    bool finishWithoutSound(const QString &videoFile, const QString &outputFile);
+
+    // Sound, see generator/sound.
+    QString prepareAudio(const AudioItemList &list, const QString &folder, int offset, int fade,
+                         int length);
+    bool prepareAudioLoop(const QString &source, int length, QString &output);
+    bool loopAudio(const QString &source, const int count, const QString &output);
+    bool transcodeMp3ToWav(const QString &from, const QString &to);
+    bool transcodeFFmpegToWav(const QString &from, const QString &to);
+
+    static void printDebugInfo(const ToolResult &result);
+
+private:
+    EncodingContext &m_context;
+    QString m_errorText;
+    QImage m_transitionFrame;
+};
+
+} // namespace velmora
