@@ -118,7 +118,9 @@ bool MediaInput::openAs(const AVInputFormat *format)
     m_io = avio_alloc_context(buffer, bufferSize, 0, &m_file, readFile, nullptr, seekFile);
     m_context = avformat_alloc_context();
     m_context->pb = m_io;
+    // Some formats open further files by themselves, some through the context.
     m_context->io_open = refuseFurtherFile;
+    m_context->protocol_whitelist = av_strdup("none");
     // Only the name's ending matters to the library here, the bytes come through m_io.
     const QByteArray name = m_file.fileName().toUtf8();
     // Older libraries take a pointer to a format that is not const, and do not change it either.
