@@ -12,15 +12,20 @@ namespace velmora
 namespace Log
 {
 
-/// @p filePrefix is "log" for the editor and "log_tool" for the worker and the command line.
-/// Warnings and errors are repeated on standard error when @p echo is set.
+/// The file is opened for each message, so that a new day begins a new file. A message that cannot
+/// be written there goes to standard error. @p filePrefix is "log" for the editor and "log_tool"
+/// for the worker and the command line. Warnings and errors are repeated on standard error when @p
+/// echo is set.
 void install(const QString &filePrefix, bool echo = false);
 void uninstall();
 
 /// Today's file name, "<prefix>_yyyy_MM_dd.txt", with its folder.
 QString currentFile();
 
-/// One line of the log, as the handler writes it: "[time][thread][version][level] context: text\n".
+/// One message as the handler writes it: "[%5][%4][%6][%1] %2: %3\n" with %1 the level (DEBUG,
+/// INFO, WARNING, ERROR), %2 the category with the source file and line, %3 the masked text, %4
+/// process id and thread, %5 the time as hh:mm:ss, %6 the program's version. A text of several
+/// lines becomes as many lines of that form, so that every line of the file can be read by itself.
 QString formatLine(QtMsgType type, const QMessageLogContext &context, const QString &text);
 
 /// Replaces the values of access_token, refresh_token, client_secret, code and Authorization.

@@ -15,7 +15,7 @@ namespace ProcessTree
 {
 
 enum class Group {
-    Own,       ///< The child leads a process group (a worker): terminate() and kill() reach its tree.
+    Own, ///< The child leads a process group (a worker): terminate() and kill() reach its tree.
     Inherited, ///< The child stays in this process's group (an encoder of a worker).
 };
 

@@ -15,8 +15,8 @@ class SessionValues
 {
 public:
     virtual ~SessionValues() = default;
-    virtual void clear() = 0;                  ///< Removes all values of the session.
-    virtual void setPaused(bool paused) = 0;   ///< "is_paused"
+    virtual void clear() = 0;                    ///< Removes all values of the session.
+    virtual void setPaused(bool paused) = 0;     ///< "is_paused"
     virtual void setCanceled(bool canceled) = 0; ///< "is_canceled"
     virtual bool isPaused() const = 0;
     virtual bool isCanceled() const = 0;

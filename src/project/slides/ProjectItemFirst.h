@@ -18,6 +18,9 @@ public:
     void setVisible(bool visible) { m_visible = visible; }
 
     bool isShown() const override { return m_visible; }
+    /// The value of the key "type" in the document.
+    static QLatin1String typeName() { return QLatin1String("starter"); }
+
     QString title() const override; ///< "Starter".
     void toJson(QJsonObject &object) const override;
     void fromJson(const QJsonObject &object) override;

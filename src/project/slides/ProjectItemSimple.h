@@ -23,6 +23,9 @@ public:
     const QImage &loadedImage() const { return m_loadedImage; }
     void setLoadedImage(const QImage &image) { m_loadedImage = image; }
 
+    /// The value of the key "type" in the document.
+    static QLatin1String typeName() { return QLatin1String("image"); }
+
     QString title() const override; ///< The file's name without its folder.
     void toJson(QJsonObject &object) const override;
     void fromJson(const QJsonObject &object) override;
