@@ -26,6 +26,14 @@ namespace EncoderOptions
 QString bitRate(int height);
 /// The size really encoded: @p size with odd sides made even.
 QSize evenSize(const QSize &size);
+/// The frame rate of every video.
+constexpr int kFramesPerSecond = 25;
+/// Output frames of a stage of @p duration ms.
+int frameCount(qint64 duration);
+/// @p milliseconds as seconds with three decimals, for example "2.500".
+QString seconds(qint64 milliseconds);
+/// The filter chain that turns JPEG frames into what the encoder takes, at the output rate.
+QString videoFilter(const QString &extension, OutputProfile profile);
 /// Options appended to every command that produces a picture.
 QStringList videoOptions(const QString &extension, int height, OutputProfile profile);
 /// The sound codec and its options for the multiplex.

@@ -8,6 +8,8 @@
 #include <atomic>
 #include <functional>
 
+class QProcess;
+
 namespace velmora
 {
 
@@ -35,13 +37,22 @@ public:
     /// @p cancelled is polled while a program runs; once true the program is ended.
     explicit ToolRunner(const std::atomic_bool *cancelled = nullptr, ErrorOutput onError = {});
 
-    /// Runs @p program (absolute path) and waits; output is logged as
-    /// "[STD OUT]:'%1' [STD ERR]:'%2'". The child dies with this process.
+    /// Programs that run longer than this are ended and count as crashed; -1 (the default) waits
+    /// without limit.
+    void setTimeout(int milliseconds) { m_timeout = milliseconds; }
+
+    /// Runs @p program (absolute path) and waits. Of each output the last megabyte is kept. Logs
+    /// only a failed start; VideoUtil::printDebugInfo() logs a result. The child dies with this
+    /// process.
     ToolResult run(const QString &program, const QStringList &arguments) const;
 
 private:
+    bool shouldEnd(qint64 elapsed, ToolResult &result) const;
+    void drain(QProcess &process, ToolResult &result) const;
+
     const std::atomic_bool *m_cancelled;
     ErrorOutput m_onError;
+    int m_timeout = -1; ///< ms
 };
 
 } // namespace velmora

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "generator/encoding/EncoderOptions.h"
+#include "generator/encoding/FrameWriter.h"
 #include "generator/encoding/ToolRunner.h"
 #include "project/documents/AudioItemList.h"
 #include "project/slides/TransitionType.h"
@@ -26,7 +27,7 @@ struct EncodingContext {
     QString cachePath; ///< The cache folder, with "images/" and "video/" in it.
     QString encoder;   ///< Absolute path of ffmpeg.
     std::atomic_bool cancelled{false};
-    QMutex outputMutex;   ///< Guards encoderOutput.
+    QMutex outputMutex;    ///< Guards encoderOutput.
     QString encoderOutput; ///< Standard error of running encoders, for the progress reader.
 };
 
@@ -40,9 +41,10 @@ public:
     /// Plain reason of the last failure, fit for the user: "The disk is full." and the like.
     const QString &errorText() const { return m_errorText; }
 
-    /// Runs the encoder. With @p wait its standard error is fed to the progress reader. The output
-    /// is written under a temporary name beside @p outputFile and renamed. True when the encoder
-    /// succeeded and the file exists and is not empty.
+    /// Runs the encoder with @p arguments and the output file after them. With @p wait its standard
+    /// error is fed to the progress reader. The output is written under a temporary name beside @p
+    /// outputFile and renamed. True when the encoder succeeded and the file exists and is not
+    /// empty.
     bool executeUtility(QStringList arguments, const QString &outputFile, bool wait);
 
     // Frames: JPEG files "%1img%2_%3.jpg" in the images folder, numbered from 1.
@@ -55,8 +57,11 @@ public:
     void removeFrames(const QString &prefix, int count) const;
 
     // Pictures. Durations in ms.
+    /// Encodes frames 1 to @p frameCount, or the one still, into exactly 25 frames per second of
+    /// @p duration.
     bool encodeSegment(const QString &prefix, int frameCount, qint64 duration,
                        const QString &outputFile);
+    /// Copies @p files one after another; @p listFile is the concat list that is written for it.
     bool join(const QStringList &files, const QString &listFile, const QString &outputFile);
     /// Copies the picture and encodes the sound, both to end with the picture at @p length ms.
     bool multiplex(const QString &videoFile, const QString &soundFile, qint64 length,
@@ -65,19 +70,34 @@ public:
     bool finishWithoutSound(const QString &videoFile, const QString &outputFile);
 
     // Sound, see generator/sound.
+    /// Makes the sound track "video/audio_stream.wav" of a video of @p length ms; offset and fade
+    /// in s, converted music goes to @p folder. Returns its path, empty on failure.
     QString prepareAudio(const AudioItemList &list, const QString &folder, int offset, int fade,
                          int length);
-    bool prepareAudioLoop(const QString &source, int length, QString &output);
+    /// Repeats a @p source that is shorter than @p length ms into @p output; otherwise sets
+    /// @p output to @p source. With a @p fade (s) the repeated track fades out where the video
+    /// ends, which is in the middle of a repetition.
+    bool prepareAudioLoop(const QString &source, int length, QString &output, int fade = 0);
+    /// Writes @p source @p count times.
     bool loopAudio(const QString &source, const int count, const QString &output);
+    /// With the transcoder program: from any format to 44.1 kHz, stereo, 16 bit.
     bool transcodeMp3ToWav(const QString &from, const QString &to);
+    /// With the encoder: keeps sample rate and channels.
     bool transcodeFFmpegToWav(const QString &from, const QString &to);
 
+    /// Logs "[STD OUT]:'%1' [STD ERR]:'%2'".
     static void printDebugInfo(const ToolResult &result);
 
 private:
+    bool fail(const QString &reason);
+    ToolResult runEncoder(const QStringList &arguments, bool feedProgress) const;
+    bool acceptOutput(const ToolResult &result, const QString &temporaryFile,
+                      const QString &outputFile);
+
     EncodingContext &m_context;
     QString m_errorText;
     QImage m_transitionFrame;
+    FrameWriter m_frameWriter;
 };
 
 } // namespace velmora

@@ -1,0 +1,83 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# shellcheck shell=bash disable=SC2034
+# The apt packages that building, running and testing need, under names that Debian 12 and Ubuntu
+# 22.04 and later share. Sourced by run.sh and test.sh; one package a line, sorted.
+
+build_packages=(
+    ccache
+    cmake
+    g++
+    libavcodec-dev
+    libavformat-dev
+    libavutil-dev
+    libboost-dev
+    libexiv2-dev
+    libsodium-dev
+    libswresample-dev
+    libturbojpeg0-dev
+    ninja-build
+    pkg-config
+    qtbase5-dev
+    qttools5-dev
+    qttools5-dev-tools
+)
+
+run_packages=(
+    ffmpeg
+    fonts-noto-core
+    fonts-open-sans
+    qt5-image-formats-plugins
+)
+
+test_packages=(
+    man-db
+    xvfb
+)
+
+format_packages=(
+    clang-format-14
+)
+
+fuzz_packages=(
+    clang
+)
+
+benchmark_packages=(
+    libbenchmark-dev
+    melt
+)
+
+# missing_packages PACKAGE...: prints those that are not installed.
+missing_packages() {
+    local installed
+    installed=$(dpkg-query -W -f '${binary:Package} ${db:Status-Status}\n' "$@" 2>/dev/null |
+        sed -n 's/^\([^: ]*\)[^ ]* installed$/\1/p') || true
+    printf '%s\n' "$@" | grep -vxF -f <(printf '%s\n' "$installed") || true
+}
+
+# install_packages PACKAGE...: installs what is missing, as root or with sudo.
+install_packages() {
+    local missing=() as_root=()
+    if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+        echo "apt is not available here; make sure that the equivalents of these are installed:" "$@" >&2
+        return 0
+    fi
+    mapfile -t missing < <(missing_packages "$@")
+    [ "${#missing[@]}" -gt 0 ] || return 0
+
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "Some packages are missing. As root, run: apt-get install ${missing[*]}" >&2
+            return 1
+        fi
+        as_root=(sudo)
+    fi
+    echo "Installing ${missing[*]}"
+    as_root+=(env DEBIAN_FRONTEND=noninteractive apt-get -qq)
+    # The package lists may be absent (fresh containers) or too old to install from.
+    if ! apt-cache show "${missing[@]}" >/dev/null 2>&1 ||
+        ! "${as_root[@]}" install -y --no-install-recommends "${missing[@]}" >/dev/null; then
+        "${as_root[@]}" update
+        "${as_root[@]}" install -y --no-install-recommends "${missing[@]}" >/dev/null
+    fi
+}

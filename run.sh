@@ -1,0 +1,52 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Builds Velmora and shows it at work.
+#   ./run.sh                 makes a video of the bundled photos and music, then opens the editor
+#                            where there is a display
+#   ./run.sh make ARGS...    hands the arguments to velmoratool ("./run.sh --help" lists them)
+set -euo pipefail
+start_folder=$PWD
+top=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+cd "$top"
+
+# shellcheck source=packaging/linux/dependencies.sh
+source packaging/linux/dependencies.sh
+install_packages "${build_packages[@]}" "${run_packages[@]}" >&2
+
+build=$top/build/release
+{
+    [ -f "$build/build.ninja" ] || cmake --preset release
+    cmake --build --preset release --target velmora velmoratool transcoder
+} >&2
+
+if [ $# -gt 0 ]; then
+    # Relative names are those of the folder from which the script was called.
+    cd "$start_folder"
+    exec "$build/bin/velmoratool" "$@"
+fi
+
+# The user's video folder if there is one; xdg-user-dir answers with the home folder otherwise.
+folder=$(xdg-user-dir VIDEOS 2>/dev/null || true)
+if [ -z "$folder" ] || [ "$folder" = "${HOME:-}" ] || [ "$folder" = "${HOME:-}/" ] ||
+    ! [ -d "$folder" ] || ! [ -w "$folder" ]; then
+    folder=$top/build/sample
+    mkdir -p "$folder"
+fi
+video="$folder/Velmora sample.mp4"
+
+"$build/bin/velmoratool" make \
+    --photos "$top/examples/photos" \
+    --music "$top/examples/music" \
+    --output "$video" \
+    --title "A day outdoors" \
+    --captions-from-names \
+    --time 3 --transition-length 1 \
+    --fade 3 \
+    --parallel \
+    --profile everywhere
+echo "The sample video is ready: $video"
+
+if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
+    exec "$build/bin/velmora"
+fi
+echo "There is no display here, so the editor is not opened."

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "generator/encoding/EncoderCommands.h"
+
+namespace velmora
+{
+
+namespace
+{
+
+/// The image reader takes its input for a pattern, so a percent sign of the folder is doubled.
+QString asPattern(QString path)
+{
+    return path.replace(QLatin1Char('%'), QLatin1String("%%"));
+}
+
+QStringList stillInput(const QString &imagesFolder, const QString &prefix, qint64 duration)
+{
+    // Read once a second: the filter chain repeats the picture, which is cheaper than decoding it
+    // for every frame.
+    return {QStringLiteral("-loop"),
+            QStringLiteral("1"),
+            QStringLiteral("-framerate"),
+            QStringLiteral("1"),
+            QStringLiteral("-i"),
+            asPattern(EncoderCommands::frameFile(imagesFolder, prefix, 1)),
+            QStringLiteral("-t"),
+            EncoderOptions::seconds(duration)};
+}
+
+QStringList sequenceInput(const QString &imagesFolder, const QString &prefix, int frames,
+                          qint64 duration)
+{
+    const double rate = frames * 1000.0 / static_cast<double>(duration);
+    return {QStringLiteral("-r"),
+            QString::number(rate, 'f', 3),
+            QStringLiteral("-start_number"),
+            QStringLiteral("1"),
+            QStringLiteral("-i"),
+            asPattern(imagesFolder) + QStringLiteral("img") + asPattern(prefix) +
+                QStringLiteral("_%05d.jpg")};
+}
+
+} // namespace
+
+QString EncoderCommands::frameFile(const QString &imagesFolder, const QString &prefix, int number)
+{
+    return imagesFolder + QStringLiteral("img") + prefix +
+           QStringLiteral("_%1.jpg").arg(number, 5, 10, QLatin1Char('0'));
+}
+
+QStringList EncoderCommands::segment(const QString &imagesFolder, const QString &prefix, int frames,
+                                     qint64 duration, const OutputFormat &format)
+{
+    QStringList arguments = frames == 1 ? stillInput(imagesFolder, prefix, duration)
+                                        : sequenceInput(imagesFolder, prefix, frames, duration);
+    arguments << QStringLiteral("-r") << QString::number(EncoderOptions::kFramesPerSecond)
+              << QStringLiteral("-vf")
+              << EncoderOptions::videoFilter(format.extension, format.profile)
+              << QStringLiteral("-frames:v")
+              << QString::number(EncoderOptions::frameCount(duration))
+              << EncoderOptions::videoOptions(format.extension, format.size.height(),
+                                              format.profile)
+              << QStringLiteral("-y") << QStringLiteral("-s")
+              << QStringLiteral("%1x%2").arg(format.size.width()).arg(format.size.height());
+    return arguments;
+}
+
+QStringList EncoderCommands::join(const QString &listFile)
+{
+    return {QStringLiteral("-f"), QStringLiteral("concat"), QStringLiteral("-safe"),
+            QStringLiteral("0"),  QStringLiteral("-i"),     listFile,
+            QStringLiteral("-c"), QStringLiteral("copy"),   QStringLiteral("-y")};
+}
+
+QStringList EncoderCommands::multiplex(const QString &videoFile, const QString &soundFile,
+                                       qint64 length, const OutputFormat &format)
+{
+    QStringList arguments{QStringLiteral("-i"),        videoFile,
+                          QStringLiteral("-i"),        soundFile,
+                          QStringLiteral("-y"),        QStringLiteral("-map_metadata"),
+                          QStringLiteral("-1"),        QStringLiteral("-filter_complex"),
+                          QStringLiteral("[1:0]apad"), QStringLiteral("-map"),
+                          QStringLiteral("0:v:0"),     QStringLiteral("-vcodec"),
+                          QStringLiteral("copy")};
+    arguments << EncoderOptions::soundOptions(format.extension, format.profile)
+              << QStringLiteral("-shortest")
+              // "-shortest" alone lets the padded sound run on by up to a third of a second.
+              << QStringLiteral("-t") << EncoderOptions::seconds(length)
+              << EncoderOptions::containerOptions(format.extension, format.profile);
+    return arguments;
+}
+
+QStringList EncoderCommands::pictureOnly(const QString &videoFile, const OutputFormat &format)
+{
+    QStringList arguments{QStringLiteral("-i"),    videoFile,
+                          QStringLiteral("-y"),    QStringLiteral("-map_metadata"),
+                          QStringLiteral("-1"),    QStringLiteral("-map"),
+                          QStringLiteral("0:v:0"), QStringLiteral("-vcodec"),
+                          QStringLiteral("copy")};
+    arguments << EncoderOptions::containerOptions(format.extension, format.profile);
+    return arguments;
+}
+
+} // namespace velmora

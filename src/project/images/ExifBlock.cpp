@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "project/images/ExifBlock.h"
+
+#include <QIODevice>
+#include <QtEndian>
+
+namespace velmora
+{
+
+namespace
+{
+
+// Cameras write some ten kilobytes; the limit only keeps hostile length fields from memory.
+constexpr qint64 kMaximumBlock = 16LL * 1024 * 1024;
+// TIFF files are read as a whole because their tags may stand behind the pixels.
+constexpr qint64 kMaximumTiff = 1800LL * 1024 * 1024;
+
+const char kExifMark[] = {'E', 'x', 'i', 'f', '\0', '\0'};
+constexpr int kExifMarkSize = sizeof(kExifMark);
+
+/// Strips the mark that stands before the TIFF form in JPEG files, and in some others by mistake.
+QByteArray withoutMark(const QByteArray &block)
+{
+    const QByteArray mark = QByteArray::fromRawData(kExifMark, kExifMarkSize);
+    return block.startsWith(mark) ? block.mid(kExifMarkSize) : block;
+}
+
+QByteArray findInJpeg(QIODevice &device)
+{
+    device.seek(2);
+    for (;;) {
+        uchar marker = 0xff;
+        if (device.read(1) != QByteArray(1, '\xff'))
+            return QByteArray();
+        while (marker == 0xff) { // Any number of fill bytes may stand before a marker's code.
+            if (device.read(reinterpret_cast<char *>(&marker), 1) != 1)
+                return QByteArray();
+        }
+        const bool hasLength = marker != 0x01 && !(marker >= 0xd0 && marker <= 0xd8);
+        if (marker == 0xda || marker == 0xd9) // The picture's data begin, or the file ends.
+            return QByteArray();
+        if (!hasLength)
+            continue;
+        uchar sizeBytes[2];
+        if (device.read(reinterpret_cast<char *>(sizeBytes), 2) != 2)
+            return QByteArray();
+        const int size = qFromBigEndian<quint16>(sizeBytes) - 2;
+        if (size < 0)
+            return QByteArray();
+        const qint64 next = device.pos() + size;
+        if (marker == 0xe1 && size > kExifMarkSize) {
+            const QByteArray segment = device.read(size);
+            const QByteArray block = withoutMark(segment);
+            if (block.size() < segment.size())
+                return block;
+        }
+        if (!device.seek(next))
+            return QByteArray();
+    }
+}
+
+QByteArray findInPng(QIODevice &device)
+{
+    qint64 position = 8;
+    while (device.seek(position)) {
+        const QByteArray head = device.read(8);
+        if (head.size() != 8)
+            break;
+        const qint64 size = qFromBigEndian<quint32>(head.constData());
+        if (head.endsWith("eXIf"))
+            return size <= kMaximumBlock ? withoutMark(device.read(size)) : QByteArray();
+        position += 12 + size; // Length, type, data and checksum.
+    }
+    return QByteArray();
+}
+
+QByteArray findInWebp(QIODevice &device)
+{
+    qint64 position = 12;
+    while (device.seek(position)) {
+        const QByteArray head = device.read(8);
+        if (head.size() != 8)
+            break;
+        const qint64 size = qFromLittleEndian<quint32>(head.constData() + 4);
+        if (head.startsWith("EXIF"))
+            return size <= kMaximumBlock ? withoutMark(device.read(size)) : QByteArray();
+        position += 8 + size + (size & 1); // Chunks are padded to an even length.
+    }
+    return QByteArray();
+}
+
+} // namespace
+
+QByteArray findExifBlock(QIODevice &device)
+{
+    if (!device.seek(0))
+        return QByteArray();
+    const QByteArray head = device.read(12);
+    if (head.startsWith("\xff\xd8"))
+        return findInJpeg(device);
+    if (head.startsWith("\x89PNG\r\n\x1a\n"))
+        return findInPng(device);
+    if (head.startsWith("RIFF") && head.endsWith("WEBP"))
+        return findInWebp(device);
+    const bool isTiff =
+        head.startsWith(QByteArray("II*\0", 4)) || head.startsWith(QByteArray("MM\0*", 4));
+    if (!isTiff || device.size() > kMaximumTiff || !device.seek(0))
+        return QByteArray();
+    return device.readAll();
+}
+
+} // namespace velmora

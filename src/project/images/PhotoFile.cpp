@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "project/images/PhotoFile.h"
+
+#include "project/images/Completeness.h"
+#include "project/images/ExifReader.h"
+#include "project/images/ImageLoader.h"
+#include "project/images/JpegDecoder.h"
+#include "project/images/Orientation.h"
+
+#include <QColorSpace>
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace velmora
+{
+
+namespace
+{
+
+// The byte arrays that hold a file for decoding end at 2 GB.
+constexpr qint64 kMaximumFileSize = 1800LL * 1024 * 1024;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ImageLoader", text);
+}
+
+QString notAPicture()
+{
+    return tr("is not a picture that can be read");
+}
+
+QString damaged()
+{
+    return tr("is damaged or incomplete");
+}
+
+/// Formats of photos. Others that installed plugins would accept (drawings, icons, plain text
+/// formats) are left out: their readers are not made for hostile files.
+bool isPhotoFormat(const QByteArray &format)
+{
+    static const char *const formats[] = {"jpeg", "png", "bmp", "gif", "tiff", "webp"};
+    for (const char *known : formats) {
+        if (format == known)
+            return true;
+    }
+    return false;
+}
+
+QImage toPaintingFormat(const QImage &image)
+{
+    QImage result = image.convertToFormat(
+        image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    const QColorSpace space = result.colorSpace();
+    if (space.isValid() && space != QColorSpace(QColorSpace::SRgb))
+        result.convertToColorSpace(QColorSpace(QColorSpace::SRgb));
+    return result;
+}
+
+} // namespace
+
+PhotoFile::PhotoFile(const QString &path) : m_path(path), m_file(path) {}
+
+bool PhotoFile::fail(const QString &problem, const QString &detail)
+{
+    m_problem = problem;
+    m_detail = detail.isEmpty() ? problem : detail;
+    return false;
+}
+
+bool PhotoFile::openFile()
+{
+    const QFileInfo info(m_path);
+    if (!info.exists())
+        return fail(tr("does not exist"));
+    if (info.isDir())
+        return fail(tr("is a folder"));
+    if (!info.isFile()) // Reading a pipe or a device could block for ever.
+        return fail(notAPicture());
+    if (!m_file.open(QIODevice::ReadOnly))
+        return fail(tr("cannot be opened"), m_file.errorString());
+    if (m_file.size() == 0)
+        return fail(tr("is empty"));
+    if (m_file.size() > kMaximumFileSize)
+        return fail(tr("is too large"));
+    return true;
+}
+
+bool PhotoFile::open()
+{
+    if (!openFile())
+        return false;
+    m_reader.setDevice(&m_file);
+    m_reader.setDecideFormatFromContent(true);
+    if (!m_reader.canRead())
+        return fail(notAPicture(), m_reader.errorString());
+    m_format = m_reader.format();
+    if (!isPhotoFormat(m_format))
+        return fail(notAPicture());
+    m_storedSize = m_reader.size();
+    if (m_storedSize.isEmpty())
+        return fail(damaged(), m_reader.errorString());
+    if (qint64(m_storedSize.width()) * m_storedSize.height() > ImageLoader::kMaximumPixels)
+        return fail(tr("is too large (%1 x %2 pixels)")
+                        .arg(m_storedSize.width())
+                        .arg(m_storedSize.height()));
+    QFile file(m_path); // Its own handle: the reader has a position in the other one.
+    if (file.open(QIODevice::ReadOnly))
+        m_orientation = ExifReader::read(file).orientation;
+    return true;
+}
+
+QSize PhotoFile::uprightSize() const
+{
+    return swapsSides(m_orientation) ? m_storedSize.transposed() : m_storedSize;
+}
+
+QByteArray PhotoFile::contents()
+{
+    return m_file.seek(0) ? m_file.readAll() : QByteArray();
+}
+
+QImage PhotoFile::decode(const QSize &minimum)
+{
+    if (!isJpeg()) {
+        const QImage image = m_reader.read();
+        m_detail = m_reader.errorString();
+        return image;
+    }
+    // The reader could scale, too, but does so roughly and takes every CMYK file for an inverted
+    // one.
+    const JpegDecoder::Result result = JpegDecoder::decode(contents(), minimum);
+    m_detail = result.error;
+    return result.image;
+}
+
+QImage PhotoFile::read(const QSize &minimum)
+{
+    const QSize needed = uprightSize().boundedTo(minimum);
+    const QSize stored = swapsSides(m_orientation) ? needed.transposed() : needed;
+    QImage image = decode(stored);
+    if (image.isNull()) {
+        fail(damaged(), m_detail);
+        return image;
+    }
+    image = toPaintingFormat(image);
+    if (image.width() > 2 * stored.width() && image.height() > 2 * stored.height())
+        image = image.scaled(stored * 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return uprightImage(image, m_orientation);
+}
+
+bool PhotoFile::verify()
+{
+    if (isJpeg()) {
+        const JpegDecoder::Result result = JpegDecoder::verify(contents());
+        return !result.damaged || fail(damaged(), result.error);
+    }
+    if (m_reader.read().isNull())
+        return fail(damaged(), m_reader.errorString());
+    const bool isCut = (m_format == "bmp" && !isCompleteBmp(m_file)) ||
+                       (m_format == "gif" && !isCompleteGif(m_file));
+    return !isCut || fail(damaged(), QStringLiteral("The file ends too early"));
+}
+
+} // namespace velmora

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QFile>
+#include <QImageReader>
+#include <QSize>
+#include <QString>
+
+namespace velmora
+{
+
+/// One photo file while it is being read: recognised by its content, whatever its suffix, and
+/// refused before decoding when its header announces more than can be held. Any one thread.
+class PhotoFile
+{
+public:
+    explicit PhotoFile(const QString &path);
+
+    /// Reads the header; false with problem() and detail() set when it is not a usable picture.
+    bool open();
+    /// The picture upright in sRGB, as RGB32 or premultiplied ARGB32, no smaller than
+    /// @p minimum px (or than the picture itself) and at most about twice as large; null with
+    /// problem() set on failure. Once only, after open().
+    QImage read(const QSize &minimum);
+    /// Decodes to the end and tells whether the picture is whole. Once only, after open().
+    bool verify();
+
+    /// The size in px as shown, after turning upright.
+    QSize uprightSize() const;
+    /// A reason for the user without the file's name, such as "is empty".
+    const QString &problem() const { return m_problem; }
+    /// The decoder's own words for the log.
+    const QString &detail() const { return m_detail; }
+
+private:
+    bool fail(const QString &problem, const QString &detail = QString());
+    bool openFile();
+    bool isJpeg() const { return m_format == "jpeg"; }
+    QImage decode(const QSize &minimum);
+    QByteArray contents();
+
+    QString m_path;
+    QFile m_file;
+    QImageReader m_reader;
+    QByteArray m_format;
+    QSize m_storedSize;
+    int m_orientation = 1;
+    QString m_problem;
+    QString m_detail;
+};
+
+} // namespace velmora

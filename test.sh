@@ -1,0 +1,138 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Builds Velmora with warnings as errors and runs its tests.
+#   --format         first check the layout of the sources with clang-format
+#   --asan           also run the tests under the address and undefined-behaviour sanitizers
+#   --tsan           also run the tests of the threaded parts under the thread sanitizer
+#   --fuzz SECONDS   also feed each parser with random input for that long
+#   --only REGEX     run only the tests whose names match
+# The last line counts what passed and what failed; the exit code is 0 only if nothing failed.
+set -Eeuo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+
+format=no asan=no tsan=no fuzz=0 only=.
+usage() { sed -n 's/^#   //p' "$0"; }
+while [ $# -gt 0 ]; do
+    case $1 in
+    --format) format=yes ;;
+    --asan) asan=yes ;;
+    --tsan) tsan=yes ;;
+    --fuzz)
+        fuzz=${2:-}
+        shift
+        ;;
+    --only)
+        only=${2:-}
+        shift
+        ;;
+    -h | --help)
+        usage
+        exit 0
+        ;;
+    *)
+        echo "Unknown option: $1" >&2
+        usage >&2
+        exit 2
+        ;;
+    esac
+    shift || true
+done
+if ! [[ $fuzz =~ ^[0-9]+$ ]] || [ -z "$only" ]; then
+    usage >&2
+    exit 2
+fi
+
+# shellcheck source=packaging/linux/dependencies.sh
+source packaging/linux/dependencies.sh
+packages=("${build_packages[@]}" "${run_packages[@]}" "${test_packages[@]}")
+[ "$format" = no ] || packages+=("${format_packages[@]}")
+[ "$fuzz" = 0 ] || packages+=("${fuzz_packages[@]}")
+install_packages "${packages[@]}"
+
+passed=0
+failed=0
+
+# count NAME COMMAND...: one check that is not a test program.
+count() {
+    local name=$1
+    shift
+    if "$@"; then
+        passed=$((passed + 1))
+    else
+        failed=$((failed + 1))
+        echo "FAILED: $name"
+    fi
+}
+
+check_format() {
+    git ls-files -z '*.cpp' '*.h' | xargs -0 -r clang-format-14 --dry-run --Werror
+}
+
+# attribute NAME FILE: a number from the head of ctest's result file.
+attribute() {
+    sed -n "s/.*[[:space:]]$1=\"\([0-9]*\)\".*/\1/p" "$2" | head -n 1
+}
+
+# run_tests PRESET REGEX: builds a preset and adds its tests to the counts.
+run_tests() {
+    local results total bad idle status=0
+    results=$PWD/build/$1/results.xml
+    echo "== Tests, preset $1"
+    cmake --preset "$1" >"build/$1.configure.log" || {
+        cat "build/$1.configure.log"
+        return 1
+    }
+    cmake --build --preset "$1"
+    rm -f "$results"
+    (cd "build/$1" && ctest --output-on-failure -j2 -R "$2" --output-junit "$results") ||
+        status=$?
+    [ -f "$results" ] || return 1
+    total=$(attribute tests "$results")
+    bad=$(attribute failures "$results")
+    idle=$(($(attribute disabled "$results") + $(attribute skipped "$results")))
+    # A test that could not be started is no failure to ctest's file, but it is to its exit code.
+    if [ "$status" -ne 0 ] && [ "$bad" -eq 0 ]; then
+        bad=$((idle > 0 ? idle : 1))
+        total=$((total > bad ? total : bad))
+        idle=0
+    fi
+    passed=$((passed + total - bad - idle))
+    failed=$((failed + bad))
+}
+
+run_fuzzers() {
+    local target name corpus
+    echo "== Fuzzing, $fuzz s each"
+    cmake --preset fuzz >/dev/null
+    cmake --build --preset fuzz
+    for target in build/fuzz/bin/fuzz_*; do
+        [ -x "$target" ] || continue
+        name=$(basename "$target")
+        corpus=build/fuzz/corpus/$name
+        mkdir -p "$corpus"
+        count "$name" "$target" -max_total_time="$fuzz" -timeout=10 -rss_limit_mb=2048 \
+            -artifact_prefix=build/fuzz/ -print_final_stats=1 -verbosity=0 "$corpus"
+    done
+}
+
+# A build that fails ends the script here too, and then the last line must still be true.
+trap 'echo "$passed passed, $failed failed"' EXIT
+broken() { failed=$((failed + 1)); }
+trap broken ERR
+
+mkdir -p build
+[ "$format" = no ] || count "format" check_format
+run_tests ci "$only"
+if [ "$asan" = yes ]; then
+    export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+    export LSAN_OPTIONS=suppressions=$PWD/tests/sanitizers/lsan.supp:print_suppressions=0
+    run_tests asan-ubsan "$only"
+fi
+if [ "$tsan" = yes ]; then
+    export TSAN_OPTIONS=suppressions=$PWD/tests/sanitizers/tsan.supp:halt_on_error=1
+    run_tests tsan "$only"
+fi
+[ "$fuzz" = 0 ] || run_fuzzers
+if [ "$failed" -gt 0 ]; then
+    exit 1
+fi
