@@ -16,7 +16,7 @@ namespace
 {
 
 /// So many failures without one good piece between them, and the rest of the file is given up.
-constexpr int damageLimit = 20000;
+constexpr int kDamageLimit = 20000;
 
 bool isUsable(const AVFrame &frame)
 {
@@ -90,7 +90,7 @@ const AVFrame *AudioDecoder::nextFrame()
 bool AudioDecoder::noteDamage()
 {
     ++m_damaged;
-    return ++m_damagedInARow < damageLimit;
+    return ++m_damagedInARow < kDamageLimit;
 }
 
 void AudioDecoder::feed()

@@ -33,7 +33,7 @@ void logLine(void *context, int level, const char *format, va_list arguments)
     int printPrefix = 1;
     av_log_format_line2(context, level, format, arguments, line.data(),
                         static_cast<int>(line.size()), &printPrefix);
-    qCWarning(lcMedia).noquote() << QString::fromUtf8(line.data()).trimmed();
+    qCWarning(mediaLog).noquote() << QString::fromUtf8(line.data()).trimmed();
 }
 
 } // namespace

@@ -39,7 +39,7 @@ qint64 MediaFileInfoPrivate::duration() const
     else if (stream != nullptr && input.context()->duration != AV_NOPTS_VALUE)
         duration = av_rescale(input.context()->duration, 1000, AV_TIME_BASE);
     duration = qMax<qint64>(duration, 0);
-    qCDebug(lcMedia) << "DURATION:" << duration;
+    qCDebug(mediaLog) << "DURATION:" << duration;
     return duration;
 }
 

@@ -17,7 +17,7 @@ namespace velmora
 namespace
 {
 
-constexpr int bufferSize = 64 * 1024;
+constexpr int kBufferSize = 64 * 1024;
 
 int readFile(void *opaque, uint8_t *buffer, int size)
 {
@@ -75,7 +75,7 @@ bool MediaInput::open(const QString &path)
     AvSupport::installLog();
     close();
     m_errorText.clear();
-    qCDebug(lcMedia).noquote() << "SOURCE FILE:" << path;
+    qCDebug(mediaLog).noquote() << "SOURCE FILE:" << path;
     if (!openFile(path))
         return false;
     bool opened = openAs(nullptr);
@@ -91,8 +91,8 @@ bool MediaInput::open(const QString &path)
     }
     if (opened) {
         m_errorText.clear();
-        qCDebug(lcMedia) << "FORMAT CONTEXT:" << m_context->iformat->name
-                         << "streams:" << m_context->nb_streams;
+        qCDebug(mediaLog) << "FORMAT CONTEXT:" << m_context->iformat->name
+                          << "streams:" << m_context->nb_streams;
     }
     return opened;
 }
@@ -114,8 +114,8 @@ bool MediaInput::openFile(const QString &path)
 
 bool MediaInput::openAs(const AVInputFormat *format)
 {
-    auto *buffer = static_cast<unsigned char *>(av_malloc(bufferSize));
-    m_io = avio_alloc_context(buffer, bufferSize, 0, &m_file, readFile, nullptr, seekFile);
+    auto *buffer = static_cast<unsigned char *>(av_malloc(kBufferSize));
+    m_io = avio_alloc_context(buffer, kBufferSize, 0, &m_file, readFile, nullptr, seekFile);
     m_context = avformat_alloc_context();
     m_context->pb = m_io;
     // Some formats open further files by themselves, some through the context.
@@ -126,12 +126,12 @@ bool MediaInput::openAs(const AVInputFormat *format)
     // Older libraries take a pointer to a format that is not const, and do not change it either.
     int result = avformat_open_input(&m_context, name.constData(),
                                      const_cast<AVInputFormat *>(format), nullptr);
-    qCDebug(lcMedia).noquote() << (result >= 0 ? "OPEN INPUT:[OK]" : "OPEN INPUT:[FAILED]");
+    qCDebug(mediaLog).noquote() << (result >= 0 ? "OPEN INPUT:[OK]" : "OPEN INPUT:[FAILED]");
     if (result < 0)
         return failWithCode(result);
     result = avformat_find_stream_info(m_context, nullptr);
-    qCDebug(lcMedia).noquote() << (result >= 0 ? "FIND STREAM INFO:[OK]"
-                                               : "FIND STREAM INFO:[FAILED]");
+    qCDebug(mediaLog).noquote() << (result >= 0 ? "FIND STREAM INFO:[OK]"
+                                                : "FIND STREAM INFO:[FAILED]");
     if (result < 0)
         return failWithCode(result);
     return true;

@@ -4,6 +4,6 @@
 namespace velmora
 {
 
-Q_LOGGING_CATEGORY(lcMedia, "velmora.media")
+Q_LOGGING_CATEGORY(mediaLog, "velmora.media")
 
 } // namespace velmora

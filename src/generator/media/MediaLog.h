@@ -6,6 +6,6 @@
 namespace velmora
 {
 
-Q_DECLARE_LOGGING_CATEGORY(lcMedia)
+Q_DECLARE_LOGGING_CATEGORY(mediaLog)
 
 } // namespace velmora

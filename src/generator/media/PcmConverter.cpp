@@ -37,7 +37,7 @@ bool PcmConverter::prepareFor(const AVFrame &frame)
 {
     swr_free(&m_resampler);
     av_frame_free(&m_form);
-    m_resampler = AvSupport::openStereoResampler(frame, PcmFormat::sampleRate);
+    m_resampler = AvSupport::openStereoResampler(frame, PcmFormat::kSampleRate);
     m_form = av_frame_clone(&frame);
     return m_resampler != nullptr && m_form != nullptr;
 }
@@ -48,11 +48,11 @@ QByteArray PcmConverter::run(const AVFrame *frame)
     const int room = swr_get_out_samples(m_resampler, inputCount);
     if (room <= 0)
         return {};
-    QByteArray output(room * PcmFormat::bytesPerFrame, Qt::Uninitialized);
+    QByteArray output(room * PcmFormat::kBytesPerFrame, Qt::Uninitialized);
     auto *target = reinterpret_cast<uint8_t *>(output.data());
     auto **source = frame == nullptr ? nullptr : const_cast<const uint8_t **>(frame->extended_data);
     const int count = swr_convert(m_resampler, &target, room, source, inputCount);
-    output.truncate(qMax(count, 0) * PcmFormat::bytesPerFrame);
+    output.truncate(qMax(count, 0) * PcmFormat::kBytesPerFrame);
     return output;
 }
 

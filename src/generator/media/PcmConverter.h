@@ -12,9 +12,9 @@ namespace velmora
 /// The one form of sound that everything is brought to where forms differ.
 namespace PcmFormat
 {
-constexpr int sampleRate = 44100; ///< Hz
-constexpr int channels = 2;
-constexpr int bytesPerFrame = channels * 2; ///< 16 bit, little endian.
+constexpr int kSampleRate = 44100; ///< Hz
+constexpr int kChannels = 2;
+constexpr int kBytesPerFrame = kChannels * 2; ///< 16 bit, little endian.
 } // namespace PcmFormat
 
 /// Turns decoded sound of any and even of changing form into PcmFormat. One thread.

@@ -21,10 +21,10 @@ template <typename Number> void append(QByteArray &bytes, Number number)
     bytes.append(reinterpret_cast<const char *>(&little), sizeof(little));
 }
 
-constexpr quint32 sizesLength = 28; ///< Of the chunk that can hold the sizes of a large file.
-constexpr quint32 formLength = 16;  ///< Of the chunk that describes the samples.
-constexpr quint32 unknownSize = std::numeric_limits<quint32>::max();
-constexpr quint64 headerLength = 12 + 8 + sizesLength + 8 + formLength + 8;
+constexpr quint32 kSizesLength = 28; ///< Of the chunk that can hold the sizes of a large file.
+constexpr quint32 kFormLength = 16;  ///< Of the chunk that describes the samples.
+constexpr quint32 kUnknownSize = std::numeric_limits<quint32>::max();
+constexpr quint64 kHeaderLength = 12 + 8 + kSizesLength + 8 + kFormLength + 8;
 
 } // namespace
 
@@ -38,27 +38,27 @@ WavWriter::~WavWriter()
 
 QByteArray WavWriter::header(quint64 dataSize)
 {
-    const quint64 riffSize = headerLength - 8 + dataSize;
-    const bool large = riffSize >= unknownSize;
+    const quint64 riffSize = kHeaderLength - 8 + dataSize;
+    const bool large = riffSize >= kUnknownSize;
     QByteArray bytes(large ? "RF64" : "RIFF");
-    append(bytes, large ? unknownSize : static_cast<quint32>(riffSize));
+    append(bytes, large ? kUnknownSize : static_cast<quint32>(riffSize));
     bytes.append("WAVE");
     bytes.append(large ? "ds64" : "JUNK");
-    append(bytes, sizesLength);
+    append(bytes, kSizesLength);
     append(bytes, large ? riffSize : quint64(0));
     append(bytes, large ? dataSize : quint64(0));
-    append(bytes, large ? dataSize / PcmFormat::bytesPerFrame : quint64(0));
+    append(bytes, large ? dataSize / PcmFormat::kBytesPerFrame : quint64(0));
     append(bytes, quint32(0));
     bytes.append("fmt ");
-    append(bytes, formLength);
+    append(bytes, kFormLength);
     append(bytes, quint16(1));
-    append(bytes, quint16(PcmFormat::channels));
-    append(bytes, quint32(PcmFormat::sampleRate));
-    append(bytes, quint32(PcmFormat::sampleRate * PcmFormat::bytesPerFrame));
-    append(bytes, quint16(PcmFormat::bytesPerFrame));
+    append(bytes, quint16(PcmFormat::kChannels));
+    append(bytes, quint32(PcmFormat::kSampleRate));
+    append(bytes, quint32(PcmFormat::kSampleRate * PcmFormat::kBytesPerFrame));
+    append(bytes, quint16(PcmFormat::kBytesPerFrame));
     append(bytes, quint16(16));
     bytes.append("data");
-    append(bytes, large ? unknownSize : static_cast<quint32>(dataSize));
+    append(bytes, large ? kUnknownSize : static_cast<quint32>(dataSize));
     return bytes;
 }
 
@@ -101,7 +101,10 @@ bool WavWriter::commit()
 
 bool WavWriter::fail()
 {
-    m_errorText = m_file.errorString();
+    // The resource that a write can run out of is space.
+    m_errorText = m_file.error() == QFileDevice::ResourceError
+                      ? QCoreApplication::translate("velmora::WavWriter", "The disk is full.")
+                      : m_file.errorString();
     return false;
 }
 

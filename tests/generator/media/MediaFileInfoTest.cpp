@@ -7,7 +7,7 @@
 
 using namespace velmora;
 
-class TestMediaFileInfo : public QObject
+class MediaFileInfoTest : public QObject
 {
     Q_OBJECT
 private slots:
@@ -26,7 +26,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-void TestMediaFileInfo::factsOfFormats_data()
+void MediaFileInfoTest::factsOfFormats_data()
 {
     QTest::addColumn<QString>("ending");
     QTest::addColumn<QString>("codec");
@@ -49,7 +49,7 @@ void TestMediaFileInfo::factsOfFormats_data()
         << QStringLiteral("flac") << QStringLiteral("flac") << 48000 << 6 << QStringLiteral("5.1");
 }
 
-void TestMediaFileInfo::factsOfFormats()
+void MediaFileInfoTest::factsOfFormats()
 {
     QFETCH(QString, ending);
     QFETCH(int, sampleRate);
@@ -73,14 +73,14 @@ void TestMediaFileInfo::factsOfFormats()
     QVERIFY2(qAbs(info.duration() - 2500) < 100, qPrintable(QString::number(info.duration())));
 }
 
-void TestMediaFileInfo::coverIsNoVideo_data()
+void MediaFileInfoTest::coverIsNoVideo_data()
 {
     QTest::addColumn<QString>("ending");
     QTest::newRow("mp3") << QStringLiteral("mp3");
     QTest::newRow("m4a") << QStringLiteral("m4a");
 }
 
-void TestMediaFileInfo::coverIsNoVideo()
+void MediaFileInfoTest::coverIsNoVideo()
 {
     QFETCH(QString, ending);
     const QString path = file(QStringLiteral("cover.") + ending);
@@ -92,7 +92,7 @@ void TestMediaFileInfo::coverIsNoVideo()
     QVERIFY2(qAbs(info.duration() - 3000) < 100, qPrintable(QString::number(info.duration())));
 }
 
-void TestMediaFileInfo::soundDurationOfVideoFile()
+void MediaFileInfoTest::soundDurationOfVideoFile()
 {
     const QString path = file(QStringLiteral("film.mp4"));
     QVERIFY(MediaSamples::encode({QStringLiteral("-f"), QStringLiteral("lavfi"),
@@ -105,7 +105,7 @@ void TestMediaFileInfo::soundDurationOfVideoFile()
     QVERIFY2(qAbs(info.duration() - 2000) < 100, qPrintable(QString::number(info.duration())));
 }
 
-void TestMediaFileInfo::strangeNames_data()
+void MediaFileInfoTest::strangeNames_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("umlauts") << QStringLiteral("Grüße.wav");
@@ -114,7 +114,7 @@ void TestMediaFileInfo::strangeNames_data()
     QTest::newRow("looks like a protocol") << QStringLiteral("http:music.wav");
 }
 
-void TestMediaFileInfo::strangeNames()
+void MediaFileInfoTest::strangeNames()
 {
     QFETCH(QString, name);
     const QString plain = file(QStringLiteral("plain.wav"));
@@ -123,7 +123,7 @@ void TestMediaFileInfo::strangeNames()
     QCOMPARE(MediaFileInfo(file(name)).duration(), 1000);
 }
 
-void TestMediaFileInfo::unusableFilesYieldZeros_data()
+void MediaFileInfoTest::unusableFilesYieldZeros_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("empty") << QByteArray();
@@ -133,7 +133,7 @@ void TestMediaFileInfo::unusableFilesYieldZeros_data()
     QTest::newRow("frames cut at once") << QByteArray("ID3\x03\0\0\x7f\x7f\x7f\x7f", 10);
 }
 
-void TestMediaFileInfo::unusableFilesYieldZeros()
+void MediaFileInfoTest::unusableFilesYieldZeros()
 {
     QFETCH(QByteArray, content);
     const QString path = file(QStringLiteral("broken.mp3"));
@@ -151,5 +151,5 @@ void TestMediaFileInfo::unusableFilesYieldZeros()
     QCOMPARE(info.audioChannelLayout(), QString());
 }
 
-QTEST_GUILESS_MAIN(TestMediaFileInfo)
-#include "tst_mediafileinfo.moc"
+QTEST_GUILESS_MAIN(MediaFileInfoTest)
+#include "MediaFileInfoTest.moc"

@@ -35,7 +35,7 @@ bool write(const QString &path, const QByteArray &bytes)
 
 } // namespace
 
-class TestWavTranscoder : public QObject
+class WavTranscoderTest : public QObject
 {
     Q_OBJECT
 private slots:
@@ -54,12 +54,12 @@ private:
     QTemporaryDir m_folder;
 };
 
-void TestWavTranscoder::initTestCase()
+void WavTranscoderTest::initTestCase()
 {
     QVERIFY(MediaSamples::makeTone(file(QStringLiteral("tone.mp3")), {440, 3, 44100, 2}));
 }
 
-void TestWavTranscoder::decodesEveryFormat_data()
+void WavTranscoderTest::decodesEveryFormat_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("sampleRate");
@@ -86,7 +86,7 @@ void TestWavTranscoder::decodesEveryFormat_data()
         << QStringList{QStringLiteral("-f"), QStringLiteral("mp3")};
 }
 
-void TestWavTranscoder::decodesEveryFormat()
+void WavTranscoderTest::decodesEveryFormat()
 {
     QFETCH(QString, name);
     QFETCH(int, sampleRate);
@@ -105,7 +105,7 @@ void TestWavTranscoder::decodesEveryFormat()
     QCOMPARE(transcoder.damagedCount(), 0);
 }
 
-void TestWavTranscoder::decodesWhatItCan_data()
+void WavTranscoderTest::decodesWhatItCan_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<double>("seconds");
@@ -121,7 +121,7 @@ void TestWavTranscoder::decodesWhatItCan_data()
                                 << 3.0;
 }
 
-void TestWavTranscoder::decodesWhatItCan()
+void WavTranscoderTest::decodesWhatItCan()
 {
     QFETCH(QByteArray, content);
     QFETCH(double, seconds);
@@ -137,7 +137,7 @@ void TestWavTranscoder::decodesWhatItCan()
     QCOMPARE(MediaSamples::tone(sound, 0.2, seconds - 0.2, {220, 440, 880}), 440);
 }
 
-void TestWavTranscoder::followsAChangeOfForm()
+void WavTranscoderTest::followsAChangeOfForm()
 {
     const QString low = file(QStringLiteral("low.mp3"));
     QVERIFY(MediaSamples::makeTone(low, {900, 3, 22050, 1}));
@@ -153,7 +153,7 @@ void TestWavTranscoder::followsAChangeOfForm()
     QCOMPARE(MediaSamples::tone(sound, 3.5, 5.5, {440, 450, 900, 1800}), 900);
 }
 
-void TestWavTranscoder::refusesWhatHasNoSound_data()
+void WavTranscoderTest::refusesWhatHasNoSound_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("empty") << QByteArray();
@@ -163,7 +163,7 @@ void TestWavTranscoder::refusesWhatHasNoSound_data()
     QTest::newRow("a tag alone") << QByteArray("ID3\x03\0\0\0\0\0\x40", 10) + QByteArray(64, '\0');
 }
 
-void TestWavTranscoder::refusesWhatHasNoSound()
+void WavTranscoderTest::refusesWhatHasNoSound()
 {
     QFETCH(QByteArray, content);
     const QString source = file(QStringLiteral("nothing.mp3"));
@@ -178,7 +178,7 @@ void TestWavTranscoder::refusesWhatHasNoSound()
     QVERIFY(QDir(m_folder.path()).entryList({QStringLiteral("*.part")}).isEmpty());
 }
 
-void TestWavTranscoder::leavesNothingWhenTheTargetCannotBeWritten()
+void WavTranscoderTest::leavesNothingWhenTheTargetCannotBeWritten()
 {
     WavTranscoder transcoder;
     const QString target = file(QStringLiteral("missing/out.wav"));
@@ -186,5 +186,5 @@ void TestWavTranscoder::leavesNothingWhenTheTargetCannotBeWritten()
     QVERIFY2(transcoder.errorText().contains(target), qPrintable(transcoder.errorText()));
 }
 
-QTEST_GUILESS_MAIN(TestWavTranscoder)
-#include "tst_wavtranscoder.moc"
+QTEST_GUILESS_MAIN(WavTranscoderTest)
+#include "WavTranscoderTest.moc"

@@ -8,7 +8,7 @@
 
 using namespace velmora;
 
-class TestTranscoder : public QObject
+class TranscoderTest : public QObject
 {
     Q_OBJECT
 private slots:
@@ -27,12 +27,12 @@ private:
     QString m_errors;
 };
 
-void TestTranscoder::initTestCase()
+void TranscoderTest::initTestCase()
 {
     QVERIFY(MediaSamples::makeToneWithCover(file(QStringLiteral("ton ä.mp3")), {660, 2, 44100, 1}));
 }
 
-int TestTranscoder::run(const QStringList &arguments)
+int TranscoderTest::run(const QStringList &arguments)
 {
     QProcess process;
     process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/transcoder"),
@@ -43,7 +43,7 @@ int TestTranscoder::run(const QStringList &arguments)
     return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
 }
 
-void TestTranscoder::convertsAFile()
+void TranscoderTest::convertsAFile()
 {
     const QString target = file(QStringLiteral("out.wav"));
     QCOMPARE(run({file(QStringLiteral("ton ä.mp3")), target}), 0);
@@ -54,7 +54,7 @@ void TestTranscoder::convertsAFile()
     QCOMPARE(MediaSamples::tone(sound, 0.2, 1.8, {330, 660, 1320}), 660);
 }
 
-void TestTranscoder::reportsFailures_data()
+void TranscoderTest::reportsFailures_data()
 {
     QTest::addColumn<QStringList>("names");
     QTest::addColumn<int>("exitCode");
@@ -72,7 +72,7 @@ void TestTranscoder::reportsFailures_data()
                                       << QStringLiteral("new.wav' cannot be written");
 }
 
-void TestTranscoder::reportsFailures()
+void TranscoderTest::reportsFailures()
 {
     QFETCH(QStringList, names);
     QFETCH(QString, message);
@@ -84,11 +84,11 @@ void TestTranscoder::reportsFailures()
     QVERIFY(!QFile::exists(file(QStringLiteral("new.wav"))));
 }
 
-void TestTranscoder::printsHelp()
+void TranscoderTest::printsHelp()
 {
     QCOMPARE(run({QStringLiteral("--help")}), 0);
     QVERIFY(m_output.contains(QLatin1String("transcoder FROM TO")));
 }
 
-QTEST_GUILESS_MAIN(TestTranscoder)
-#include "tst_transcoder.moc"
+QTEST_GUILESS_MAIN(TranscoderTest)
+#include "TranscoderTest.moc"

@@ -7,7 +7,7 @@
 
 using namespace velmora;
 
-class TestSoundChecker : public QObject
+class SoundCheckerTest : public QObject
 {
     Q_OBJECT
 private slots:
@@ -20,14 +20,14 @@ private:
     QTemporaryDir m_folder;
 };
 
-void TestSoundChecker::acceptsMusic_data()
+void SoundCheckerTest::acceptsMusic_data()
 {
     QTest::addColumn<QString>("ending");
     for (const char *ending : {"mp3", "m4a", "wav", "wma", "flac"})
         QTest::newRow(ending) << QString::fromLatin1(ending);
 }
 
-void TestSoundChecker::acceptsMusic()
+void SoundCheckerTest::acceptsMusic()
 {
     QFETCH(QString, ending);
     const QString path = m_folder.filePath(QStringLiteral("tone.") + ending);
@@ -35,7 +35,7 @@ void TestSoundChecker::acceptsMusic()
     QCOMPARE(checkSoundFile(path), QString());
 }
 
-void TestSoundChecker::namesTheReason_data()
+void SoundCheckerTest::namesTheReason_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("reason");
@@ -51,7 +51,7 @@ void TestSoundChecker::namesTheReason_data()
         << QStringLiteral("header.wav") << QStringLiteral("Nothing in it can be played");
 }
 
-void TestSoundChecker::namesTheReason()
+void SoundCheckerTest::namesTheReason()
 {
     QFETCH(QString, name);
     QFETCH(QString, reason);
@@ -82,5 +82,5 @@ void TestSoundChecker::namesTheReason()
     QVERIFY2(found.contains(reason), qPrintable(found));
 }
 
-QTEST_GUILESS_MAIN(TestSoundChecker)
-#include "tst_soundchecker.moc"
+QTEST_GUILESS_MAIN(SoundCheckerTest)
+#include "SoundCheckerTest.moc"
