@@ -4,6 +4,7 @@
 #include "generator/pipeline/RenderJob.h"
 #include "project/slides/ProjectItemSimple.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
