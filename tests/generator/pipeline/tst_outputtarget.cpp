@@ -63,7 +63,7 @@ private slots:
         OutputTarget target;
         const RenderError error = target.prepare(path(name), format, locks());
         QVERIFY2(!error.isSet(), qPrintable(error.text));
-        QTEST(target.fileName(), "fileName");
+        QTEST(QFileInfo(target.fileName()).fileName(), "fileName");
         QCOMPARE(target.extension(), extension);
         QCOMPARE(QFileInfo(target.temporaryFile()).suffix(), extension);
         QVERIFY(OutputTarget::isTemporaryName(QFileInfo(target.temporaryFile()).fileName()));
