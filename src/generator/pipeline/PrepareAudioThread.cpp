@@ -36,8 +36,8 @@ QString GeneratorThread::PrepareAudioThread::prepare(VideoUtil &util) const
     const ProjectFile &project = m_generator.m_project;
     const QString folder = m_generator.m_cache.file(QStringLiteral("audio"));
     QDir().mkpath(folder);
-    const int length = static_cast<int>(qMin<qint64>(m_generator.m_plan.totalLength(),
-                                                     std::numeric_limits<int>::max()));
+    const int length = static_cast<int>(
+        qMin<qint64>(m_generator.m_plan.totalLength(), std::numeric_limits<int>::max()));
     const QString prepared = util.prepareAudio(project.audio(), folder, project.audio().offset,
                                                project.audioFade(), length);
     if (prepared.isEmpty() || !project.audioLoop())
