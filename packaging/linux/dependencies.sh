@@ -12,6 +12,7 @@ build_packages=(
     libavutil-dev
     libboost-dev
     libexiv2-dev
+    libjpeg-dev
     libsodium-dev
     libswresample-dev
     libturbojpeg0-dev
