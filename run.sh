@@ -39,9 +39,9 @@ video="$folder/Velmora sample.mp4"
     --music "$top/examples/music" \
     --output "$video" \
     --title "A day outdoors" \
-    --captions-from-names \
-    --time 3 --transition-length 1 \
-    --fade 3 \
+    --captions-from-names --sort date \
+    --time 2 --transition-length 1 \
+    --fade 2 \
     --parallel \
     --profile everywhere
 echo "The sample video is ready: $video"
