@@ -44,7 +44,6 @@ video="$folder/Velmora sample.mp4"
     --fade 2 \
     --parallel \
     --profile everywhere
-echo "The sample video is ready: $video"
 
 if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
     exec "$build/bin/velmora"

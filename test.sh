@@ -65,7 +65,8 @@ count() {
 }
 
 check_format() {
-    git ls-files -z '*.cpp' '*.h' | xargs -0 -r clang-format-14 --dry-run --Werror
+    find src tests tools benchmarks -name '*.cpp' -print0 -o -name '*.h' -print0 |
+        xargs -0 clang-format-14 --dry-run --Werror
 }
 
 # attribute NAME FILE: a number from the head of ctest's result file.

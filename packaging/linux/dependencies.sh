@@ -31,7 +31,7 @@ run_packages=(
 )
 
 test_packages=(
-    man-db
+    groff-base
     xvfb
 )
 

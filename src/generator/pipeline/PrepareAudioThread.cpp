@@ -43,7 +43,8 @@ QString GeneratorThread::PrepareAudioThread::prepare(VideoUtil &util) const
     if (prepared.isEmpty() || !project.audioLoop())
         return prepared;
     QString looped = m_generator.m_cache.file(QStringLiteral("video/audio_stream_looped.wav"));
-    return util.prepareAudioLoop(prepared, length, looped, project.audioFade()) ? looped : QString();
+    return util.prepareAudioLoop(prepared, length, looped, project.audioFade()) ? looped
+                                                                                : QString();
 }
 
 } // namespace velmora
