@@ -192,13 +192,12 @@ private:
         m_painter.setBrush(Qt::NoBrush);
         m_painter.setPen(Qt::NoPen);
         m_painter.setBrush(QColor(52, 36, 34));
-        constexpr int steps = 12;
+        const int steps = std::max(12, static_cast<int>(path.length() / 1.5));
         for (int i = 0; i <= steps; ++i) { // Tapers to what the next branches begin with.
             const double t = static_cast<double>(i) / steps;
             const double flare = thickness > 0.035 * m_unit ? 1 + 0.9 * std::pow(1 - t, 5) : 1;
             const double radius = 0.5 * thickness * mix(1, 0.68, t) * flare;
-            m_painter.drawEllipse(path.pointAtPercent(t), radius,
-                                  std::max(radius * 0.8, 0.5 * path.length() / steps));
+            m_painter.drawEllipse(path.pointAtPercent(t), radius, radius);
         }
         if (thickness < 3)
             return;

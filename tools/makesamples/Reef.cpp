@@ -97,11 +97,11 @@ std::vector<Coral> plantCorals()
     for (int i = 0; i < 330; ++i) {
         const double close = i / 329.0;
         const bool left = random.unit() < 0.58;
-        const double away = std::abs(random.normal()) * (0.17 + 0.10 * close);
+        const double away = std::min(0.42, std::abs(random.normal()) * (0.16 + 0.08 * close));
         const double u = left ? away - 0.04 : 1.54 - away * 0.8;
         const double heap = std::exp(-away / (left ? 0.20 : 0.15)) * (left ? 0.34 : 0.24);
         const double ground = mix(kSeabed + 0.02, 1.05, close);
-        const double v = ground - heap * random.unit() * (1.1 - 0.25 * close);
+        const double v = ground - heap * random.unit() * (0.55 + 0.25 * close);
         const double radius = mix(0.016, 0.062, close) * random.range(0.45, 1.15);
         const Light color = colors[static_cast<int>(random.unit() * 6.99)];
         corals.push_back({u, v, radius, mix(0.72, 0.08, std::sqrt(close)), color,
@@ -125,7 +125,7 @@ void paintCoral(Canvas &canvas, const Coral &coral)
         for (int x = left; x <= right; ++x) {
             const double dx = (x / unit - coral.u) / coral.radius;
             const double dy = (y / unit - coral.v) / coral.radius;
-            const double rough = 0.10 * fractalNoise(dx * 2.6, dy * 2.6, 4, coral.seed);
+            const double rough = 0.34 * fractalNoise(dx * 1.7, dy * 1.7, 5, coral.seed);
             const double distance = std::hypot(dx, dy * 1.12) + rough;
             const double edge = clamp01((1 - distance) * coral.radius * unit * 0.7);
             if (edge <= 0)

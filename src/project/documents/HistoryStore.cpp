@@ -19,9 +19,9 @@ namespace velmora
 namespace
 {
 
-constexpr QLatin1String kVersion("version");
-constexpr QLatin1String kProjects("projects");
-constexpr QLatin1String kCurrentVersion("1.0");
+const QLatin1String kVersion("version");
+const QLatin1String kProjects("projects");
+const QLatin1String kCurrentVersion("1.0");
 
 } // namespace
 

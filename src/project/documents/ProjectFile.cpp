@@ -20,25 +20,25 @@ namespace velmora
 namespace
 {
 
-constexpr QLatin1String kName("name");
-constexpr QLatin1String kFileName("file_name");
-constexpr QLatin1String kFormat("format");
-constexpr QLatin1String kResolution("resolution");
-constexpr QLatin1String kOrigRatio("orig_ratio");
-constexpr QLatin1String kScaleToFit("scale_to_fit");
-constexpr QLatin1String kAudio("audio");
-constexpr QLatin1String kOffset("offset");
-constexpr QLatin1String kLoop("loop");
-constexpr QLatin1String kFade("fade");
-constexpr QLatin1String kFiles("files");
-constexpr QLatin1String kDuration("duration");
-constexpr QLatin1String kImages("images");
-constexpr QLatin1String kTransitionTime("transition_time");
+const QLatin1String kName("name");
+const QLatin1String kFileName("file_name");
+const QLatin1String kFormat("format");
+const QLatin1String kResolution("resolution");
+const QLatin1String kOrigRatio("orig_ratio");
+const QLatin1String kScaleToFit("scale_to_fit");
+const QLatin1String kAudio("audio");
+const QLatin1String kOffset("offset");
+const QLatin1String kLoop("loop");
+const QLatin1String kFade("fade");
+const QLatin1String kFiles("files");
+const QLatin1String kDuration("duration");
+const QLatin1String kImages("images");
+const QLatin1String kTransitionTime("transition_time");
 
 /// Words with which a failed read names its cause.
-constexpr QLatin1String kResolutionError("resolution");
-constexpr QLatin1String kItemError("Failed load image info");
-constexpr QLatin1String kTooManyItemsError("images");
+const QLatin1String kResolutionError("resolution");
+const QLatin1String kItemError("Failed load image info");
+const QLatin1String kTooManyItemsError("images");
 
 AudioItemList readAudioFiles(const QJsonObject &object)
 {
