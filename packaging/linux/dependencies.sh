@@ -12,6 +12,7 @@ build_packages=(
     libavutil-dev
     libboost-dev
     libexiv2-dev
+    libjpeg-dev
     libsodium-dev
     libswresample-dev
     libturbojpeg0-dev
@@ -30,7 +31,7 @@ run_packages=(
 )
 
 test_packages=(
-    man-db
+    groff-base
     xvfb
 )
 

@@ -20,7 +20,7 @@ CrashReporter::CrashReporter(const QString &dataFolder)
     const QString dumpFile = dataFolder + QStringLiteral("/velmora.dmp");
     reportEarlierCrash(dumpFile);
 
-    QString error;
+    QString error = QStringLiteral("no data folder");
     if (Paths::ensureFolder(dataFolder) && CrashDump::install(dumpFile, &error))
         qCInfo(lcApp).noquote()
             << QStringLiteral("Crash installer setup time:%1").arg(timer.elapsed());

@@ -28,14 +28,6 @@ constexpr int kRandomLetters = 6;
 constexpr int kTrialSize = 64 * 1024; // bytes
 constexpr int kShownName = 60;        // characters of a long name in messages
 
-const QStringList &knownSuffixes()
-{
-    static const QStringList suffixes{QStringLiteral("mp4"), QStringLiteral("avi"),
-                                      QStringLiteral("mov"), QStringLiteral("wmv"),
-                                      QStringLiteral("webm"), QStringLiteral("mkv")};
-    return suffixes;
-}
-
 QString tr(const char *text)
 {
     return QCoreApplication::translate("velmora::OutputTarget", text);
@@ -87,8 +79,8 @@ RenderError OutputTarget::prepare(const QString &fileName, const QString &format
     if (error.isSet())
         return error;
     removeStrays();
-    m_temporaryFile = QStringLiteral("%1/%2%3.%4")
-                          .arg(m_folder, m_temporaryStem, randomLetters(), m_extension);
+    m_temporaryFile =
+        QStringLiteral("%1/%2%3.%4").arg(m_folder, m_temporaryStem, randomLetters(), m_extension);
     return tryWriting();
 }
 
@@ -109,6 +101,14 @@ void OutputTarget::release()
         QFile::remove(m_temporaryFile);
     m_temporaryFile.clear();
     m_lock.reset();
+}
+
+const QStringList &OutputTarget::knownSuffixes()
+{
+    static const QStringList suffixes{QStringLiteral("mp4"),  QStringLiteral("avi"),
+                                      QStringLiteral("mov"),  QStringLiteral("wmv"),
+                                      QStringLiteral("webm"), QStringLiteral("mkv")};
+    return suffixes;
 }
 
 bool OutputTarget::isTemporaryName(const QString &name)
@@ -140,18 +140,19 @@ RenderError OutputTarget::checkName() const
     const QFileInfo info(m_fileName);
     const QFileInfo folder(m_folder);
     if (QFile::encodeName(info.fileName()).size() > kLongestName)
-        return outputError(tr("The video's name \"%1...\" is too long: a file name may have no more "
-                              "than %2 bytes.")
-                               .arg(info.fileName().left(kShownName))
-                               .arg(kLongestName));
+        return outputError(
+            tr("The video's name \"%1...\" is too long: a file name may have no more "
+               "than %2 bytes.")
+                .arg(info.fileName().left(kShownName))
+                .arg(kLongestName));
     if (!folder.exists())
         return outputError(tr("The folder \"%1\" for the video does not exist.").arg(m_folder));
     if (!folder.isDir())
-        return outputError(tr("The video cannot be written into \"%1\": it is not a folder.")
-                               .arg(m_folder));
+        return outputError(
+            tr("The video cannot be written into \"%1\": it is not a folder.").arg(m_folder));
     if (info.isDir())
-        return outputError(tr("The video cannot be written as \"%1\": a folder has that name.")
-                               .arg(m_fileName));
+        return outputError(
+            tr("The video cannot be written as \"%1\": a folder has that name.").arg(m_fileName));
     return {};
 }
 
@@ -159,8 +160,8 @@ RenderError OutputTarget::tryWriting() const
 {
     QFile trial(m_temporaryFile);
     const bool opened = trial.open(QIODevice::WriteOnly);
-    const bool written = opened && trial.write(QByteArray(kTrialSize, '\0')) == kTrialSize &&
-                         trial.flush();
+    const bool written =
+        opened && trial.write(QByteArray(kTrialSize, '\0')) == kTrialSize && trial.flush();
     const bool noSpace = trial.error() == QFileDevice::ResourceError ||
                          QStorageInfo(m_folder).bytesAvailable() < kTrialSize;
     const QString reason = trial.errorString();
@@ -171,8 +172,7 @@ RenderError OutputTarget::tryWriting() const
     if (noSpace)
         return {RenderErrorCode::kDiskFull,
                 tr("The video cannot be written into \"%1\": the disk is full.").arg(m_folder)};
-    return outputError(
-        tr("The video cannot be written into \"%1\": %2.").arg(m_folder, reason));
+    return outputError(tr("The video cannot be written into \"%1\": %2.").arg(m_folder, reason));
 }
 
 RenderError OutputTarget::lock(const QString &lockFolder)
@@ -182,8 +182,8 @@ RenderError OutputTarget::lock(const QString &lockFolder)
     const QByteArray hash =
         QCryptographicHash::hash(canonical.toUtf8(), QCryptographicHash::Sha1).toHex();
     Paths::ensureFolder(lockFolder);
-    m_lock = std::make_unique<QLockFile>(QStringLiteral("%1/%2.lock")
-                                             .arg(lockFolder, QString::fromLatin1(hash)));
+    m_lock = std::make_unique<QLockFile>(
+        QStringLiteral("%1/%2.lock").arg(lockFolder, QString::fromLatin1(hash)));
     m_lock->setStaleLockTime(0); // a render may take hours; only a dead owner makes a lock stale
     if (m_lock->tryLock(0))
         return {};

@@ -5,6 +5,7 @@
 
 #include <QLockFile>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -38,6 +39,8 @@ public:
     /// Removes the temporary file, if any, and gives up the lock.
     void release();
 
+    /// The suffixes of the containers that can be written, in lower case, without a dot.
+    static const QStringList &knownSuffixes();
     /// Whether a file name is one that a render gives to unfinished videos.
     static bool isTemporaryName(const QString &name);
 

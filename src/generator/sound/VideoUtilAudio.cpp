@@ -8,8 +8,6 @@
 
 #include <QFileInfo>
 
-#include <cmath>
-
 namespace velmora
 {
 
@@ -53,7 +51,7 @@ bool VideoUtil::prepareAudioLoop(const QString &source, int length, QString &out
         return true;
     }
     qCInfo(generatorLog) << "LOOP AUDIO";
-    const auto count = static_cast<int>(std::ceil(static_cast<double>(length) / duration));
+    const auto count = static_cast<int>((length + duration - 1) / duration); // rounded up
     // A repetition that ends with the video has its own fade there.
     const bool fadesAtEnd = fade > 0 && length % duration != 0;
     const QString looped = fadesAtEnd ? beside(output, "audio_stream_looped_no_fade.wav") : output;

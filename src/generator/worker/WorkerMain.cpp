@@ -2,9 +2,9 @@
 #include "generator/worker/WorkerMain.h"
 
 #include "generator/GeneratorLog.h"
+#include "generator/worker/ProtocolPrinter.h"
 #include "generator/worker/WorkerProtocol.h"
 #include "generator/worker/WorkerRun.h"
-#include "platform/StandardOutput.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -18,8 +18,6 @@ namespace velmora
 namespace
 {
 
-constexpr int kPrintWait = 5000; // ms
-
 struct WorkerArguments {
     QString sessionId;
     QString cacheFolder;
@@ -29,10 +27,7 @@ struct WorkerArguments {
 int refuse(const QString &reason)
 {
     qCCritical(generatorLog).noquote() << reason;
-    WorkerMessage message;
-    message.kind = WorkerMessage::Kind::Failed;
-    message.error = {QStringLiteral("ERR_REQUEST"), reason};
-    StandardOutput::write(WorkerProtocol::encode(message), kPrintWait);
+    ProtocolPrinter::failed({RenderErrorCode::kRequest, reason});
     return kExitBadArguments;
 }
 

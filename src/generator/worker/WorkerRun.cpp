@@ -3,8 +3,8 @@
 
 #include "app/Paths.h"
 #include "generator/GeneratorLog.h"
+#include "generator/worker/ProtocolPrinter.h"
 #include "platform/SessionValues.h"
-#include "platform/StandardOutput.h"
 #include "platform/TerminationWatcher.h"
 
 namespace velmora
@@ -14,30 +14,6 @@ namespace
 {
 
 constexpr int kPollInterval = 100; // ms
-constexpr int kFinalWait = 5000;   // ms that the last line may wait for a slow reader
-
-WorkerMessage messageOf(WorkerMessage::Kind kind)
-{
-    WorkerMessage message;
-    message.kind = kind;
-    return message;
-}
-
-void printProgress(qint64 frame, qint64 count)
-{
-    WorkerMessage message = messageOf(WorkerMessage::Kind::Progress);
-    message.frame = frame;
-    message.count = count;
-    // A reader that lags loses this line; a newer one follows.
-    StandardOutput::write(WorkerProtocol::encode(message), 0);
-}
-
-void printStage(const QString &stage)
-{
-    WorkerMessage message = messageOf(WorkerMessage::Kind::Stage);
-    message.stage = stage;
-    StandardOutput::write(WorkerProtocol::encode(message), 0);
-}
 
 } // namespace
 
@@ -48,20 +24,20 @@ WorkerRun::WorkerRun(RenderRequest request, const AppSettings &settings, const Q
       m_job(std::move(request), settings, cacheFolder)
 {
     connect(&m_poll, &QTimer::timeout, this, &WorkerRun::pollSession);
-    connect(&m_job, &RenderJob::progress, this, printProgress);
-    connect(&m_job, &RenderJob::stageChanged, this, printStage);
+    connect(&m_job, &RenderJob::progress, this, ProtocolPrinter::progress);
+    connect(&m_job, &RenderJob::stageChanged, this, ProtocolPrinter::stage);
     connect(&m_job, &RenderJob::finished, this, [this](const QString &fileName) {
-        WorkerMessage message = messageOf(WorkerMessage::Kind::Finished);
-        message.fileName = fileName;
-        end(message, kExitDone);
+        ProtocolPrinter::finished(fileName);
+        end(kExitDone);
     });
     connect(&m_job, &RenderJob::failed, this, [this](const RenderError &error) {
-        WorkerMessage message = messageOf(WorkerMessage::Kind::Failed);
-        message.error = error;
-        end(message, kExitFailed);
+        ProtocolPrinter::failed(error);
+        end(kExitFailed);
     });
-    connect(&m_job, &RenderJob::cancelled, this,
-            [this] { end(messageOf(WorkerMessage::Kind::Cancelled), kExitCancelled); });
+    connect(&m_job, &RenderJob::cancelled, this, [this] {
+        ProtocolPrinter::cancelled();
+        end(kExitCancelled);
+    });
 }
 
 WorkerRun::~WorkerRun() = default;
@@ -98,12 +74,10 @@ void WorkerRun::cancel()
     m_job.cancel();
 }
 
-void WorkerRun::end(const WorkerMessage &message, int exitCode)
+void WorkerRun::end(int exitCode)
 {
     m_exitCode = exitCode;
     m_ended = true;
-    if (!StandardOutput::write(WorkerProtocol::encode(message), kFinalWait))
-        qCWarning(generatorLog) << "Nobody reads the result";
     m_loop.quit();
 }
 

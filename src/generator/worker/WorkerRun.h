@@ -32,7 +32,7 @@ public:
 private:
     void pollSession();
     void cancel();
-    void end(const WorkerMessage &message, int exitCode);
+    void end(int exitCode);
 
     std::unique_ptr<SessionValues> m_session;
     std::unique_ptr<TerminationWatcher> m_termination;

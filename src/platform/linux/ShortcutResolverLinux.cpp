@@ -58,10 +58,10 @@ QString resolveShortcut(const QString &path)
 {
     QString current = path;
     for (int i = 0; i < kMaximumLinks; ++i) {
-        // The system follows symbolic links itself and gives up on circles.
         if (QFileInfo(current).isSymLink()) {
             current = QFileInfo(current).canonicalFilePath();
-            if (current.isEmpty())
+            // A circle leaves the path as it was; the system then finds no file there.
+            if (!QFileInfo::exists(current))
                 return {};
         }
         const QString url = linkUrl(current);

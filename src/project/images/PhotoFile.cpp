@@ -92,6 +92,7 @@ bool PhotoFile::open()
         return false;
     m_reader.setDevice(&m_file);
     m_reader.setDecideFormatFromContent(true);
+    m_reader.setAutoTransform(false); // The TIFF reader would turn pictures by itself.
     if (!m_reader.canRead())
         return fail(notAPicture(), m_reader.errorString());
     m_format = m_reader.format();

@@ -11,6 +11,7 @@ class SoundCheckerTest : public QObject
 {
     Q_OBJECT
 private slots:
+    void initTestCase();
     void acceptsMusic_data();
     void acceptsMusic();
     void namesTheReason_data();
@@ -19,6 +20,32 @@ private slots:
 private:
     QTemporaryDir m_folder;
 };
+
+void SoundCheckerTest::initTestCase()
+{
+    const auto write = [this](const QString &fileName, const QByteArray &bytes) {
+        QFile file(m_folder.filePath(fileName));
+        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+    };
+    QVERIFY(write(QStringLiteral("empty.mp3"), {}));
+    QVERIFY(write(QStringLiteral("text.ogg"), QByteArray("words\n").repeated(1000)));
+    QVERIFY(write(QStringLiteral("list.wma"), "ffconcat version 1.0\nfile '/tmp/a.wav'\n"));
+    QVERIFY(MediaSamples::encode({QStringLiteral("-f"), QStringLiteral("lavfi"),
+                                  QStringLiteral("-i"), QStringLiteral("color=red:size=16x16"),
+                                  QStringLiteral("-frames:v"), QStringLiteral("1"),
+                                  m_folder.filePath(QStringLiteral("picture.jpg"))}));
+    const QString whole = m_folder.filePath(QStringLiteral("whole.m4a"));
+    QVERIFY(MediaSamples::makeTone(whole, {440, 1, 44100, 2}));
+    QFile wholeFile(whole);
+    QVERIFY(wholeFile.open(QIODevice::ReadOnly));
+    QVERIFY(write(QStringLiteral("cut.m4a"), wholeFile.read(4000)));
+    const QString wav = m_folder.filePath(QStringLiteral("whole.wav"));
+    QVERIFY(MediaSamples::makeTone(wav, {440, 1, 44100, 2}));
+    QFile wavFile(wav);
+    QVERIFY(wavFile.open(QIODevice::ReadOnly));
+    const QByteArray header = wavFile.read(200);
+    QVERIFY(write(QStringLiteral("header.wav"), header.left(header.indexOf("data") + 8)));
+}
 
 void SoundCheckerTest::acceptsMusic_data()
 {
@@ -55,29 +82,6 @@ void SoundCheckerTest::namesTheReason()
 {
     QFETCH(QString, name);
     QFETCH(QString, reason);
-    const auto write = [this](const QString &fileName, const QByteArray &bytes) {
-        QFile file(m_folder.filePath(fileName));
-        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-    };
-    QVERIFY(write(QStringLiteral("empty.mp3"), {}));
-    QVERIFY(write(QStringLiteral("text.ogg"), QByteArray("words\n").repeated(1000)));
-    QVERIFY(write(QStringLiteral("list.wma"), "ffconcat version 1.0\nfile '/tmp/a.wav'\n"));
-    QVERIFY(MediaSamples::encode({QStringLiteral("-f"), QStringLiteral("lavfi"),
-                                  QStringLiteral("-i"), QStringLiteral("color=red:size=16x16"),
-                                  QStringLiteral("-frames:v"), QStringLiteral("1"),
-                                  m_folder.filePath(QStringLiteral("picture.jpg"))}));
-    const QString whole = m_folder.filePath(QStringLiteral("whole.m4a"));
-    QVERIFY(MediaSamples::makeTone(whole, {440, 1, 44100, 2}));
-    QFile wholeFile(whole);
-    QVERIFY(wholeFile.open(QIODevice::ReadOnly));
-    QVERIFY(write(QStringLiteral("cut.m4a"), wholeFile.read(4000)));
-    const QString wav = m_folder.filePath(QStringLiteral("whole.wav"));
-    QVERIFY(MediaSamples::makeTone(wav, {440, 1, 44100, 2}));
-    QFile wavFile(wav);
-    QVERIFY(wavFile.open(QIODevice::ReadOnly));
-    const QByteArray header = wavFile.read(200);
-    QVERIFY(write(QStringLiteral("header.wav"), header.left(header.indexOf("data") + 8)));
-
     const QString found = checkSoundFile(m_folder.filePath(name));
     QVERIFY2(found.contains(reason), qPrintable(found));
 }

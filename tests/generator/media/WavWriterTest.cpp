@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "generator/media/MediaFileInfo.h"
 #include "generator/media/WavWriter.h"
+#include "generator/media/MediaFileInfo.h"
 
 #include <QDir>
 #include <QTemporaryDir>
