@@ -89,6 +89,10 @@ void VelmoraStartTest::firstStart()
     QVERIFY(services.open(QIODevice::WriteOnly));
     services.write("[metrics]\naddress=http://127.0.0.1:1/\nbatch=2\n");
     services.close();
+    QFile settings(m_data->filePath(QStringLiteral("settings.ini")));
+    QVERIFY(settings.open(QIODevice::WriteOnly));
+    settings.write("[General]\nsendStatistics=true\n");
+    settings.close();
     const auto program = start({QStringLiteral("--inst")});
     QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 20000);
     QVERIFY(QDir(m_data->filePath(QStringLiteral("cache/data"))).exists());
