@@ -158,7 +158,7 @@ void VelmoraStartTest::startsAlthoughFirstIsSilent()
     QTRY_VERIFY(logged(kReady));
     ::kill(static_cast<pid_t>(first->processId()), SIGSTOP);
     const auto second = start();
-    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 30000);
+    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 90000);
     end(*second);
     end(*first);
 }
