@@ -15,7 +15,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QMutexLocker>
 #include <QTime>
 
 #include <cstdlib>
@@ -217,7 +216,7 @@ void GeneratorThread::conclude(bool done)
     RenderError error;
     int step = -1;
     {
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard<std::mutex> locker(m_mutex);
         error = m_error;
         step = m_step;
     }
@@ -273,7 +272,7 @@ void GeneratorThread::waitWhilePaused() const
 
 void GeneratorThread::fail(const RenderError &error)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     // Whatever fails after the first failure or after a cancel fails because of it.
     if (!m_context.cancelled)
         m_error = error;
@@ -300,7 +299,7 @@ void GeneratorThread::reportSlidePainted(int order)
 void GeneratorThread::enterStep(Step step)
 {
     {
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard<std::mutex> locker(m_mutex);
         if (m_step >= step)
             return;
         m_step = step;
@@ -325,7 +324,7 @@ void GeneratorThread::onTimer()
 {
     QString output;
     {
-        const QMutexLocker locker(&m_context.outputMutex);
+        const std::lock_guard<std::mutex> locker(m_context.outputMutex);
         output.swap(m_context.encoderOutput);
     }
     if (m_timePattern.lastIndexIn(output) >= 0) {

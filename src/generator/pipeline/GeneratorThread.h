@@ -10,7 +10,6 @@
 #include "project/frames/FrameFitter.h"
 
 #include <QElapsedTimer>
-#include <QMutex>
 #include <QRegExp>
 #include <QSize>
 #include <QThread>
@@ -19,6 +18,7 @@
 
 #include <atomic>
 #include <memory>
+#include <mutex>
 
 namespace velmora
 {
@@ -122,7 +122,7 @@ private:
     std::unique_ptr<PrepareAudioThread> m_soundThread;
 
     std::atomic_bool m_paused{false};
-    QMutex m_mutex; ///< Guards the error and the step.
+    std::mutex m_mutex; ///< Guards the error and the step.
     RenderError m_error;
     int m_step = -1;
 

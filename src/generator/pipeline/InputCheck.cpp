@@ -10,9 +10,9 @@
 #include <QCoreApplication>
 #include <QSet>
 #include <QStringList>
-#include <QThreadPool>
-#include <QVector>
-#include <QtConcurrent>
+
+#include <thread>
+#include <vector>
 
 namespace velmora
 {
@@ -20,7 +20,6 @@ namespace velmora
 namespace
 {
 
-constexpr int kThreads = 2;          // a picture without scaled decoding needs much memory
 constexpr int kLongestText = 16'000; // characters; the message must stay readable
 
 struct Check {
@@ -29,13 +28,13 @@ struct Check {
     QString sentence; ///< What is wrong; empty when fine.
 };
 
-QVector<Check> filesOf(const ProjectFile &project)
+std::vector<Check> filesOf(const ProjectFile &project)
 {
-    QVector<Check> checks;
+    std::vector<Check> checks;
     QSet<QString> seen;
     const auto add = [&](const QString &path, bool isSound) {
         if (!seen.contains(path))
-            checks.append({path, isSound, {}});
+            checks.push_back({path, isSound, {}});
         seen.insert(path);
     };
     for (const ProjectItem *item : project.items()) {
@@ -78,16 +77,16 @@ QString joined(const QStringList &sentences)
 
 RenderError InputCheck::run(const ProjectFile &project, const std::atomic_bool &cancelled)
 {
-    QVector<Check> checks = filesOf(project);
-    QThreadPool pool;
-    pool.setMaxThreadCount(kThreads);
-    for (Check &check : checks) {
-        QtConcurrent::run(&pool, [&check, &cancelled] {
-            if (!cancelled)
-                look(check);
-        });
-    }
-    pool.waitForDone();
+    std::vector<Check> checks = filesOf(project);
+    // Two threads, no more: a picture without scaled decoding needs much memory.
+    std::atomic_size_t next{0};
+    const auto work = [&checks, &next, &cancelled] {
+        for (size_t i = next++; i < checks.size() && !cancelled; i = next++)
+            look(checks[i]);
+    };
+    std::thread helper(work);
+    work();
+    helper.join();
     QStringList sentences;
     for (const Check &check : checks) {
         if (!check.sentence.isEmpty())
