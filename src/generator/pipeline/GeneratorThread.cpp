@@ -118,7 +118,6 @@ bool GeneratorThread::encodeSlides()
         encodeInPool();
     else
         encodeInOrder();
-    m_frames.reset();
     return !m_context.cancelled;
 }
 
@@ -292,8 +291,12 @@ void GeneratorThread::reportProgress(qint64 units)
 
 void GeneratorThread::reportSlidePainted(int order)
 {
-    QMetaObject::invokeMethod(
-        this, [this, order] { onPreviewFrameGenerated(order); }, Qt::QueuedConnection);
+    {
+        const std::lock_guard<std::mutex> locker(m_mutex);
+        m_painted.append(order);
+    }
+    QMetaObject::invokeMethod(this, &GeneratorThread::onPreviewFrameGenerated,
+                              Qt::QueuedConnection);
 }
 
 void GeneratorThread::enterStep(Step step)
@@ -314,10 +317,17 @@ void GeneratorThread::onVideoFrameGenerated()
         emit videoFrameGenerated(frame, m_progress.count(), m_context.size);
 }
 
-void GeneratorThread::onPreviewFrameGenerated(int order)
+void GeneratorThread::onPreviewFrameGenerated()
 {
-    const int index = m_plan.slides().at(order).index;
-    emit previewFrameGenerated(m_project.items().at(index), index);
+    QVector<int> painted;
+    {
+        const std::lock_guard<std::mutex> locker(m_mutex);
+        painted.swap(m_painted);
+    }
+    for (const int order : qAsConst(painted)) {
+        const int index = m_plan.slides().at(order).index;
+        emit previewFrameGenerated(m_project.items().at(index), index);
+    }
 }
 
 void GeneratorThread::onTimer()

@@ -77,7 +77,7 @@ protected:
 
 private slots:
     void onVideoFrameGenerated();
-    void onPreviewFrameGenerated(int order);
+    void onPreviewFrameGenerated();
 
 private:
     class VideoConverterTask;
@@ -122,8 +122,9 @@ private:
     std::unique_ptr<PrepareAudioThread> m_soundThread;
 
     std::atomic_bool m_paused{false};
-    std::mutex m_mutex; ///< Guards the error and the step.
+    std::mutex m_mutex; ///< Guards the members below it, up to the step.
     RenderError m_error;
+    QVector<int> m_painted; ///< Slides whose painting is to be told, by order.
     int m_step = -1;
 
     QElapsedTimer m_elapsed;
