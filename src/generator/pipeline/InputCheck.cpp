@@ -8,9 +8,11 @@
 #include "project/slides/ProjectItemSimple.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QSet>
 #include <QStringList>
 
+#include <mutex>
 #include <thread>
 #include <vector>
 
@@ -47,8 +49,18 @@ std::vector<Check> filesOf(const ProjectFile &project)
     return checks;
 }
 
-void look(Check &check)
+/// Whether the check decodes the whole picture, which takes much memory.
+bool isHeavy(const Check &check)
 {
+    const QString suffix = QFileInfo(check.path).suffix().toLower();
+    return !check.isSound && suffix != QLatin1String("jpg") && suffix != QLatin1String("jpeg");
+}
+
+void look(Check &check, std::mutex &heavyMutex)
+{
+    std::unique_lock<std::mutex> locker(heavyMutex, std::defer_lock);
+    if (isHeavy(check))
+        locker.lock();
     const QString reason =
         check.isSound ? checkSoundFile(check.path) : ImageLoader::check(check.path);
     if (!reason.isEmpty())
@@ -78,11 +90,11 @@ QString joined(const QStringList &sentences)
 RenderError InputCheck::run(const ProjectFile &project, const std::atomic_bool &cancelled)
 {
     std::vector<Check> checks = filesOf(project);
-    // Two threads, no more: a picture without scaled decoding needs much memory.
+    std::mutex heavyMutex;
     std::atomic_size_t next{0};
-    const auto work = [&checks, &next, &cancelled] {
+    const auto work = [&] {
         for (size_t i = next++; i < checks.size() && !cancelled; i = next++)
-            look(checks[i]);
+            look(checks[i], heavyMutex);
     };
     std::thread helper(work);
     work();
