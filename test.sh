@@ -131,7 +131,7 @@ if [ "$asan" = yes ]; then
     run_tests asan-ubsan "$only"
 fi
 if [ "$tsan" = yes ]; then
-    export TSAN_OPTIONS=suppressions=$PWD/tests/sanitizers/tsan.supp:halt_on_error=1
+    export TSAN_OPTIONS=suppressions=$PWD/tests/sanitizers/tsan.supp:ignore_noninstrumented_modules=1:halt_on_error=1
     run_tests tsan "$only"
 fi
 [ "$fuzz" = 0 ] || run_fuzzers

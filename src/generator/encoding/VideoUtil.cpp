@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QMutexLocker>
 
 namespace velmora
 {
@@ -56,7 +55,7 @@ ToolResult VideoUtil::runEncoder(const QStringList &arguments, bool feedProgress
     ToolRunner::ErrorOutput onError;
     if (feedProgress) {
         onError = [this](const QByteArray &piece) {
-            QMutexLocker locker(&m_context.outputMutex);
+            const std::lock_guard<std::mutex> locker(m_context.outputMutex);
             m_context.encoderOutput += QString::fromUtf8(piece);
             m_context.encoderOutput = m_context.encoderOutput.right(kKeptProgress);
         };

@@ -8,12 +8,12 @@
 #include "project/slides/TransitionType.h"
 
 #include <QImage>
-#include <QMutex>
 #include <QSize>
 #include <QString>
 #include <QStringList>
 
 #include <atomic>
+#include <mutex>
 
 namespace velmora
 {
@@ -27,8 +27,8 @@ struct EncodingContext {
     QString cachePath; ///< The cache folder, with "images/" and "video/" in it.
     QString encoder;   ///< Absolute path of ffmpeg.
     std::atomic_bool cancelled{false};
-    QMutex outputMutex;    ///< Guards encoderOutput.
-    QString encoderOutput; ///< Standard error of running encoders, for the progress reader.
+    std::mutex outputMutex; ///< Guards encoderOutput.
+    QString encoderOutput;  ///< Standard error of running encoders, for the progress reader.
 };
 
 /// Builds every command line of the encoder and runs it. One object per thread; all share one

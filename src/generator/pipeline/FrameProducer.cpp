@@ -5,8 +5,7 @@
 #include "generator/pipeline/FramePainter.h"
 #include "generator/pipeline/SlideFrames.h"
 
-#include <QMutexLocker>
-
+#include <chrono>
 #include <utility>
 
 namespace velmora
@@ -14,7 +13,7 @@ namespace velmora
 
 namespace
 {
-constexpr unsigned long kPollInterval = 100; // ms; pause and cancel are polled
+constexpr std::chrono::milliseconds kPollInterval(100); // pause and cancel are polled
 }
 
 FrameProducer::FrameProducer(const RenderPlan &plan, SlideFrames &frames, EncodingContext &context,
@@ -40,18 +39,18 @@ bool FrameProducer::waitForStage(int order, int stage)
 {
     const int work = workOf(order, stage);
     FramePainter painter(m_plan, m_frames, m_context);
-    QMutexLocker locker(&m_mutex);
+    std::unique_lock<std::mutex> locker(m_mutex);
     while (m_works.at(work).painted < m_works.at(work).pictures) {
         if (m_context.cancelled)
             return false;
         Picture picture;
         if (!take(work, &picture)) {
-            m_changed.wait(&m_mutex, kPollInterval);
+            m_changed.wait_for(locker, kPollInterval);
             continue;
         }
         locker.unlock();
         const bool painted = paint(painter, picture);
-        locker.relock();
+        locker.lock();
         if (!painted)
             return false;
     }
@@ -60,26 +59,26 @@ bool FrameProducer::waitForStage(int order, int stage)
 
 void FrameProducer::stageEncoded(int order, int stage)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     const int work = workOf(order, stage);
     m_ahead -= m_works.at(work).pictures;
     m_encoding = work + 1;
-    m_changed.wakeAll();
+    m_changed.notify_all();
 }
 
 void FrameProducer::run()
 {
     FramePainter painter(m_plan, m_frames, m_context);
-    QMutexLocker locker(&m_mutex);
+    std::unique_lock<std::mutex> locker(m_mutex);
     while (!m_context.cancelled && m_next < m_works.size()) {
         Picture picture;
         if (!take(m_works.size() - 1, &picture)) {
-            m_changed.wait(&m_mutex, kPollInterval);
+            m_changed.wait_for(locker, kPollInterval);
             continue;
         }
         locker.unlock();
         const bool painted = paint(painter, picture);
-        locker.relock();
+        locker.lock();
         if (!painted)
             break;
     }
@@ -122,10 +121,10 @@ bool FrameProducer::paint(FramePainter &painter, const Picture &picture)
     }
     bool slideDone = false;
     {
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard<std::mutex> locker(m_mutex);
         ++m_works[picture.work].painted;
         slideDone = --m_unpainted[order] == 0;
-        m_changed.wakeAll();
+        m_changed.notify_all();
     }
     m_reports.painted();
     if (slideDone) {

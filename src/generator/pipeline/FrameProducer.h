@@ -5,13 +5,13 @@
 #include "generator/pipeline/RenderError.h"
 #include "generator/pipeline/RenderPlan.h"
 
-#include <QMutex>
 #include <QThread>
 #include <QVector>
-#include <QWaitCondition>
 
 #include <atomic>
+#include <condition_variable>
 #include <functional>
+#include <mutex>
 
 namespace velmora
 {
@@ -25,7 +25,7 @@ class SlideFrames;
 class FrameProducer : public QThread
 {
 public:
-    static constexpr int kPicturesAhead = 100;
+    static constexpr int kPicturesAhead = 150;
 
     /// Called from any painting thread.
     struct Reports {
@@ -70,8 +70,8 @@ private:
     const std::atomic_bool &m_paused;
     const Reports m_reports;
 
-    QMutex m_mutex;
-    QWaitCondition m_changed;
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
     QVector<Work> m_works;    ///< All stages of the plan in order.
     QVector<int> m_firstWork; ///< Of each slide.
     QVector<int> m_unpainted; ///< Pictures left of each slide.

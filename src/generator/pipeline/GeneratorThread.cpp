@@ -15,7 +15,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QMutexLocker>
 #include <QTime>
 
 #include <cstdlib>
@@ -119,7 +118,6 @@ bool GeneratorThread::encodeSlides()
         encodeInPool();
     else
         encodeInOrder();
-    m_frames.reset();
     return !m_context.cancelled;
 }
 
@@ -217,7 +215,7 @@ void GeneratorThread::conclude(bool done)
     RenderError error;
     int step = -1;
     {
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard<std::mutex> locker(m_mutex);
         error = m_error;
         step = m_step;
     }
@@ -273,7 +271,7 @@ void GeneratorThread::waitWhilePaused() const
 
 void GeneratorThread::fail(const RenderError &error)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     // Whatever fails after the first failure or after a cancel fails because of it.
     if (!m_context.cancelled)
         m_error = error;
@@ -293,14 +291,18 @@ void GeneratorThread::reportProgress(qint64 units)
 
 void GeneratorThread::reportSlidePainted(int order)
 {
-    QMetaObject::invokeMethod(
-        this, [this, order] { onPreviewFrameGenerated(order); }, Qt::QueuedConnection);
+    {
+        const std::lock_guard<std::mutex> locker(m_mutex);
+        m_painted.append(order);
+    }
+    QMetaObject::invokeMethod(this, &GeneratorThread::onPreviewFrameGenerated,
+                              Qt::QueuedConnection);
 }
 
 void GeneratorThread::enterStep(Step step)
 {
     {
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard<std::mutex> locker(m_mutex);
         if (m_step >= step)
             return;
         m_step = step;
@@ -315,17 +317,24 @@ void GeneratorThread::onVideoFrameGenerated()
         emit videoFrameGenerated(frame, m_progress.count(), m_context.size);
 }
 
-void GeneratorThread::onPreviewFrameGenerated(int order)
+void GeneratorThread::onPreviewFrameGenerated()
 {
-    const int index = m_plan.slides().at(order).index;
-    emit previewFrameGenerated(m_project.items().at(index), index);
+    QVector<int> painted;
+    {
+        const std::lock_guard<std::mutex> locker(m_mutex);
+        painted.swap(m_painted);
+    }
+    for (const int order : qAsConst(painted)) {
+        const int index = m_plan.slides().at(order).index;
+        emit previewFrameGenerated(m_project.items().at(index), index);
+    }
 }
 
 void GeneratorThread::onTimer()
 {
     QString output;
     {
-        const QMutexLocker locker(&m_context.outputMutex);
+        const std::lock_guard<std::mutex> locker(m_context.outputMutex);
         output.swap(m_context.encoderOutput);
     }
     if (m_timePattern.lastIndexIn(output) >= 0) {

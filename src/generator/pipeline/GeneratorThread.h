@@ -10,7 +10,6 @@
 #include "project/frames/FrameFitter.h"
 
 #include <QElapsedTimer>
-#include <QMutex>
 #include <QRegExp>
 #include <QSize>
 #include <QThread>
@@ -19,6 +18,7 @@
 
 #include <atomic>
 #include <memory>
+#include <mutex>
 
 namespace velmora
 {
@@ -77,7 +77,7 @@ protected:
 
 private slots:
     void onVideoFrameGenerated();
-    void onPreviewFrameGenerated(int order);
+    void onPreviewFrameGenerated();
 
 private:
     class VideoConverterTask;
@@ -122,8 +122,9 @@ private:
     std::unique_ptr<PrepareAudioThread> m_soundThread;
 
     std::atomic_bool m_paused{false};
-    QMutex m_mutex; ///< Guards the error and the step.
+    std::mutex m_mutex; ///< Guards the members below it, up to the step.
     RenderError m_error;
+    QVector<int> m_painted; ///< Slides whose painting is to be told, by order.
     int m_step = -1;
 
     QElapsedTimer m_elapsed;

@@ -8,11 +8,13 @@
 #include "project/slides/ProjectItemSimple.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QSet>
 #include <QStringList>
-#include <QThreadPool>
-#include <QVector>
-#include <QtConcurrent>
+
+#include <mutex>
+#include <thread>
+#include <vector>
 
 namespace velmora
 {
@@ -20,7 +22,6 @@ namespace velmora
 namespace
 {
 
-constexpr int kThreads = 2;          // a picture without scaled decoding needs much memory
 constexpr int kLongestText = 16'000; // characters; the message must stay readable
 
 struct Check {
@@ -29,13 +30,13 @@ struct Check {
     QString sentence; ///< What is wrong; empty when fine.
 };
 
-QVector<Check> filesOf(const ProjectFile &project)
+std::vector<Check> filesOf(const ProjectFile &project)
 {
-    QVector<Check> checks;
+    std::vector<Check> checks;
     QSet<QString> seen;
     const auto add = [&](const QString &path, bool isSound) {
         if (!seen.contains(path))
-            checks.append({path, isSound, {}});
+            checks.push_back({path, isSound, {}});
         seen.insert(path);
     };
     for (const ProjectItem *item : project.items()) {
@@ -48,8 +49,18 @@ QVector<Check> filesOf(const ProjectFile &project)
     return checks;
 }
 
-void look(Check &check)
+/// Whether the check decodes the whole picture, which takes much memory.
+bool isHeavy(const Check &check)
 {
+    const QString suffix = QFileInfo(check.path).suffix().toLower();
+    return !check.isSound && suffix != QLatin1String("jpg") && suffix != QLatin1String("jpeg");
+}
+
+void look(Check &check, std::mutex &heavyMutex)
+{
+    std::unique_lock<std::mutex> locker(heavyMutex, std::defer_lock);
+    if (isHeavy(check))
+        locker.lock();
     const QString reason =
         check.isSound ? checkSoundFile(check.path) : ImageLoader::check(check.path);
     if (!reason.isEmpty())
@@ -78,16 +89,16 @@ QString joined(const QStringList &sentences)
 
 RenderError InputCheck::run(const ProjectFile &project, const std::atomic_bool &cancelled)
 {
-    QVector<Check> checks = filesOf(project);
-    QThreadPool pool;
-    pool.setMaxThreadCount(kThreads);
-    for (Check &check : checks) {
-        QtConcurrent::run(&pool, [&check, &cancelled] {
-            if (!cancelled)
-                look(check);
-        });
-    }
-    pool.waitForDone();
+    std::vector<Check> checks = filesOf(project);
+    std::mutex heavyMutex;
+    std::atomic_size_t next{0};
+    const auto work = [&] {
+        for (size_t i = next++; i < checks.size() && !cancelled; i = next++)
+            look(checks[i], heavyMutex);
+    };
+    std::thread helper(work);
+    work();
+    helper.join();
     QStringList sentences;
     for (const Check &check : checks) {
         if (!check.sentence.isEmpty())

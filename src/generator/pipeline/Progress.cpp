@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/Progress.h"
 
-#include <QMutexLocker>
-
 namespace velmora
 {
 
@@ -13,7 +11,7 @@ constexpr qint64 kReportInterval = 100; // ms
 
 void Progress::reset(qint64 count)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     m_count = count;
     m_done = 0;
     m_runs = 0;
@@ -24,19 +22,19 @@ void Progress::reset(qint64 count)
 
 qint64 Progress::count() const
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     return m_count;
 }
 
 void Progress::advance(qint64 units)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     m_done += units;
 }
 
 void Progress::beginRun(qint64 units, qint64 length)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     ++m_runs;
     m_runUnits = units;
     m_runLength = length;
@@ -45,7 +43,7 @@ void Progress::beginRun(qint64 units, qint64 length)
 
 void Progress::setRunPosition(qint64 position)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     if (m_runs != 1 || m_runLength <= 0)
         return;
     m_runDone = qBound(m_runDone, m_runUnits * position / m_runLength, m_runUnits);
@@ -53,7 +51,7 @@ void Progress::setRunPosition(qint64 position)
 
 void Progress::endRun(qint64 units)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     --m_runs;
     m_done += units;
     // Which of several runs goes on is not known here, so that it counts only when it ends.
@@ -63,19 +61,19 @@ void Progress::endRun(qint64 units)
 
 void Progress::finish()
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     m_done = m_count;
 }
 
 qint64 Progress::value() const
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     return currentValue();
 }
 
 bool Progress::takeReport(qint64 *value)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     *value = currentValue();
     if (*value <= m_reported)
         return false;

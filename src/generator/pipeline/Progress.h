@@ -2,7 +2,8 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QMutex>
+
+#include <mutex>
 
 namespace velmora
 {
@@ -33,7 +34,7 @@ public:
 private:
     qint64 currentValue() const;
 
-    mutable QMutex m_mutex;
+    mutable std::mutex m_mutex;
     qint64 m_count = 0;
     qint64 m_done = 0;
     int m_runs = 0;

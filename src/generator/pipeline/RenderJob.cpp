@@ -9,11 +9,11 @@
 #include "generator/pipeline/InputCheck.h"
 #include "generator/pipeline/OutputTarget.h"
 
-#include <QFutureWatcher>
-#include <QtConcurrent>
+#include <QThread>
 
 #include <atomic>
 #include <functional>
+#include <mutex>
 #include <utility>
 
 namespace velmora
@@ -46,11 +46,25 @@ class RenderJob::Private
 {
 public:
     Private(RenderJob *job, RenderRequest renderRequest, QString folder)
-        : q(job), request(std::move(renderRequest)), cacheFolder(std::move(folder))
+        : q(job), request(std::move(renderRequest)), cacheFolder(std::move(folder)), checking(*this)
     {
     }
 
-    RenderError check();
+    /// Runs the checks off the job's thread.
+    class Checking : public QThread
+    {
+    public:
+        explicit Checking(Private &job) : m_job(job) {}
+
+    protected:
+        void run() override { m_job.check(); }
+
+    private:
+        Private &m_job;
+    };
+
+    void check();
+    RenderError findFault();
     RenderError checkProject() const;
     void onChecked();
     void startGenerator();
@@ -62,7 +76,9 @@ public:
     Timeline timeline;
     EncoderLocation encoder;
     OutputTarget target;
-    QFutureWatcher<RenderError> checking;
+    Checking checking;
+    std::mutex faultMutex;
+    RenderError fault; ///< What the checks found.
     std::unique_ptr<GeneratorThread> generator;
     std::atomic_bool cancelRequested{false};
     bool paused = false;
@@ -70,8 +86,15 @@ public:
     bool ended = false;
 };
 
-/// Everything that can be known before the first frame; on a pool thread.
-RenderError RenderJob::Private::check()
+void RenderJob::Private::check()
+{
+    const RenderError found = findFault();
+    const std::lock_guard<std::mutex> locker(faultMutex);
+    fault = found;
+}
+
+/// Everything that can be known before the first frame.
+RenderError RenderJob::Private::findFault()
 {
     RenderError error = checkProject();
     if (error.isSet())
@@ -104,7 +127,11 @@ RenderError RenderJob::Private::checkProject() const
 
 void RenderJob::Private::onChecked()
 {
-    const RenderError error = checking.result();
+    RenderError error;
+    {
+        const std::lock_guard<std::mutex> locker(faultMutex);
+        error = fault;
+    }
     if (error.isSet())
         qCWarning(generatorLog).noquote() << error.code << error.text;
     if (cancelRequested)
@@ -155,14 +182,14 @@ RenderJob::RenderJob(RenderRequest request, const AppSettings &settings, const Q
 {
     Q_UNUSED(settings)
     qRegisterMetaType<RenderError>();
-    connect(&d->checking, &QFutureWatcherBase::finished, this, [this] { d->onChecked(); });
+    connect(&d->checking, &QThread::finished, this, [this] { d->onChecked(); });
 }
 
 RenderJob::~RenderJob()
 {
     d->cancelRequested = true;
     d->checking.disconnect(this);
-    d->checking.waitForFinished();
+    d->checking.wait();
 }
 
 void RenderJob::start()
@@ -173,7 +200,7 @@ void RenderJob::start()
     emit stageChanged(QStringLiteral("check"));
     if (d->request.project)
         d->timeline = Timeline::ofProject(*d->request.project, d->request.transitionSeconds);
-    d->checking.setFuture(QtConcurrent::run([this] { return d->check(); }));
+    d->checking.start();
 }
 
 void RenderJob::setPaused(bool paused)

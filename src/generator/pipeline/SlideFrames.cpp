@@ -3,8 +3,6 @@
 
 #include "project/frames/SlideRenderer.h"
 
-#include <QMutexLocker>
-
 namespace velmora
 {
 
@@ -19,7 +17,7 @@ SlideFrames::SlideFrames(const RenderPlan &plan, const FrameFormat &format)
 QImage SlideFrames::bare(int order, QString *error)
 {
     Entry &entry = m_entries[static_cast<size_t>(order)];
-    const QMutexLocker locker(&entry.mutex);
+    const std::lock_guard<std::mutex> locker(entry.mutex);
     makeBare(entry, order);
     *error = entry.error;
     return entry.bare;
@@ -28,7 +26,7 @@ QImage SlideFrames::bare(int order, QString *error)
 QImage SlideFrames::captioned(int order, QString *error)
 {
     Entry &entry = m_entries[static_cast<size_t>(order)];
-    const QMutexLocker locker(&entry.mutex);
+    const std::lock_guard<std::mutex> locker(entry.mutex);
     if (entry.captioned.isNull()) {
         makeBare(entry, order);
         if (!entry.bare.isNull())
@@ -43,7 +41,7 @@ void SlideFrames::paintingDone(int order)
 {
     Entry &entry = m_entries[static_cast<size_t>(order)];
     {
-        const QMutexLocker locker(&entry.mutex);
+        const std::lock_guard<std::mutex> locker(entry.mutex);
         entry.bare = QImage();
     }
     release(entry);
@@ -55,13 +53,13 @@ void SlideFrames::makeBare(Entry &entry, int order)
 {
     if (!entry.bare.isNull() || !entry.error.isEmpty())
         return;
-    const QMutexLocker locker(&m_decoding);
+    const std::lock_guard<std::mutex> locker(m_decoding);
     entry.bare = SlideRenderer::bareFrame(*m_plan.slides().at(order).item, m_format, &entry.error);
 }
 
 void SlideFrames::release(Entry &entry)
 {
-    const QMutexLocker locker(&entry.mutex);
+    const std::lock_guard<std::mutex> locker(entry.mutex);
     if (--entry.users > 0)
         return;
     entry.bare = QImage();

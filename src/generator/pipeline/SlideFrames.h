@@ -5,9 +5,9 @@
 #include "project/frames/FrameFitter.h"
 
 #include <QImage>
-#include <QMutex>
 
 #include <memory>
+#include <mutex>
 
 namespace velmora
 {
@@ -32,7 +32,7 @@ public:
 
 private:
     struct Entry {
-        QMutex mutex;
+        std::mutex mutex;
         QImage bare;
         QImage captioned;
         QString error;
@@ -43,7 +43,7 @@ private:
 
     const RenderPlan &m_plan;
     const FrameFormat m_format;
-    QMutex m_decoding; ///< Only one photo is decoded at a time: large ones need much memory.
+    std::mutex m_decoding; ///< Only one photo is decoded at a time: large ones need much memory.
     std::unique_ptr<Entry[]> m_entries;
 };
 

@@ -15,7 +15,7 @@ namespace velmora
 GeneratorThread::VideoConverterTask::VideoConverterTask(GeneratorThread &generator, int order,
                                                         FrameProducer *producer)
     : m_generator(generator), m_order(order), m_slide(generator.m_plan.slides().at(order)),
-      m_producer(producer), m_util(generator.m_context)
+      m_producer(producer)
 {
 }
 
@@ -27,7 +27,8 @@ void GeneratorThread::VideoConverterTask::run()
     QElapsedTimer elapsed;
     elapsed.start();
     logType();
-    if ((m_producer || paintFrames()) && encodeStages() && joinStages())
+    VideoUtil util(m_generator.m_context);
+    if ((m_producer || paintFrames()) && encodeStages(util) && joinStages(util))
         qCInfo(generatorLog).noquote()
             << QStringLiteral("[OPERATION TIME:'%1']").arg(elapsed.elapsed());
 }
@@ -60,12 +61,12 @@ bool GeneratorThread::VideoConverterTask::paintFrames()
     return true;
 }
 
-bool GeneratorThread::VideoConverterTask::encodeStages()
+bool GeneratorThread::VideoConverterTask::encodeStages(VideoUtil &util)
 {
     for (int stage = 0; stage < m_slide.stages.size(); ++stage) {
         if (m_producer && !m_producer->waitForStage(m_order, stage))
             return false;
-        if (!encodeStage(stage))
+        if (!encodeStage(stage, util))
             return false;
         if (m_producer)
             m_producer->stageEncoded(m_order, stage);
@@ -73,7 +74,7 @@ bool GeneratorThread::VideoConverterTask::encodeStages()
     return true;
 }
 
-bool GeneratorThread::VideoConverterTask::encodeStage(int stage)
+bool GeneratorThread::VideoConverterTask::encodeStage(int stage, VideoUtil &util)
 {
     const PlannedStage &planned = m_slide.stages.at(stage);
     const qint64 length = planned.stage.length;
@@ -81,19 +82,19 @@ bool GeneratorThread::VideoConverterTask::encodeStage(int stage)
     qCInfo(generatorLog).noquote() << planned.encodeText();
     m_generator.enterStep(SegmentEncoding);
     m_generator.m_progress.beginRun(frames, length);
-    const bool done = m_util.encodeSegment(planned.prefix(), planned.pictures, length,
-                                           segmentFile(planned.stage.prefix()));
+    const bool done = util.encodeSegment(planned.prefix(), planned.pictures, length,
+                                         segmentFile(planned.stage.prefix()));
     m_generator.m_progress.endRun(frames);
-    m_util.removeFrames(planned.prefix(), planned.pictures);
+    util.removeFrames(planned.prefix(), planned.pictures);
     if (!done) {
-        m_generator.failWithTool(m_util);
+        m_generator.failWithTool(util);
         return false;
     }
     m_generator.reportProgress(0);
     return true;
 }
 
-bool GeneratorThread::VideoConverterTask::joinStages()
+bool GeneratorThread::VideoConverterTask::joinStages(VideoUtil &util)
 {
     qCInfo(generatorLog) << "Merge slide video";
     QStringList segments;
@@ -104,9 +105,9 @@ bool GeneratorThread::VideoConverterTask::joinStages()
     // A list of its own: two slides may be joined at the same time.
     const QString list =
         m_generator.m_cache.file(QStringLiteral("merge-files-%1.txt").arg(m_slide.index));
-    const bool done = m_util.join(segments, list, segmentFile('c'));
+    const bool done = util.join(segments, list, segmentFile('c'));
     if (!done)
-        m_generator.failWithTool(m_util);
+        m_generator.failWithTool(util);
     for (const QString &segment : qAsConst(segments))
         QFile::remove(segment);
     QFile::remove(list);

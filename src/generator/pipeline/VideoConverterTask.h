@@ -22,16 +22,15 @@ public:
 private:
     void logType() const;
     bool paintFrames();
-    bool encodeStages();
-    bool encodeStage(int stage);
-    bool joinStages();
+    bool encodeStages(VideoUtil &util);
+    bool encodeStage(int stage, VideoUtil &util);
+    bool joinStages(VideoUtil &util);
     QString segmentFile(char kind) const;
 
     GeneratorThread &m_generator;
     const int m_order;
     const PlannedSlide &m_slide;
     FrameProducer *const m_producer;
-    VideoUtil m_util;
 };
 
 } // namespace velmora
