@@ -105,7 +105,7 @@ run_fuzzers() {
     local target name found
     echo "== Fuzzing, $fuzz s each"
     cmake --preset fuzz >/dev/null
-    cmake --build --preset fuzz
+    cmake --build --preset fuzz --target fuzzers
     for target in build/fuzz/bin/Fuzz*; do
         [ -x "$target" ] || continue
         name=$(basename "$target")

@@ -19,7 +19,7 @@ namespace
 
 constexpr int kLongestTime = 86'400;    // s
 constexpr int kLongestTransition = 600; // s
-constexpr QLatin1String kPrefix("--");
+const QLatin1String kPrefix("--");
 
 QString tr(const char *text)
 {
