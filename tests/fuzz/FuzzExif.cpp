@@ -1,18 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "QuietLog.h"
-
 #include "project/images/ExifReader.h"
 
 #include <cstdint>
 #include <cstdlib>
 
 using namespace velmora;
-
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
-{
-    quietLog();
-    return 0;
-}
 
 /// Any bytes as a photo's file: whatever they say, the answer is one that callers can use.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
