@@ -3,10 +3,8 @@
 
 #include "project/images/Thumbnail.h"
 
-#include <QDeadlineTimer>
-#include <QMutexLocker>
-
 #include <algorithm>
+#include <chrono>
 
 namespace velmora
 {
@@ -15,8 +13,8 @@ namespace
 {
 
 // Between two thumbnails the thread leaves the disk and the processor to the editor for a moment.
-constexpr int kPauseAfterWork = 10; // ms
-constexpr int kPauseWhenIdle = 500; // ms; a request ends it early
+constexpr std::chrono::milliseconds kPauseAfterWork(10);
+constexpr std::chrono::milliseconds kPauseWhenIdle(500); // A request ends it early.
 
 } // namespace
 
@@ -30,21 +28,21 @@ ThubnailProvider::~ThubnailProvider()
 QUuid ThubnailProvider::request(const QString &path)
 {
     const QUuid id = QUuid::createUuid();
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     m_queue.enqueue({id, path});
-    m_wake.wakeAll();
+    m_wake.notify_all();
     return id;
 }
 
 QImage ThubnailProvider::thumbnail(const QUuid &id) const
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     return m_thumbnails.value(id);
 }
 
 void ThubnailProvider::drop(const QUuid &id)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     const auto isDropped = [&id](const Request &request) { return request.id == id; };
     m_queue.erase(std::remove_if(m_queue.begin(), m_queue.end(), isDropped), m_queue.end());
     m_thumbnails.remove(id);
@@ -54,7 +52,7 @@ void ThubnailProvider::drop(const QUuid &id)
 
 void ThubnailProvider::clear()
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     m_queue.clear();
     m_thumbnails.clear();
     m_inWork = QUuid();
@@ -65,8 +63,8 @@ void ThubnailProvider::stop()
     requestInterruption();
     {
         // The thread looks at the request for interruption under the mutex before it waits.
-        const QMutexLocker locker(&m_mutex);
-        m_wake.wakeAll();
+        const std::lock_guard<std::mutex> locker(m_mutex);
+        m_wake.notify_all();
     }
     wait();
 }
@@ -84,7 +82,7 @@ void ThubnailProvider::run()
 
 bool ThubnailProvider::takeRequest(Request *request)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     if (m_queue.isEmpty())
         return false;
     *request = m_queue.dequeue();
@@ -95,7 +93,7 @@ bool ThubnailProvider::takeRequest(Request *request)
 void ThubnailProvider::finishRequest(const Request &request, const QImage &thumbnail)
 {
     {
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard<std::mutex> locker(m_mutex);
         const bool isWanted = m_inWork == request.id && !thumbnail.isNull();
         m_inWork = QUuid();
         if (!isWanted)
@@ -107,12 +105,10 @@ void ThubnailProvider::finishRequest(const Request &request, const QImage &thumb
 
 void ThubnailProvider::rest(bool worked)
 {
-    const QDeadlineTimer end(worked ? kPauseAfterWork : kPauseWhenIdle);
-    const QMutexLocker locker(&m_mutex);
-    while (!isInterruptionRequested() && (worked || m_queue.isEmpty())) {
-        if (!m_wake.wait(&m_mutex, end))
-            return;
-    }
+    std::unique_lock<std::mutex> locker(m_mutex);
+    m_wake.wait_for(locker, worked ? kPauseAfterWork : kPauseWhenIdle, [this, worked] {
+        return isInterruptionRequested() || (!worked && !m_queue.isEmpty());
+    });
 }
 
 } // namespace velmora

@@ -3,12 +3,13 @@
 
 #include <QHash>
 #include <QImage>
-#include <QMutex>
 #include <QQueue>
 #include <QString>
 #include <QThread>
 #include <QUuid>
-#include <QWaitCondition>
+
+#include <condition_variable>
+#include <mutex>
 
 namespace velmora
 {
@@ -54,8 +55,8 @@ private:
     void finishRequest(const Request &request, const QImage &thumbnail);
     void rest(bool worked);
 
-    mutable QMutex m_mutex;
-    QWaitCondition m_wake;
+    mutable std::mutex m_mutex;
+    std::condition_variable m_wake;
     // Guarded by m_mutex:
     QQueue<Request> m_queue;
     QHash<QUuid, QImage> m_thumbnails;

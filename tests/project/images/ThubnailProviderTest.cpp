@@ -4,7 +4,6 @@
 #include "project/images/Pictures.h"
 #include "project/images/Thumbnail.h"
 
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -37,13 +36,21 @@ namespace
 
 constexpr QRgb kGrey = 0xff656565;
 
-QVector<QUuid> idsOf(const QSignalSpy &spy)
+/// The announced thumbnails, received in the thread of the test.
+class Announcements : public QObject
 {
-    QVector<QUuid> ids;
-    for (const QList<QVariant> &arguments : spy)
-        ids += arguments.first().toUuid();
-    return ids;
-}
+public:
+    explicit Announcements(const ThubnailProvider &provider)
+    {
+        connect(&provider, &ThubnailProvider::thumbnailReady, this,
+                [this](const QUuid &id) { m_ids += id; });
+    }
+    const QVector<QUuid> &ids() const { return m_ids; }
+    int count() const { return m_ids.size(); }
+
+private:
+    QVector<QUuid> m_ids;
+};
 
 } // namespace
 
@@ -92,14 +99,14 @@ void ThubnailProviderTest::transparentPartsShowGrey()
 void ThubnailProviderTest::thumbnailsArriveInOrder()
 {
     ThubnailProvider provider;
-    QSignalSpy ready(&provider, &ThubnailProvider::thumbnailReady);
+    const Announcements ready(provider);
     QVector<QUuid> ids;
     for (const char *name : {"photo.jpg", "wide.png", "photo.jpg"})
         ids += provider.request(path(name));
     QVERIFY(provider.thumbnail(ids.first()).isNull());
     provider.start();
     QTRY_COMPARE(ready.count(), 3);
-    QCOMPARE(idsOf(ready), ids);
+    QCOMPARE(ready.ids(), ids);
     QCOMPARE(Pictures::quadrantNames(provider.thumbnail(ids[0]), QRect(0, 10, 62, 42)),
              QStringLiteral("RGBW"));
     QCOMPARE(Pictures::quadrantNames(provider.thumbnail(ids[1]), QRect(0, 21, 62, 20)),
@@ -111,7 +118,7 @@ void ThubnailProviderTest::orientedPhotoStandsUpright()
     QVERIFY(QFile::copy(path("photo.jpg"), path("turned.jpg")));
     Pictures::setExif(path("turned.jpg"), "Exif.Image.Orientation", "6");
     ThubnailProvider provider;
-    QSignalSpy ready(&provider, &ThubnailProvider::thumbnailReady);
+    const Announcements ready(provider);
     const QUuid id = provider.request(path("turned.jpg"));
     provider.start();
     QTRY_COMPARE(ready.count(), 1);
@@ -122,7 +129,7 @@ void ThubnailProviderTest::orientedPhotoStandsUpright()
 void ThubnailProviderTest::idleThreadTakesNewRequests()
 {
     ThubnailProvider provider;
-    QSignalSpy ready(&provider, &ThubnailProvider::thumbnailReady);
+    const Announcements ready(provider);
     provider.start();
     for (int count = 1; count <= 3; ++count) {
         provider.request(path("photo.jpg"));
@@ -134,7 +141,7 @@ void ThubnailProviderTest::unreadablePhotoIsSkipped()
 {
     QVERIFY(Pictures::writeBytes(path("broken.jpg"), "no picture"));
     ThubnailProvider provider;
-    QSignalSpy ready(&provider, &ThubnailProvider::thumbnailReady);
+    const Announcements ready(provider);
     const QUuid broken = provider.request(path("broken.jpg"));
     const QUuid missing = provider.request(path("missing.jpg"));
     const QUuid good = provider.request(path("photo.jpg"));
@@ -144,7 +151,7 @@ void ThubnailProviderTest::unreadablePhotoIsSkipped()
             QStringLiteral("Read image:'%1' Error:'does not exist'").arg(path("missing.jpg"))));
     provider.start();
     QTRY_COMPARE(ready.count(), 1);
-    QCOMPARE(idsOf(ready), QVector<QUuid>{good});
+    QCOMPARE(ready.ids(), QVector<QUuid>{good});
     QVERIFY(provider.thumbnail(broken).isNull());
     QVERIFY(provider.thumbnail(missing).isNull());
 }
@@ -152,13 +159,13 @@ void ThubnailProviderTest::unreadablePhotoIsSkipped()
 void ThubnailProviderTest::droppedRequestIsNotMade()
 {
     ThubnailProvider provider;
-    QSignalSpy ready(&provider, &ThubnailProvider::thumbnailReady);
+    const Announcements ready(provider);
     const QUuid dropped = provider.request(path("photo.jpg"));
     const QUuid kept = provider.request(path("wide.png"));
     provider.drop(dropped);
     provider.start();
     QTRY_COMPARE(ready.count(), 1);
-    QCOMPARE(idsOf(ready), QVector<QUuid>{kept});
+    QCOMPARE(ready.ids(), QVector<QUuid>{kept});
     provider.drop(kept);
     QVERIFY(provider.thumbnail(kept).isNull());
 }
@@ -166,7 +173,7 @@ void ThubnailProviderTest::droppedRequestIsNotMade()
 void ThubnailProviderTest::clearForgetsPendingAndFinished()
 {
     ThubnailProvider provider;
-    QSignalSpy ready(&provider, &ThubnailProvider::thumbnailReady);
+    const Announcements ready(provider);
     const QUuid finished = provider.request(path("photo.jpg"));
     provider.start();
     QTRY_COMPARE(ready.count(), 1);
@@ -177,14 +184,14 @@ void ThubnailProviderTest::clearForgetsPendingAndFinished()
     provider.start();
     const QUuid last = provider.request(path("wide.png"));
     QTRY_COMPARE(ready.count(), 2);
-    QCOMPARE(idsOf(ready), (QVector<QUuid>{finished, last}));
+    QCOMPARE(ready.ids(), (QVector<QUuid>{finished, last}));
     QVERIFY(provider.thumbnail(pending).isNull());
 }
 
 void ThubnailProviderTest::stoppedThreadStartsAgain()
 {
     ThubnailProvider provider;
-    QSignalSpy ready(&provider, &ThubnailProvider::thumbnailReady);
+    const Announcements ready(provider);
     for (int count = 1; count <= 2; ++count) {
         provider.start();
         provider.request(path("photo.jpg"));
