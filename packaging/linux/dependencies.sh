@@ -25,6 +25,7 @@ build_packages=(
 
 run_packages=(
     ffmpeg
+    fonts-droid-fallback
     fonts-noto-core
     fonts-open-sans
     qt5-image-formats-plugins
