@@ -8,12 +8,15 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <vector>
 
 namespace velmora
 {
 
 namespace
 {
+
+constexpr int kBand = 32; ///< columns painted together
 
 std::array<QPointF, 4> cornersOf(const Card &card)
 {
@@ -33,6 +36,27 @@ int reduction(int pixels, double shown)
 {
     const double halvings = std::floor(std::log2(pixels / std::max(shown, 1.0)) + 1e-6);
     return static_cast<int>(std::clamp(halvings, 0.0, double(ReducedPicture::kMaxLevel)));
+}
+
+/// What a row shows of a shape: the pixels it touches, those it covers wholly, and among them
+/// those that something else hides.
+struct RowSpans {
+    ColumnSpan touched;
+    ColumnSpan inner;
+    ColumnSpan gap;
+};
+
+RowSpans spansOf(int row, const QuadShape &shape, const QuadShape *hidden, int width)
+{
+    RowSpans spans;
+    spans.touched = shape.span(row, -0.5, width);
+    spans.inner = shape.span(row, 0.5, width);
+    if (spans.inner.begin >= spans.inner.end)
+        spans.inner = {spans.touched.end, spans.touched.end};
+    spans.gap = hidden ? hidden->span(row, 0.5, width) : ColumnSpan();
+    if (spans.gap.begin >= spans.gap.end)
+        spans.gap = {spans.inner.end, spans.inner.end};
+    return spans;
 }
 
 /// Paints a run of pixels of one row that share an opacity.
@@ -59,20 +83,17 @@ public:
         }
     }
 
-    /// The row of the card without the pixels hidden by another shape.
-    void paintRow(int row, const QuadShape &shape, const QuadShape *hidden) const
+    /// The part of a row of the card that lies in @p band, without the hidden pixels.
+    void paintRow(int row, const RowSpans &spans, ColumnSpan band, const QuadShape &shape) const
     {
-        const ColumnSpan touched = shape.span(row, -0.5, m_target.width);
-        ColumnSpan inner = shape.span(row, 0.5, m_target.width);
-        if (inner.begin >= inner.end)
-            inner = {touched.end, touched.end};
-        paintEdge(row, {touched.begin, inner.begin}, shape);
-        ColumnSpan gap = hidden ? hidden->span(row, 0.5, m_target.width) : ColumnSpan();
-        if (gap.begin >= gap.end)
-            gap = {inner.end, inner.end};
-        paint(row, {inner.begin, std::min(gap.begin, inner.end)}, m_card.opacity);
-        paint(row, {std::max(gap.end, inner.begin), inner.end}, m_card.opacity);
-        paintEdge(row, {inner.end, touched.end}, shape);
+        const auto inBand = [band](int begin, int end) {
+            return ColumnSpan{std::max(begin, band.begin), std::min(end, band.end)};
+        };
+        const ColumnSpan &inner = spans.inner;
+        paintEdge(row, inBand(spans.touched.begin, inner.begin), shape);
+        paint(row, inBand(inner.begin, std::min(spans.gap.begin, inner.end)), m_card.opacity);
+        paint(row, inBand(std::max(spans.gap.end, inner.begin), inner.end), m_card.opacity);
+        paintEdge(row, inBand(inner.end, spans.touched.end), shape);
     }
 
 private:
@@ -131,8 +152,17 @@ void paintCard(const TargetArea &target, const Card &card, const QuadShape *hidd
     const CardSampler sampler(reduced.area(), (enlarge * card.placement).inverted());
     const CardPainter painter(target, card, sampler);
     const ColumnSpan rows = shape.rows(1, target.height);
+    std::vector<RowSpans> spans;
     for (int y = rows.begin; y < rows.end; ++y)
-        painter.paintRow(y, shape, hidden);
+        spans.push_back(spansOf(y, shape, hidden, target.width));
+    // A row of a turned card crosses many rows of the picture: narrow bands find the lines of
+    // memory that the row before has fetched still in the cache.
+    const int step = std::abs(card.placement.m12()) > 0.05 ? kBand : target.width;
+    for (int x = 0; x < target.width; x += step) {
+        const ColumnSpan band = {x, std::min(x + step, target.width)};
+        for (int y = rows.begin; y < rows.end; ++y)
+            painter.paintRow(y, spans[static_cast<size_t>(y - rows.begin)], band, shape);
+    }
 }
 
 } // namespace

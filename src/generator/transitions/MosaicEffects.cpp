@@ -57,7 +57,7 @@ void popUp(const EffectFrame &frame, const QRect &tile, double t)
     const double scale = easing::between(0.3, 1, easing::out(t));
     const Card card = {frame.to.cut(tile),
                        turnedPlacement(tile.size(), QRectF(tile).center(), scale, 0),
-                       weightOf(easing::within(t, 0, 0.5))};
+                       weightOf(easing::within(t, 0, 0.3))};
     drawCardShadow(frame.target, card.shape(), tile.height() * 0.25, 0.4 * (1 - t));
     drawCard(frame.target, card);
 }
