@@ -4,6 +4,6 @@
 namespace velmora
 {
 
-Q_LOGGING_CATEGORY(chromeLog, "velmora.chrome")
+Q_LOGGING_CATEGORY(lcChrome, "velmora.chrome")
 
 } // namespace velmora

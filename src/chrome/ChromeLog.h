@@ -6,6 +6,7 @@
 namespace velmora
 {
 
-Q_DECLARE_LOGGING_CATEGORY(chromeLog)
+/// Log category of this library, "velmora.chrome".
+Q_DECLARE_LOGGING_CATEGORY(lcChrome)
 
 } // namespace velmora

@@ -4,6 +4,6 @@
 namespace velmora
 {
 
-Q_LOGGING_CATEGORY(sharingLog, "velmora.sharing")
+Q_LOGGING_CATEGORY(lcSharing, "velmora.sharing")
 
 } // namespace velmora

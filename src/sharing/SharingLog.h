@@ -6,6 +6,7 @@
 namespace velmora
 {
 
-Q_DECLARE_LOGGING_CATEGORY(sharingLog)
+/// Log category of this library, "velmora.sharing".
+Q_DECLARE_LOGGING_CATEGORY(lcSharing)
 
 } // namespace velmora

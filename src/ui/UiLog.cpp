@@ -4,6 +4,6 @@
 namespace velmora
 {
 
-Q_LOGGING_CATEGORY(uiLog, "velmora.ui")
+Q_LOGGING_CATEGORY(lcUi, "velmora.ui")
 
 } // namespace velmora

@@ -6,6 +6,7 @@
 namespace velmora
 {
 
-Q_DECLARE_LOGGING_CATEGORY(uiLog)
+/// Log category of this library, "velmora.ui".
+Q_DECLARE_LOGGING_CATEGORY(lcUi)
 
 } // namespace velmora
