@@ -12,6 +12,7 @@ build_packages=(
     libavutil-dev
     libboost-dev
     libexiv2-dev
+    libjpeg-dev
     libqt5networkauth5-dev
     libqt5svg5-dev
     libsodium-dev

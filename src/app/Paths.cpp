@@ -37,6 +37,11 @@ QString Paths::settingsFile()
     return dataFolder() + QStringLiteral("/settings.ini");
 }
 
+QString Paths::servicesFile()
+{
+    return dataFolder() + QStringLiteral("/services.ini");
+}
+
 QString Paths::historyFile()
 {
     return dataFolder() + QStringLiteral("/project_history.json");

@@ -16,6 +16,7 @@ QString logFolder();          ///< dataFolder + "/log"
 QString cacheFolder();        ///< dataFolder + "/cache/data"
 QString translationsFolder(); ///< dataFolder + "/translations"
 QString settingsFile();       ///< dataFolder + "/settings.ini"
+QString servicesFile();       ///< dataFolder + "/services.ini"
 QString historyFile();        ///< dataFolder + "/project_history.json"
 /// Creates a folder with its parents; false with a log line when it cannot be made.
 bool ensureFolder(const QString &path);

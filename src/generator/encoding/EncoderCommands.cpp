@@ -15,16 +15,16 @@ QString asPattern(QString path)
 
 QStringList stillInput(const QString &imagesFolder, const QString &prefix, qint64 duration)
 {
+    const QString file = EncoderCommands::frameFile(imagesFolder, prefix, 1);
     // Read once a second: the filter chain repeats the picture, which is cheaper than decoding it
     // for every frame.
-    return {QStringLiteral("-loop"),
-            QStringLiteral("1"),
-            QStringLiteral("-framerate"),
-            QStringLiteral("1"),
-            QStringLiteral("-i"),
-            asPattern(EncoderCommands::frameFile(imagesFolder, prefix, 1)),
-            QStringLiteral("-t"),
-            EncoderOptions::seconds(duration)};
+    QStringList arguments{QStringLiteral("-loop"), QStringLiteral("1"),
+                          QStringLiteral("-framerate"), QStringLiteral("1")};
+    // A single file may be taken for a pattern too, and doubling the sign does not always help.
+    if (file.contains(QLatin1Char('%')))
+        arguments << QStringLiteral("-pattern_type") << QStringLiteral("none");
+    return arguments << QStringLiteral("-i") << file << QStringLiteral("-t")
+                     << EncoderOptions::seconds(duration);
 }
 
 QStringList sequenceInput(const QString &imagesFolder, const QString &prefix, int frames,

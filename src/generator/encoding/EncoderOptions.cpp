@@ -51,7 +51,8 @@ constexpr Arguments kWebmVideo{"-acodec",  "vorbis", "-strict",   "-2",       "-
                                "-qmax",    "50",     "-crf",      "0",        "-speed",    "16",
                                "-threads", "8",      "-deadline", "realtime", "-cpu-used", "15"};
 constexpr Arguments kWebmSound{"-acodec", "vorbis", "-strict", "-2", "-ac", "2", "-ar", "44100"};
-constexpr Arguments kH264{"mp4", "avi", "mov"};
+constexpr Arguments kH264{"mp4", "mov"};
+constexpr Arguments kAvi{"avi"};
 constexpr Arguments kH264Video{"-b:v",    kRate,  "-crf",     "0", "-acodec",   "libmp3lame",
                                "-vcodec", "h264", "-threads", "4", "-cpu-used", "4"};
 constexpr Arguments kMp3Sound{"-acodec", "libmp3lame", "-ac", "2", "-ar", "44100"};
@@ -61,6 +62,9 @@ constexpr Arguments kWmvVideo{"-b:v",    kRate,  "-crf",     "0", "-acodec",   "
 constexpr Arguments kWmvSound{"-acodec", "wmav2", "-ac", "2", "-ar", "44100"};
 constexpr Arguments kOtherVideo{"-b:v", kRate, "-crf", "0"};
 constexpr Arguments kOtherSound{"-ac", "2", "-ar", "44100"};
+// MP3 sound begins just before 0. Shifting everything for it would put an empty frame, which is all
+// that AVI has for time, after the first one.
+constexpr Arguments kAviContainer{"-avoid_negative_ts", "disabled"};
 constexpr Arguments kNothing{};
 
 constexpr Arguments kEverywhere{"mp4", "mov"};
@@ -75,9 +79,10 @@ constexpr Arguments kFastStart{"-movflags", "+faststart"};
 constexpr char kToBt709[] = "colorspace=ispace=bt470bg:space=bt709:iprimaries=bt709:primaries="
                             "bt709:itrc=bt709:trc=bt709:irange=pc:range=tv:format=yuv420p,";
 
-const std::array<FormatRow, 4> kOriginalRows{{
+const std::array<FormatRow, 5> kOriginalRows{{
     {kWebm, kWebmVideo, kWebmSound, kNothing, "format=yuv420p,"},
     {kH264, kH264Video, kMp3Sound, kNothing, ""},
+    {kAvi, kH264Video, kMp3Sound, kAviContainer, ""},
     {kWmv, kWmvVideo, kWmvSound, kNothing, "format=yuv420p,"},
     {kNothing, kOtherVideo, kOtherSound, kNothing, ""},
 }};

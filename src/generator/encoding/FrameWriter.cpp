@@ -21,8 +21,11 @@ constexpr int kPixelFormat = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? TJPF_BGRX : TJPF_
 
 bool isDiskFull(const QFile &file, qint64 needed)
 {
+    if (!file.isOpen())
+        return false;
+    const QStorageInfo storage(QFileInfo(file).absolutePath());
     return file.error() == QFileDevice::ResourceError ||
-           QStorageInfo(QFileInfo(file).absolutePath()).bytesAvailable() < needed;
+           (storage.isValid() && storage.bytesAvailable() < needed);
 }
 
 QString writeError(const QFile &file, qint64 needed)

@@ -121,6 +121,13 @@ bool VideoUtil::encodeSegment(const QString &prefix, int frameCount, qint64 dura
 
 bool VideoUtil::join(const QStringList &files, const QString &listFile, const QString &outputFile)
 {
+    // The encoder leaves out what it cannot open, and succeeds.
+    for (const QString &file : files) {
+        if (QFileInfo(file).size() <= 0)
+            return fail(QCoreApplication::translate("velmora::VideoUtil",
+                                                    "The part %1 of the video is missing.")
+                            .arg(QDir::toNativeSeparators(file)));
+    }
     QString error;
     if (!ConcatList::write(listFile, files, &error))
         return fail(error);

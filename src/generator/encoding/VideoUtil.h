@@ -70,11 +70,19 @@ public:
     bool finishWithoutSound(const QString &videoFile, const QString &outputFile);
 
     // Sound, see generator/sound.
+    /// Makes the sound track "video/audio_stream.wav" of a video of @p length ms; offset and fade
+    /// in s, converted music goes to @p folder. Returns its path, empty on failure.
     QString prepareAudio(const AudioItemList &list, const QString &folder, int offset, int fade,
                          int length);
-    bool prepareAudioLoop(const QString &source, int length, QString &output);
+    /// Repeats a @p source that is shorter than @p length ms into @p output; otherwise sets
+    /// @p output to @p source. With a @p fade (s) the repeated track fades out where the video
+    /// ends, which is in the middle of a repetition.
+    bool prepareAudioLoop(const QString &source, int length, QString &output, int fade = 0);
+    /// Writes @p source @p count times.
     bool loopAudio(const QString &source, const int count, const QString &output);
+    /// With the transcoder program: from any format to 44.1 kHz, stereo, 16 bit.
     bool transcodeMp3ToWav(const QString &from, const QString &to);
+    /// With the encoder: keeps sample rate and channels.
     bool transcodeFFmpegToWav(const QString &from, const QString &to);
 
     /// Logs "[STD OUT]:'%1' [STD ERR]:'%2'".

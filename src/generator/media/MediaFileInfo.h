@@ -21,14 +21,16 @@ public:
     MediaFileInfo &operator=(const MediaFileInfo &) = delete;
 
     bool isValid() const;
-    QString errorText() const;  ///< Plain reason when not valid.
-    qint64 duration() const;    ///< ms; 0 when unknown.
+    QString errorText() const; ///< Plain reason when not valid.
+    qint64 duration() const;   ///< ms; 0 when unknown.
     bool hasAudio() const;
-    bool hasVideo() const;      ///< Cover art does not count.
+    bool hasVideo() const; ///< Cover art does not count.
     int audioChannels() const;
-    int audioSampleRate() const; ///< Hz
+    int audioSampleRate() const;        ///< Hz
     QString audioChannelLayout() const; ///< As FFmpeg writes it: "mono", "stereo", "5.1".
-    QString audioCodecName() const;
+    QString audioCodecName() const;     ///< Short: "mp3", "pcm_s16le".
+    QString audioCodecLongName() const; ///< In words, for the log.
+    QString containerName() const;      ///< FFmpeg's short name: "wav", "mp3".
 
 private:
     std::unique_ptr<MediaFileInfoPrivate> d;

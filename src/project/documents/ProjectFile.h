@@ -24,6 +24,11 @@ class ProjectFile : public QObject
 public:
     enum class TitleSlide { Create, Omit };
 
+    /// Documents with more slides are refused (error word "images").
+    static constexpr int kMaximumItems = 100 * 1000;
+    /// Larger documents are refused unread. Bytes.
+    static constexpr qint64 kMaximumFileSize = 100LL * 1000 * 1000;
+
     /// A new project with the defaults of @p settings, which must outlive it.
     ProjectFile(const AppSettings &settings, TitleSlide titleSlide, QObject *parent = nullptr);
 
@@ -65,16 +70,18 @@ public:
     bool saveToFile(const QString &path, QString *error = nullptr) const;
 
     /// Rebuilds a project, or null; the reasons are appended to @p errors ("resolution",
-    /// "Failed load image info"). Accepts any object without crashing.
-    static std::unique_ptr<ProjectFile> fromJson(const QJsonObject &object,
-                                                 const AppSettings &settings,
-                                                 QStringList *errors = nullptr);
+    /// "images", "Failed load image info"). Accepts any object without crashing.
+    static std::unique_ptr<ProjectFile>
+    fromJson(const QJsonObject &object, const AppSettings &settings, QStringList *errors = nullptr);
     /// Reads a document from disk; null with a plain reason in @p error (unreadable, not JSON,
     /// not a project).
     static std::unique_ptr<ProjectFile> loadFromFile(const QString &path,
                                                      const AppSettings &settings, QString *error);
 
 private:
+    /// Reads into a project without slides; the word for what failed, or an empty text.
+    QString read(const QJsonObject &object);
+    QJsonObject audioToJson() const;
     void placeItem(ProjectItem *item, ProjectItem *anchor, int shift);
 
     const AppSettings &m_settings;

@@ -33,7 +33,7 @@ public:
     };
 
     Timeline() = default;
-    /// Hidden slides have no stages. @p transitionSeconds is clamped to at least 1; slide times
+    /// Hidden slides have no stages. @p transitionSeconds and slide times
     /// below 1 s count as 1 s, above 86,400 s as that.
     static Timeline ofProject(const ProjectFile &project, int transitionSeconds);
 
@@ -44,6 +44,8 @@ public:
     int stageAt(qint64 position) const;
 
 private:
+    void append(StageKind kind, int slide, int previousSlide, int seconds);
+
     QVector<Stage> m_stages;
     qint64 m_totalLength = 0;
     qint64 m_totalFrames = 0;

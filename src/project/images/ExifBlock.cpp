@@ -4,6 +4,8 @@
 #include <QIODevice>
 #include <QtEndian>
 
+#include <algorithm>
+
 namespace velmora
 {
 
@@ -12,6 +14,8 @@ namespace
 
 // Cameras write some ten kilobytes; the limit only keeps hostile length fields from memory.
 constexpr qint64 kMaximumBlock = 16LL * 1024 * 1024;
+// Compressed, so that what it unpacks to is bounded as well.
+constexpr qint64 kMaximumProfile = 256LL * 1024;
 // TIFF files are read as a whole because their tags may stand behind the pixels.
 constexpr qint64 kMaximumTiff = 1800LL * 1024 * 1024;
 
@@ -59,6 +63,20 @@ QByteArray findInJpeg(QIODevice &device)
     }
 }
 
+/// The block from a text chunk, in which many editors keep it: compressed hexadecimal digits
+/// behind a line with their purpose and one with their number.
+QByteArray fromRawProfile(const QByteArray &chunk)
+{
+    const int separator = chunk.indexOf('\0');
+    const QByteArray keyword = chunk.left(std::max(0, separator));
+    if (keyword != "Raw profile type exif" && keyword != "Raw profile type APP1")
+        return QByteArray();
+    // The unpacking function wants the expected size, which is only a hint, in front.
+    const QByteArray text = qUncompress(QByteArray(4, '\0') + chunk.mid(separator + 2)).trimmed();
+    const int numberEnd = text.indexOf('\n', text.indexOf('\n') + 1);
+    return withoutMark(QByteArray::fromHex(text.mid(std::max(0, numberEnd))));
+}
+
 QByteArray findInPng(QIODevice &device)
 {
     qint64 position = 8;
@@ -69,6 +87,11 @@ QByteArray findInPng(QIODevice &device)
         const qint64 size = qFromBigEndian<quint32>(head.constData());
         if (head.endsWith("eXIf"))
             return size <= kMaximumBlock ? withoutMark(device.read(size)) : QByteArray();
+        if (head.endsWith("zTXt") && size <= kMaximumProfile) {
+            const QByteArray block = fromRawProfile(device.read(size));
+            if (!block.isEmpty())
+                return block;
+        }
         position += 12 + size; // Length, type, data and checksum.
     }
     return QByteArray();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/images/PhotoFile.h"
 
+#include "project/images/Completeness.h"
 #include "project/images/ExifReader.h"
 #include "project/images/ImageLoader.h"
 #include "project/images/JpegDecoder.h"
@@ -91,6 +92,7 @@ bool PhotoFile::open()
         return false;
     m_reader.setDevice(&m_file);
     m_reader.setDecideFormatFromContent(true);
+    m_reader.setAutoTransform(false); // The TIFF reader would turn pictures by itself.
     if (!m_reader.canRead())
         return fail(notAPicture(), m_reader.errorString());
     m_format = m_reader.format();
@@ -154,7 +156,11 @@ bool PhotoFile::verify()
         const JpegDecoder::Result result = JpegDecoder::verify(contents());
         return !result.damaged || fail(damaged(), result.error);
     }
-    return !m_reader.read().isNull() || fail(damaged(), m_reader.errorString());
+    if (m_reader.read().isNull())
+        return fail(damaged(), m_reader.errorString());
+    const bool isCut = (m_format == "bmp" && !isCompleteBmp(m_file)) ||
+                       (m_format == "gif" && !isCompleteGif(m_file));
+    return !isCut || fail(damaged(), QStringLiteral("The file ends too early"));
 }
 
 } // namespace velmora

@@ -9,13 +9,13 @@ namespace velmora
 namespace
 {
 
-constexpr QLatin1String kText("text");
-constexpr QLatin1String kFont("font");
-constexpr QLatin1String kTextColor("text_color");
-constexpr QLatin1String kBackgroundColor("bg_color");
-constexpr QLatin1String kPosition("position");
-constexpr QLatin1String kTransition("transition");
-constexpr QLatin1String kChanged("changed");
+const QLatin1String kText("text");
+const QLatin1String kFont("font");
+const QLatin1String kTextColor("text_color");
+const QLatin1String kBackgroundColor("bg_color");
+const QLatin1String kPosition("position");
+const QLatin1String kTransition("transition");
+const QLatin1String kChanged("changed");
 
 constexpr unsigned kLastPosition = 8;
 constexpr int kCentre = 4;

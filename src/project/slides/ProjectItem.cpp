@@ -11,10 +11,10 @@ namespace velmora
 namespace
 {
 
-constexpr QLatin1String kType("type");
-constexpr QLatin1String kText("text");
-constexpr QLatin1String kTime("time");
-constexpr QLatin1String kAngle("angle");
+const QLatin1String kType("type");
+const QLatin1String kText("text");
+const QLatin1String kTime("time");
+const QLatin1String kAngle("angle");
 
 /// All slides share the pixels of one placeholder: a history holds hundreds of thousands of them.
 QImage placeholderImage()

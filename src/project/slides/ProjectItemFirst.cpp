@@ -9,9 +9,9 @@ namespace velmora
 namespace
 {
 
-constexpr QLatin1String kType("type");
-constexpr QLatin1String kVisible("visible");
-constexpr QLatin1String kBackgroundIndex("bg_index");
+const QLatin1String kType("type");
+const QLatin1String kVisible("visible");
+const QLatin1String kBackgroundIndex("bg_index");
 
 } // namespace
 

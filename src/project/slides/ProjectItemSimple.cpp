@@ -12,9 +12,9 @@ namespace velmora
 namespace
 {
 
-constexpr QLatin1String kType("type");
-constexpr QLatin1String kFileName("file_name");
-constexpr QLatin1String kTransition("transition");
+const QLatin1String kType("type");
+const QLatin1String kFileName("file_name");
+const QLatin1String kTransition("transition");
 
 } // namespace
 

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The time of one frame of each transition effect, as the mean over the whole transition and for
+// its slowest moment, at the two large output sizes.
+#include "generator/transitions/Transition.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QImage>
+
+#include <algorithm>
+#include <chrono>
+
+using namespace velmora;
+
+namespace
+{
+
+constexpr int kFrames = 50;
+
+QImage picture(const QSize &size, int seed)
+{
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        auto *row = reinterpret_cast<QRgb *>(image.scanLine(y));
+        for (int x = 0; x < size.width(); ++x)
+            row[x] = qRgb((x * seed) & 255, (y * seed) & 255, (x ^ y) & 255);
+    }
+    return image;
+}
+
+void renderEffect(benchmark::State &state, TransitionType type, QSize size)
+{
+    const QImage from = picture(size, 1);
+    const QImage to = picture(size, 3);
+    QImage target(size, QImage::Format_RGB32);
+    target.fill(Qt::black);
+    int frame = 0;
+    double slowest = 0;
+    for (auto iteration : state) {
+        (void)iteration;
+        frame = frame % (kFrames - 1) + 1;
+        const auto begin = std::chrono::steady_clock::now();
+        renderTransitionFrame(type, from, to, {frame, kFrames}, target);
+        const std::chrono::duration<double, std::milli> time =
+            std::chrono::steady_clock::now() - begin;
+        slowest = std::max(slowest, time.count());
+        benchmark::DoNotOptimize(target.constBits());
+    }
+    state.counters["slowest_ms"] = slowest;
+}
+
+void registerAll()
+{
+    for (const QSize &size : {QSize(1920, 1080), QSize(3840, 2160)}) {
+        for (int type = 0; type < kTransitionCount; ++type) {
+            if (static_cast<TransitionType>(type) == TransitionType::Random)
+                continue;
+            const QString name = QStringLiteral("%1/%2x%3")
+                                     .arg(transitionName(type))
+                                     .arg(size.width())
+                                     .arg(size.height());
+            benchmark::RegisterBenchmark(qPrintable(name),
+                                         [type, size](benchmark::State &state) {
+                                             renderEffect(state, static_cast<TransitionType>(type),
+                                                          size);
+                                         })
+                ->Unit(benchmark::kMillisecond)
+                ->Iterations(2 * (kFrames - 1));
+        }
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    registerAll();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "generator/pipeline/CacheSweeper.h"
+
+#include "generator/GeneratorLog.h"
+#include "generator/pipeline/OutputTarget.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+
+namespace velmora
+{
+
+namespace
+{
+
+constexpr qint64 kYoungestUnlocked = 60; // s; a render locks its folder right after making it
+constexpr qint64 kLongestNote = 32 * 1024;
+
+bool isBeingMade(const QDir &folder)
+{
+    if (folder.exists(CacheSweeper::kLockFile))
+        return false;
+    const QDateTime made = QFileInfo(folder.path()).lastModified();
+    return made.secsTo(QDateTime::currentDateTime()) < kYoungestUnlocked;
+}
+
+void removeUnfinishedVideo(const QDir &folder)
+{
+    QFile note(folder.filePath(CacheSweeper::kOutputNote));
+    if (!note.open(QIODevice::ReadOnly))
+        return;
+    const QString video = QString::fromUtf8(note.read(kLongestNote));
+    if (OutputTarget::isTemporaryName(QFileInfo(video).fileName()) && QFile::remove(video))
+        qCInfo(generatorLog) << "Removed the unfinished video" << video;
+}
+
+} // namespace
+
+int CacheSweeper::sweep(const QString &cacheFolder)
+{
+    int removed = 0;
+    const QDir cache(cacheFolder);
+    const QStringList names = cache.entryList({QString(kFolderPrefix) + QLatin1Char('*')},
+                                              QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
+    for (const QString &name : names) {
+        QDir folder(cache.filePath(name));
+        if (isBeingMade(folder))
+            continue;
+        QLockFile lock(folder.filePath(kLockFile));
+        lock.setStaleLockTime(0);
+        if (!lock.tryLock(0))
+            continue;
+        removeUnfinishedVideo(folder);
+        lock.unlock();
+        if (folder.removeRecursively()) {
+            ++removed;
+            qCInfo(generatorLog) << "Removed the cache of a dead render" << folder.path();
+        }
+    }
+    return removed;
+}
+
+} // namespace velmora

@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "generator/pipeline/FrameProducer.h"
+
+#include "generator/GeneratorLog.h"
+#include "generator/pipeline/FramePainter.h"
+#include "generator/pipeline/SlideFrames.h"
+
+#include <QMutexLocker>
+
+#include <utility>
+
+namespace velmora
+{
+
+namespace
+{
+constexpr unsigned long kPollInterval = 100; // ms; pause and cancel are polled
+}
+
+FrameProducer::FrameProducer(const RenderPlan &plan, SlideFrames &frames, EncodingContext &context,
+                             const std::atomic_bool &paused, Reports reports)
+    : m_plan(plan), m_frames(frames), m_context(context), m_paused(paused),
+      m_reports(std::move(reports))
+{
+    for (int order = 0; order < plan.slides().size(); ++order) {
+        const PlannedSlide &slide = plan.slides().at(order);
+        m_firstWork.append(m_works.size());
+        m_unpainted.append(slide.pictures());
+        for (int stage = 0; stage < slide.stages.size(); ++stage)
+            m_works.append({order, stage, slide.stages.at(stage).pictures});
+    }
+}
+
+FrameProducer::~FrameProducer()
+{
+    wait();
+}
+
+bool FrameProducer::waitForStage(int order, int stage)
+{
+    const int work = workOf(order, stage);
+    FramePainter painter(m_plan, m_frames, m_context);
+    QMutexLocker locker(&m_mutex);
+    while (m_works.at(work).painted < m_works.at(work).pictures) {
+        if (m_context.cancelled)
+            return false;
+        Picture picture;
+        if (!take(work, &picture)) {
+            m_changed.wait(&m_mutex, kPollInterval);
+            continue;
+        }
+        locker.unlock();
+        const bool painted = paint(painter, picture);
+        locker.relock();
+        if (!painted)
+            return false;
+    }
+    return true;
+}
+
+void FrameProducer::stageEncoded(int order, int stage)
+{
+    const QMutexLocker locker(&m_mutex);
+    const int work = workOf(order, stage);
+    m_ahead -= m_works.at(work).pictures;
+    m_encoding = work + 1;
+    m_changed.wakeAll();
+}
+
+void FrameProducer::run()
+{
+    FramePainter painter(m_plan, m_frames, m_context);
+    QMutexLocker locker(&m_mutex);
+    while (!m_context.cancelled && m_next < m_works.size()) {
+        Picture picture;
+        if (!take(m_works.size() - 1, &picture)) {
+            m_changed.wait(&m_mutex, kPollInterval);
+            continue;
+        }
+        locker.unlock();
+        const bool painted = paint(painter, picture);
+        locker.relock();
+        if (!painted)
+            break;
+    }
+}
+
+int FrameProducer::workOf(int order, int stage) const
+{
+    return m_firstWork.at(order) + stage;
+}
+
+bool FrameProducer::take(int lastWork, Picture *picture)
+{
+    if (m_paused || m_next >= m_works.size() || m_next > lastWork || !mayBegin(m_next))
+        return false;
+    Work &work = m_works[m_next];
+    if (work.given == 0) {
+        m_ahead += work.pictures;
+        qCInfo(generatorLog).noquote()
+            << m_plan.slides().at(work.order).stages.at(work.stage).paintText();
+    }
+    *picture = {m_next, ++work.given};
+    if (work.given == work.pictures)
+        ++m_next;
+    return true;
+}
+
+bool FrameProducer::mayBegin(int work) const
+{
+    return m_works.at(work).given > 0 || work <= m_encoding + 1 ||
+           m_ahead + m_works.at(work).pictures <= kPicturesAhead;
+}
+
+bool FrameProducer::paint(FramePainter &painter, const Picture &picture)
+{
+    const int order = m_works.at(picture.work).order;
+    const int stage = m_works.at(picture.work).stage;
+    if (!painter.paint(order, stage, picture.number)) {
+        m_reports.failed(painter.error());
+        return false;
+    }
+    bool slideDone = false;
+    {
+        const QMutexLocker locker(&m_mutex);
+        ++m_works[picture.work].painted;
+        slideDone = --m_unpainted[order] == 0;
+        m_changed.wakeAll();
+    }
+    m_reports.painted();
+    if (slideDone) {
+        m_frames.paintingDone(order);
+        m_reports.slidePainted(order);
+    }
+    return true;
+}
+
+} // namespace velmora

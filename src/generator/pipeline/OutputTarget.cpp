@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "generator/pipeline/OutputTarget.h"
+
+#include "app/Paths.h"
+#include "generator/GeneratorLog.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QStorageInfo>
+
+#include <filesystem>
+#include <system_error>
+
+namespace velmora
+{
+
+namespace
+{
+
+constexpr int kLongestName = 255;     // bytes, on all common file systems
+constexpr int kTemporaryReserve = 48; // bytes of the temporary name beyond the video's name
+constexpr int kRandomLetters = 6;
+constexpr int kTrialSize = 64 * 1024; // bytes
+constexpr int kShownName = 60;        // characters of a long name in messages
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("velmora::OutputTarget", text);
+}
+
+RenderError outputError(const QString &text)
+{
+    return {RenderErrorCode::kOutput, text};
+}
+
+QString randomLetters()
+{
+    static const QLatin1String letters("abcdefghijklmnopqrstuvwxyz0123456789");
+    QString text;
+    for (int i = 0; i < kRandomLetters; ++i)
+        text += letters.at(QRandomGenerator::global()->bounded(letters.size()));
+    return text;
+}
+
+/// The longest beginning of @p name that has at most @p bytes bytes in the file system.
+QString shortened(QString name, int bytes)
+{
+    while (QFile::encodeName(name).size() > bytes)
+        name.chop(name.size() > 1 && name.at(name.size() - 1).isLowSurrogate() ? 2 : 1);
+    return name;
+}
+
+std::filesystem::path filePath(const QString &name)
+{
+    return std::filesystem::u8path(name.toStdString());
+}
+
+} // namespace
+
+OutputTarget::~OutputTarget()
+{
+    release();
+}
+
+RenderError OutputTarget::prepare(const QString &fileName, const QString &format,
+                                  const QString &lockFolder)
+{
+    if (fileName.isEmpty())
+        return outputError(tr("The project does not name a video file to write."));
+    chooseName(fileName, format);
+    RenderError error = checkName();
+    if (!error.isSet())
+        error = lock(lockFolder);
+    if (error.isSet())
+        return error;
+    removeStrays();
+    m_temporaryFile =
+        QStringLiteral("%1/%2%3.%4").arg(m_folder, m_temporaryStem, randomLetters(), m_extension);
+    return tryWriting();
+}
+
+RenderError OutputTarget::commit()
+{
+    std::error_code failure;
+    std::filesystem::rename(filePath(m_temporaryFile), filePath(m_fileName), failure);
+    if (failure)
+        return outputError(tr("The finished video could not be put in place as \"%1\": %2.")
+                               .arg(m_fileName, QString::fromStdString(failure.message())));
+    m_temporaryFile.clear();
+    return {};
+}
+
+void OutputTarget::release()
+{
+    if (!m_temporaryFile.isEmpty())
+        QFile::remove(m_temporaryFile);
+    m_temporaryFile.clear();
+    m_lock.reset();
+}
+
+const QStringList &OutputTarget::knownSuffixes()
+{
+    static const QStringList suffixes{QStringLiteral("mp4"),  QStringLiteral("avi"),
+                                      QStringLiteral("mov"),  QStringLiteral("wmv"),
+                                      QStringLiteral("webm"), QStringLiteral("mkv")};
+    return suffixes;
+}
+
+bool OutputTarget::isTemporaryName(const QString &name)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("^\\..*\\.part-[a-z0-9]{%1}(\\.part)?\\.[a-z0-9]+$").arg(kRandomLetters));
+    return pattern.match(name).hasMatch();
+}
+
+void OutputTarget::chooseName(const QString &fileName, const QString &format)
+{
+    QFileInfo info(fileName);
+    m_extension = info.suffix().toLower();
+    m_fileName = info.absoluteFilePath();
+    if (!knownSuffixes().contains(m_extension)) {
+        const QString wanted = format.toLower();
+        m_extension = knownSuffixes().contains(wanted) ? wanted : QStringLiteral("mkv");
+        m_fileName += QLatin1Char('.') + m_extension;
+        info.setFile(m_fileName);
+    }
+    m_folder = info.absolutePath();
+    m_temporaryStem = QLatin1Char('.') +
+                      shortened(info.completeBaseName(), kLongestName - kTemporaryReserve) +
+                      QStringLiteral(".part-");
+}
+
+RenderError OutputTarget::checkName() const
+{
+    const QFileInfo info(m_fileName);
+    const QFileInfo folder(m_folder);
+    if (QFile::encodeName(info.fileName()).size() > kLongestName)
+        return outputError(
+            tr("The video's name \"%1...\" is too long: a file name may have no more "
+               "than %2 bytes.")
+                .arg(info.fileName().left(kShownName))
+                .arg(kLongestName));
+    if (!folder.exists())
+        return outputError(tr("The folder \"%1\" for the video does not exist.").arg(m_folder));
+    if (!folder.isDir())
+        return outputError(
+            tr("The video cannot be written into \"%1\": it is not a folder.").arg(m_folder));
+    if (info.isDir())
+        return outputError(
+            tr("The video cannot be written as \"%1\": a folder has that name.").arg(m_fileName));
+    return {};
+}
+
+RenderError OutputTarget::tryWriting() const
+{
+    QFile trial(m_temporaryFile);
+    const bool opened = trial.open(QIODevice::WriteOnly);
+    const bool written =
+        opened && trial.write(QByteArray(kTrialSize, '\0')) == kTrialSize && trial.flush();
+    const bool noSpace = trial.error() == QFileDevice::ResourceError ||
+                         QStorageInfo(m_folder).bytesAvailable() < kTrialSize;
+    const QString reason = trial.errorString();
+    if (opened)
+        trial.remove();
+    if (written)
+        return {};
+    if (noSpace)
+        return {RenderErrorCode::kDiskFull,
+                tr("The video cannot be written into \"%1\": the disk is full.").arg(m_folder)};
+    return outputError(tr("The video cannot be written into \"%1\": %2.").arg(m_folder, reason));
+}
+
+RenderError OutputTarget::lock(const QString &lockFolder)
+{
+    const QString canonical = QFileInfo(m_folder).canonicalFilePath() + QLatin1Char('/') +
+                              QFileInfo(m_fileName).fileName();
+    const QByteArray hash =
+        QCryptographicHash::hash(canonical.toUtf8(), QCryptographicHash::Sha1).toHex();
+    Paths::ensureFolder(lockFolder);
+    m_lock = std::make_unique<QLockFile>(
+        QStringLiteral("%1/%2.lock").arg(lockFolder, QString::fromLatin1(hash)));
+    m_lock->setStaleLockTime(0); // a render may take hours; only a dead owner makes a lock stale
+    if (m_lock->tryLock(0))
+        return {};
+    const QLockFile::LockError reason = m_lock->error();
+    m_lock.reset();
+    if (reason == QLockFile::LockFailedError)
+        return {RenderErrorCode::kBusy,
+                tr("Another render is writing \"%1\" at this time.").arg(m_fileName)};
+    qCWarning(generatorLog) << "No lock could be made in" << lockFolder;
+    return {};
+}
+
+void OutputTarget::removeStrays() const
+{
+    const QRegularExpression own(QStringLiteral("^%1[a-z0-9]{%2}(\\.part)?\\.%3$")
+                                     .arg(QRegularExpression::escape(m_temporaryStem))
+                                     .arg(kRandomLetters)
+                                     .arg(m_extension));
+    QDir folder(m_folder);
+    const QStringList names = folder.entryList(QDir::Files | QDir::Hidden);
+    for (const QString &name : names) {
+        if (own.match(name).hasMatch() && folder.remove(name))
+            qCInfo(generatorLog) << "Removed the unfinished video" << folder.filePath(name);
+    }
+}
+
+} // namespace velmora

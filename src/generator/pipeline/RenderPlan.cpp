@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "generator/pipeline/RenderPlan.h"
+
+#include "project/documents/ProjectFile.h"
+#include "project/slides/ProjectItemSimple.h"
+
+namespace velmora
+{
+
+namespace
+{
+
+/// A title slide further on in the video has no transition of its own.
+int storedTransition(const ProjectItem &item)
+{
+    const auto *photo = qobject_cast<const ProjectItemSimple *>(&item);
+    return photo ? photo->transition() : static_cast<int>(TransitionType::CrossFade);
+}
+
+TransitionType resolve(int stored, TransitionType previous, const RenderPlan::Random &random)
+{
+    const TransitionType type = transitionFromInt(stored);
+    if (type != TransitionType::Random)
+        return type;
+    constexpr int kinds = kLastRandomTransition - kFirstRandomTransition + 1;
+    TransitionType drawn = previous;
+    while (drawn == previous || drawn == TransitionType::Random)
+        drawn = transitionFromInt(random() % kinds + kFirstRandomTransition);
+    return drawn;
+}
+
+} // namespace
+
+QString PlannedStage::prefix() const
+{
+    return QStringLiteral("_%1%2").arg(QLatin1Char(stage.prefix())).arg(stage.slide);
+}
+
+QString PlannedStage::paintText() const
+{
+    switch (stage.kind) {
+    case Timeline::StageKind::Picture:
+        return QStringLiteral("Generation transition");
+    case Timeline::StageKind::Caption:
+        return QStringLiteral("Generation text transition");
+    case Timeline::StageKind::Still:
+        break;
+    }
+    return QStringLiteral("Generation slide frame");
+}
+
+QString PlannedStage::encodeText() const
+{
+    switch (stage.kind) {
+    case Timeline::StageKind::Picture:
+        return QStringLiteral("Creating video of transition");
+    case Timeline::StageKind::Caption:
+        return QStringLiteral("Creating video of text transition");
+    case Timeline::StageKind::Still:
+        break;
+    }
+    return QStringLiteral("Creating video of slide");
+}
+
+int PlannedSlide::pictures() const
+{
+    int sum = 0;
+    for (const PlannedStage &stage : stages)
+        sum += stage.pictures;
+    return sum;
+}
+
+qint64 PlannedSlide::frames() const
+{
+    qint64 sum = 0;
+    for (const PlannedStage &stage : stages)
+        sum += stage.stage.frameCount;
+    return sum;
+}
+
+RenderPlan RenderPlan::make(const ProjectFile &project, const Timeline &timeline,
+                            const Random &random)
+{
+    RenderPlan plan;
+    plan.m_totalLength = timeline.totalLength();
+    plan.m_totalFrames = timeline.totalFrames();
+    TransitionType captionEffect = TransitionType::None;
+    for (const Timeline::Stage &stage : timeline.stages()) {
+        if (plan.m_slides.isEmpty() || plan.m_slides.constLast().index != stage.slide) {
+            PlannedSlide slide;
+            slide.index = stage.slide;
+            slide.item = project.items().at(stage.slide);
+            if (!plan.m_slides.isEmpty())
+                slide.previousType = plan.m_slides.constLast().type;
+            plan.m_slides.append(slide);
+        }
+        PlannedSlide &slide = plan.m_slides.last();
+        PlannedStage planned;
+        planned.stage = stage;
+        if (stage.kind == Timeline::StageKind::Picture) {
+            slide.sourceType = storedTransition(*slide.item);
+            slide.type = resolve(slide.sourceType, slide.previousType, random);
+            planned.effect = slide.type;
+        } else if (stage.kind == Timeline::StageKind::Caption) {
+            captionEffect = resolve(slide.item->caption().effect, captionEffect, random);
+            planned.effect = captionEffect;
+            slide.captionAppears = true;
+        }
+        if (planned.effect != TransitionType::None)
+            planned.pictures = stage.frameCount;
+        slide.stages.append(planned);
+    }
+    return plan;
+}
+
+qint64 RenderPlan::totalPictures() const
+{
+    qint64 sum = 0;
+    for (const PlannedSlide &slide : m_slides)
+        sum += slide.pictures();
+    return sum;
+}
+
+} // namespace velmora

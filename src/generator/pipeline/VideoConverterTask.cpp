@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "generator/pipeline/VideoConverterTask.h"
+
+#include "generator/GeneratorLog.h"
+#include "generator/pipeline/FramePainter.h"
+#include "generator/pipeline/FrameProducer.h"
+#include "generator/pipeline/SlideFrames.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+
+namespace velmora
+{
+
+GeneratorThread::VideoConverterTask::VideoConverterTask(GeneratorThread &generator, int order,
+                                                        FrameProducer *producer)
+    : m_generator(generator), m_order(order), m_slide(generator.m_plan.slides().at(order)),
+      m_producer(producer), m_util(generator.m_context)
+{
+}
+
+void GeneratorThread::VideoConverterTask::run()
+{
+    m_generator.waitWhilePaused();
+    if (m_generator.m_context.cancelled)
+        return;
+    QElapsedTimer elapsed;
+    elapsed.start();
+    logType();
+    if ((m_producer || paintFrames()) && encodeStages() && joinStages())
+        qCInfo(generatorLog).noquote()
+            << QStringLiteral("[OPERATION TIME:'%1']").arg(elapsed.elapsed());
+}
+
+void GeneratorThread::VideoConverterTask::logType() const
+{
+    qCInfo(generatorLog).nospace().noquote()
+        << "Final type=" << static_cast<int>(m_slide.type)
+        << ", prev type=" << static_cast<int>(m_slide.previousType)
+        << ", src type: " << m_slide.sourceType;
+}
+
+bool GeneratorThread::VideoConverterTask::paintFrames()
+{
+    FramePainter painter(m_generator.m_plan, *m_generator.m_frames, m_generator.m_context);
+    for (int stage = 0; stage < m_slide.stages.size(); ++stage) {
+        qCInfo(generatorLog).noquote() << m_slide.stages.at(stage).paintText();
+        for (int number = 1; number <= m_slide.stages.at(stage).pictures; ++number) {
+            if (m_generator.m_context.cancelled)
+                return false;
+            if (!painter.paint(m_order, stage, number)) {
+                m_generator.fail(painter.error());
+                return false;
+            }
+            m_generator.reportProgress(1);
+        }
+    }
+    m_generator.m_frames->paintingDone(m_order);
+    m_generator.reportSlidePainted(m_order);
+    return true;
+}
+
+bool GeneratorThread::VideoConverterTask::encodeStages()
+{
+    for (int stage = 0; stage < m_slide.stages.size(); ++stage) {
+        if (m_producer && !m_producer->waitForStage(m_order, stage))
+            return false;
+        if (!encodeStage(stage))
+            return false;
+        if (m_producer)
+            m_producer->stageEncoded(m_order, stage);
+    }
+    return true;
+}
+
+bool GeneratorThread::VideoConverterTask::encodeStage(int stage)
+{
+    const PlannedStage &planned = m_slide.stages.at(stage);
+    const qint64 length = planned.stage.length;
+    const int frames = planned.stage.frameCount;
+    qCInfo(generatorLog).noquote() << planned.encodeText();
+    m_generator.enterStep(SegmentEncoding);
+    m_generator.m_progress.beginRun(frames, length);
+    const bool done = m_util.encodeSegment(planned.prefix(), planned.pictures, length,
+                                           segmentFile(planned.stage.prefix()));
+    m_generator.m_progress.endRun(frames);
+    m_util.removeFrames(planned.prefix(), planned.pictures);
+    if (!done) {
+        m_generator.failWithTool(m_util);
+        return false;
+    }
+    m_generator.reportProgress(0);
+    return true;
+}
+
+bool GeneratorThread::VideoConverterTask::joinStages()
+{
+    qCInfo(generatorLog) << "Merge slide video";
+    QStringList segments;
+    for (const PlannedStage &planned : m_slide.stages)
+        segments.append(segmentFile(planned.stage.prefix()));
+    if (segments.size() == 1)
+        return QFile::rename(segments.constFirst(), segmentFile('c'));
+    // A list of its own: two slides may be joined at the same time.
+    const QString list =
+        m_generator.m_cache.file(QStringLiteral("merge-files-%1.txt").arg(m_slide.index));
+    const bool done = m_util.join(segments, list, segmentFile('c'));
+    if (!done)
+        m_generator.failWithTool(m_util);
+    for (const QString &segment : qAsConst(segments))
+        QFile::remove(segment);
+    QFile::remove(list);
+    return done;
+}
+
+QString GeneratorThread::VideoConverterTask::segmentFile(char kind) const
+{
+    return m_generator.videoFile(
+        QStringLiteral("vid_%1%2").arg(QLatin1Char(kind)).arg(m_slide.index));
+}
+
+} // namespace velmora

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/FileNames.h"
+
+namespace velmora
+{
+
+void FileNames::allowAllLetters()
+{
+    // The system's names are Unicode whatever the language.
+}
+
+} // namespace velmora

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace velmora
+{
+
+/// How the program is called; lines of at most 80 columns, the last one with its newline.
+QString helpText();
+
+} // namespace velmora

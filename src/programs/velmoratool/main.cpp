@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/AppSettings.h"
+#include "app/Identity.h"
+#include "app/Log.h"
+#include "app/Paths.h"
+#include "app/Translations.h"
+#include "generator/worker/WorkerMain.h"
+#include "generator/worker/WorkerProtocol.h"
+#include "platform/FileNames.h"
+#include "programs/velmoratool/HelpText.h"
+#include "programs/velmoratool/MakeCommand.h"
+#include "project/frames/CaptionFont.h"
+
+#include <QGuiApplication>
+#include <QSettings>
+#include <QTextStream>
+#include <QTranslator>
+
+namespace
+{
+
+int showUsage()
+{
+    QTextStream(stderr) << velmora::helpText();
+    return velmora::kExitBadArguments;
+}
+
+/// Chooses what to do: render for the editor, or one of the commands.
+int dispatch(const QStringList &arguments, const velmora::AppSettings &settings)
+{
+    const QString first = arguments.value(1);
+    if (first == QLatin1String("make"))
+        return velmora::runMake(arguments.mid(2), settings);
+    if (first == QLatin1String("--help") || first == QLatin1String("-h")) {
+        QTextStream(stdout) << velmora::helpText();
+        return velmora::kExitDone;
+    }
+    if (first == QLatin1String("--version")) {
+        QTextStream(stdout) << "velmoratool " << velmora::programVersion() << '\n';
+        return velmora::kExitDone;
+    }
+    return first.startsWith(QLatin1String("--")) ? velmora::runWorker(arguments, settings)
+                                                 : showUsage();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    velmora::FileNames::allowAllLetters();
+    velmora::applyIdentity();
+    velmora::Log::install(QStringLiteral("log_tool"));
+    qputenv("QT_QPA_PLATFORM", QByteArrayLiteral("offscreen")); // pictures and fonts, but never a window
+    int result = 0;
+    {
+        QGuiApplication application(argc, argv);
+        velmora::registerFontSubstitutes();
+        velmora::AppSettings settings;
+        settings.load(*velmora::openSettings(velmora::Paths::settingsFile()), QSize());
+        QTranslator translator;
+        if (velmora::Translations::load(translator, settings.locale))
+            QCoreApplication::installTranslator(&translator);
+        result = dispatch(QCoreApplication::arguments(), settings);
+    }
+    velmora::Log::uninstall();
+    return result;
+}

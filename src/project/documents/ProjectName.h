@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace velmora
+{
+
+/// The rule for project names, which become file names.
+namespace ProjectName
+{
+
+/// Whether @p name has none of the forbidden symbols. An empty name has none.
+bool isAllowed(const QString &name);
+/// What to tell the user about a name that is not allowed.
+QString forbiddenMessage();
+
+} // namespace ProjectName
+
+} // namespace velmora

@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "generator/pipeline/OutputTarget.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace velmora;
+
+class TestOutputTarget : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    QString locks() const { return path(QStringLiteral("locks")); }
+
+    RenderError prepare(OutputTarget &target, const QString &name) const
+    {
+        return target.prepare(path(name), QStringLiteral("mp4"), locks());
+    }
+
+    static void write(const QString &name, const QByteArray &content)
+    {
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), qint64(content.size()));
+    }
+
+    static QByteArray read(const QString &name)
+    {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+private slots:
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+
+    void choosesTheContainer_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QString>("fileName");
+        QTest::addColumn<QString>("extension");
+        QTest::newRow("both") << "a.mp4" << "mp4" << "a.mp4" << "mp4";
+        QTest::newRow("suffix wins") << "a.webm" << "mp4" << "a.webm" << "webm";
+        QTest::newRow("upper case") << "a.AVI" << "mp4" << "a.AVI" << "avi";
+        QTest::newRow("no suffix") << "a" << "mov" << "a.mov" << "mov";
+        QTest::newRow("unknown suffix") << "trip 12.2024" << "wmv" << "trip 12.2024.wmv" << "wmv";
+        QTest::newRow("unknown format") << "a" << "../x" << "a.mkv" << "mkv";
+        QTest::newRow("odd letters") << QStringLiteral("Ü 100% 'x'") << "MKV"
+                                     << QStringLiteral("Ü 100% 'x'.mkv") << "mkv";
+    }
+
+    void choosesTheContainer()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, format);
+        QFETCH(QString, extension);
+        OutputTarget target;
+        const RenderError error = target.prepare(path(name), format, locks());
+        QVERIFY2(!error.isSet(), qPrintable(error.text));
+        QTEST(target.fileName(), "fileName");
+        QCOMPARE(target.extension(), extension);
+        QCOMPARE(QFileInfo(target.temporaryFile()).suffix(), extension);
+        QVERIFY(OutputTarget::isTemporaryName(QFileInfo(target.temporaryFile()).fileName()));
+    }
+
+    void refusesWhatCannotBeWritten_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("folder missing") << "none/a.mp4" << "does not exist";
+        QTest::newRow("folder is a file") << "plain/a.mp4" << "not a folder";
+        QTest::newRow("a folder has the name") << "dir.mp4" << "a folder has that name";
+        QTest::newRow("300 characters") << QString(300, QLatin1Char('x')) << "too long";
+        QTest::newRow("300 bytes") << QString(150, QChar(0xfc)) << "too long";
+    }
+
+    void refusesWhatCannotBeWritten()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, told);
+        write(path(QStringLiteral("plain")), "x");
+        QDir(m_folder->path()).mkdir(QStringLiteral("dir.mp4"));
+        OutputTarget target;
+        const RenderError error = prepare(target, name);
+        QCOMPARE(error.code, QString(RenderErrorCode::kOutput));
+        QVERIFY2(error.text.contains(told), qPrintable(error.text));
+    }
+
+    void refusesAReadOnlyFolder()
+    {
+        // The system's own files are read-only even for the super-user.
+        OutputTarget target;
+        const RenderError error =
+            target.prepare(QStringLiteral("/proc/a.mp4"), QStringLiteral("mp4"), locks());
+        QVERIFY(error.isSet());
+        QVERIFY2(error.text.contains(QLatin1String("/proc")), qPrintable(error.text));
+    }
+
+    void takesTheLongestNames()
+    {
+        OutputTarget target;
+        const RenderError error = prepare(target, QString(251, QLatin1Char('x')) + QStringLiteral(".mp4"));
+        QVERIFY2(!error.isSet(), qPrintable(error.text));
+        write(target.temporaryFile(), "video");
+        QVERIFY(!target.commit().isSet());
+        QCOMPARE(read(target.fileName()), QByteArray("video"));
+    }
+
+    void replacesTheOlderVideoOnlyAtTheEnd()
+    {
+        write(path(QStringLiteral("a.mp4")), "old");
+        OutputTarget target;
+        QVERIFY(!prepare(target, QStringLiteral("a.mp4")).isSet());
+        write(target.temporaryFile(), "new");
+        QCOMPARE(read(path(QStringLiteral("a.mp4"))), QByteArray("old"));
+        QVERIFY(!target.commit().isSet());
+        QCOMPARE(read(path(QStringLiteral("a.mp4"))), QByteArray("new"));
+    }
+
+    void leavesNothingWithoutCommit()
+    {
+        write(path(QStringLiteral("a.mp4")), "old");
+        {
+            OutputTarget target;
+            QVERIFY(!prepare(target, QStringLiteral("a.mp4")).isSet());
+            write(target.temporaryFile(), "half");
+        }
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden),
+                 QStringList{QStringLiteral("a.mp4")});
+        QCOMPARE(read(path(QStringLiteral("a.mp4"))), QByteArray("old"));
+    }
+
+    void refusesASecondRenderOfTheSameVideo()
+    {
+        QVERIFY(QFile::link(m_folder->path(), path(QStringLiteral("link"))));
+        OutputTarget first;
+        QVERIFY(!prepare(first, QStringLiteral("a.mp4")).isSet());
+        OutputTarget second;
+        const RenderError error = prepare(second, QStringLiteral("link/a.mp4"));
+        QCOMPARE(error.code, QString(RenderErrorCode::kBusy));
+        OutputTarget other;
+        QVERIFY(!prepare(other, QStringLiteral("b.mp4")).isSet());
+        first.release();
+        OutputTarget third;
+        QVERIFY(!prepare(third, QStringLiteral("a.mp4")).isSet());
+    }
+
+    void takesOverTheLockOfADeadRender()
+    {
+        QString lockFile;
+        {
+            OutputTarget target;
+            QVERIFY(!prepare(target, QStringLiteral("a.mp4")).isSet());
+            lockFile = QDir(locks()).entryInfoList(QDir::Files).constFirst().filePath();
+        }
+        // No process can have this number.
+        write(lockFile, "4194305\nvelmoratool\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+        OutputTarget target;
+        QVERIFY(!prepare(target, QStringLiteral("a.mp4")).isSet());
+    }
+
+    void sweepsUnfinishedVideosOfTheSameName()
+    {
+        const QStringList strays{QStringLiteral(".a.part-abc123.mp4"),
+                                 QStringLiteral(".a.part-abc123.part.mp4")};
+        const QStringList others{QStringLiteral(".a.part-abc123.avi"),
+                                 QStringLiteral(".a.part-b.part-abc123.mp4"),
+                                 QStringLiteral(".a.part-ABC123.mp4"), QStringLiteral("a.part.mp4")};
+        for (const QString &name : strays + others)
+            write(path(name), "x");
+        OutputTarget target;
+        QVERIFY(!prepare(target, QStringLiteral("a.mp4")).isSet());
+        for (const QString &name : strays)
+            QVERIFY2(!QFileInfo::exists(path(name)), qPrintable(name));
+        for (const QString &name : others)
+            QVERIFY2(QFileInfo::exists(path(name)), qPrintable(name));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestOutputTarget)
+#include "tst_outputtarget.moc"

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "generator/sound/Mp3.h"
+#include "helpers/MediaSamples.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace velmora;
+
+class Mp3Test : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void convertsIntoTheTemporaryFolder();
+    void keepsFilesThatAreThere();
+    void failsWithoutLeavings();
+    void failsWithoutAFolder();
+
+private:
+    QString file(const QString &name) const { return m_folder->filePath(name); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void Mp3Test::init()
+{
+    qunsetenv("TMPDIR");
+    m_folder = std::make_unique<QTemporaryDir>();
+    qputenv("TMPDIR", m_folder->path().toUtf8());
+    QVERIFY(MediaSamples::makeTone(file(QStringLiteral("tone.mp3")), {700, 1, 32000, 1}));
+}
+
+void Mp3Test::convertsIntoTheTemporaryFolder()
+{
+    const QString wav = Mp3::convertAudio(file(QStringLiteral("tone.mp3")));
+    QCOMPARE(QFileInfo(wav).path(), file(QStringLiteral("WavTempDir")));
+    const MediaSamples::Sound sound = MediaSamples::listen(wav);
+    QCOMPARE(MediaSamples::tone(sound, 0.1, 0.9, {350, 700, 1400}), 700);
+}
+
+void Mp3Test::keepsFilesThatAreThere()
+{
+    const QString first = Mp3::convertAudio(file(QStringLiteral("tone.mp3")));
+    const QString second = Mp3::convertAudio(file(QStringLiteral("tone.mp3")));
+    QVERIFY(!first.isEmpty() && !second.isEmpty() && first != second);
+    QVERIFY(QFile::remove(first));
+    QCOMPARE(Mp3::convertAudio(file(QStringLiteral("tone.mp3"))), first);
+}
+
+void Mp3Test::failsWithoutLeavings()
+{
+    QCOMPARE(Mp3::convertAudio(file(QStringLiteral("missing.mp3"))), QString());
+    QVERIFY(QDir(file(QStringLiteral("WavTempDir"))).entryList(QDir::Files).isEmpty());
+}
+
+void Mp3Test::failsWithoutAFolder()
+{
+    QFile obstacle(file(QStringLiteral("WavTempDir")));
+    QVERIFY(obstacle.open(QIODevice::WriteOnly));
+    QTest::ignoreMessage(QtWarningMsg, "Mp3. Failed to create temp folder for wav files");
+    QCOMPARE(Mp3::convertAudio(file(QStringLiteral("tone.mp3"))), QString());
+}
+
+QTEST_GUILESS_MAIN(Mp3Test)
+#include "Mp3Test.moc"

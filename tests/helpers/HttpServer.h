@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QHostAddress>
+#include <QList>
+#include <QPointer>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QUrl>
+
+namespace velmora
+{
+
+/// A local HTTP server that keeps the requests' first lines and answers each at once, or when
+/// release() is called while it is held.
+class HttpServer : public QTcpServer
+{
+public:
+    explicit HttpServer(QObject *parent = nullptr) : QTcpServer(parent)
+    {
+        connect(this, &QTcpServer::newConnection, this, [this] {
+            while (QTcpSocket *const socket = nextPendingConnection()) {
+                connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+                connect(socket, &QTcpSocket::readyRead, this, [this, socket] { onData(socket); });
+            }
+        });
+        listen(QHostAddress::LocalHost);
+    }
+
+    QUrl url() const { return QUrl(QStringLiteral("http://127.0.0.1:%1").arg(serverPort())); }
+
+    void setStatus(const QByteArray &status) { m_status = status; }
+    void hold() { m_held = true; }
+    void release()
+    {
+        m_held = false;
+        for (const QPointer<QTcpSocket> &socket : qAsConst(m_waiting)) {
+            if (socket)
+                answer(socket);
+        }
+        m_waiting.clear();
+    }
+
+    /// "GET /path?query HTTP/1.1" of each request so far.
+    QList<QByteArray> requests;
+
+private:
+    void onData(QTcpSocket *socket)
+    {
+        QByteArray &data = m_buffers[socket];
+        data += socket->readAll();
+        if (!data.contains("\r\n\r\n"))
+            return;
+        requests.append(data.left(data.indexOf("\r\n")));
+        m_buffers.remove(socket);
+        if (m_held)
+            m_waiting.append(socket);
+        else
+            answer(socket);
+    }
+
+    void answer(QTcpSocket *socket)
+    {
+        socket->write("HTTP/1.1 " + m_status +
+                      "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n");
+        socket->disconnectFromHost();
+    }
+
+    QByteArray m_status = "200 OK";
+    bool m_held = false;
+    QHash<QTcpSocket *, QByteArray> m_buffers;
+    QList<QPointer<QTcpSocket>> m_waiting;
+};
+
+} // namespace velmora

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+#include <QTest>
+
+namespace velmora
+{
+
+/// The helper program that does what its arguments say; see tests/helpers/testprocess/main.cpp.
+inline QString testProcessPath()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/testprocess");
+}
+
+/// Waits for the next whole line of a process's output, without its newline; null on a time-out.
+inline QByteArray nextLine(QProcess &process, int timeoutMs = 20000)
+{
+    while (!process.canReadLine()) {
+        if (!process.waitForReadyRead(timeoutMs))
+            return {};
+    }
+    return process.readLine().trimmed();
+}
+
+/// Whether a process runs; one that ended and was not collected yet counts as ended.
+inline bool isAlive(qint64 pid)
+{
+    QFile file(QStringLiteral("/proc/%1/stat").arg(pid));
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray stat = file.readAll();
+    const int state = stat.lastIndexOf(')') + 2;
+    return stat.size() > state && stat.at(state) != 'Z' && stat.at(state) != 'X';
+}
+
+} // namespace velmora

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "helpers/HttpServer.h"
+#include "helpers/TestProcess.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <memory>
+
+using namespace velmora;
+
+namespace
+{
+
+// Logged when the program is up: it holds the lock, listens and has its crash handler.
+const QByteArray kReady = ": Load translation: ";
+
+} // namespace
+
+// Starts the real program, without a display, on a data folder of its own.
+class VelmoraStartTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void firstStart();
+    void secondStartWakesTheFirst();
+    void startsAfterKill();
+    void crashIsToldAtTheNextStart();
+    void startsAlthoughFirstIsSilent();
+
+private:
+    std::unique_ptr<QProcess> start(const QStringList &arguments = {})
+    {
+        auto process = std::make_unique<QProcess>();
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("VELMORA_DATA_DIR"), m_data->path());
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        if (!m_metrics.isEmpty())
+            environment.insert(QStringLiteral("VELMORA_METRICS_ADDRESS"), m_metrics);
+        process->setProcessEnvironment(environment);
+        process->start(QCoreApplication::applicationDirPath() + QStringLiteral("/velmora"),
+                       arguments);
+        return process;
+    }
+
+    QByteArray log() const
+    {
+        QByteArray all;
+        const QDir folder(m_data->filePath(QStringLiteral("log")));
+        for (const QString &name : folder.entryList({QStringLiteral("log_*.txt")})) {
+            QFile file(folder.filePath(name));
+            file.open(QIODevice::ReadOnly);
+            all += file.readAll();
+        }
+        return all;
+    }
+    bool logged(const QByteArray &text, int times = 1) const { return log().count(text) == times; }
+
+    static void end(QProcess &process)
+    {
+        process.kill();
+        process.waitForFinished();
+    }
+
+    std::unique_ptr<QTemporaryDir> m_data;
+    QString m_metrics;
+};
+
+void VelmoraStartTest::init()
+{
+    m_data = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_data->isValid());
+}
+
+void VelmoraStartTest::cleanup()
+{
+    m_metrics.clear();
+}
+
+void VelmoraStartTest::firstStart()
+{
+    HttpServer server;
+    m_metrics = server.url().toString();
+    QFile services(m_data->filePath(QStringLiteral("services.ini")));
+    QVERIFY(services.open(QIODevice::WriteOnly));
+    services.write("[metrics]\naddress=http://127.0.0.1:1/\nbatch=2\n");
+    services.close();
+    const auto program = start({QStringLiteral("--inst")});
+    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 20000);
+    QVERIFY(QDir(m_data->filePath(QStringLiteral("cache/data"))).exists());
+    for (const char *text : {": Log file /", ": Log file tool /", ": Screen count ", ": Screen 0 ",
+                             ": Run from insaller:1\n", ": is frun:1\n",
+                             ": Load translation: velmora_", ": Crash installer setup time:"})
+        QVERIFY2(logged(text), text);
+
+    QTRY_COMPARE(server.requests.size(), 1);
+    const QByteArray request = server.requests.first();
+    QVERIFY(request.startsWith("GET /?ver=3.4.6&id="));
+    for (const char *code : {"osid", "prcn", "sram", "tchd", "vidv", "laptop"})
+        QVERIFY2(request.contains(QByteArray("=") + code + ':'), request.constData());
+    end(*program);
+}
+
+void VelmoraStartTest::secondStartWakesTheFirst()
+{
+    const auto first = start();
+    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 20000);
+    const auto second = start();
+    QVERIFY(second->waitForFinished());
+    QCOMPARE(second->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(second->exitCode(), 0);
+    QTRY_VERIFY(logged(": Message received:'Wake up!'\n"));
+    QVERIFY(logged(": main window\n"));
+    QCOMPARE(first->state(), QProcess::Running);
+    end(*first);
+}
+
+void VelmoraStartTest::startsAfterKill()
+{
+    const auto first = start();
+    QTRY_VERIFY(logged(kReady));
+    end(*first);
+    QVERIFY(QFile::exists(m_data->filePath(QStringLiteral("velmora.lock"))));
+    const auto second = start();
+    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 20000);
+    end(*second);
+}
+
+void VelmoraStartTest::crashIsToldAtTheNextStart()
+{
+    const auto first = start();
+    QTRY_VERIFY(logged(kReady));
+    ::kill(static_cast<pid_t>(first->processId()), SIGSEGV);
+    QVERIFY(first->waitForFinished());
+    QCOMPARE(first->exitStatus(), QProcess::CrashExit);
+    QCOMPARE(first->exitCode(), SIGSEGV);
+    const QString dump = m_data->filePath(QStringLiteral("velmora.dmp"));
+    QVERIFY(QFile::exists(dump));
+
+    const auto second = start();
+    QTRY_VERIFY(logged(": Crash dump found: '" + dump.toUtf8() + "'"));
+    QTRY_VERIFY(logged(": Signal 11\n"));
+    QVERIFY(log().contains("/velmora+0x"));
+    end(*second);
+}
+
+void VelmoraStartTest::startsAlthoughFirstIsSilent()
+{
+    const auto first = start();
+    QTRY_VERIFY(logged(kReady));
+    ::kill(static_cast<pid_t>(first->processId()), SIGSTOP);
+    const auto second = start();
+    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 30000);
+    end(*second);
+    end(*first);
+}
+
+QTEST_GUILESS_MAIN(VelmoraStartTest)
+#include "VelmoraStartTest.moc"

@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "programs/velmoratool/MakeProject.h"
+
+#include "helpers/RenderFixture.h"
+#include "programs/velmoratool/InputFiles.h"
+#include "project/slides/ProjectItemFirst.h"
+#include "project/slides/ProjectItemSimple.h"
+
+#include <QDir>
+#include <QFile>
+#include <QtTest>
+
+#include <exiv2/exiv2.hpp>
+
+using namespace velmora;
+
+class MakeProjectTest : public QObject
+{
+    Q_OBJECT
+private slots:
+    void ordersPhotos_data();
+    void ordersPhotos();
+    void namesEveryUnusableFile();
+    void settingsFillGaps();
+    void optionsWin();
+    void fittingFollowsOptions_data();
+    void fittingFollowsOptions();
+    void titleSlideIsHiddenWithoutTitle();
+    void captions_data();
+    void captions();
+    void projectKeepsItsOwn();
+
+private:
+    QString datedPhoto(const QString &name, int variant, const char *taken);
+    ProjectFile *build(MakeOptions options);
+
+    RenderFixture m_fixture;
+    std::unique_ptr<MakeProject> m_make;
+    RenderRequest m_request;
+};
+
+QString MakeProjectTest::datedPhoto(const QString &name, int variant, const char *taken)
+{
+    const QString path = m_fixture.photo(name, variant);
+    const auto image = Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString());
+    image->readMetadata();
+    image->exifData()["Exif.Photo.DateTimeOriginal"] = taken;
+    image->writeMetadata();
+    return path;
+}
+
+/// The project of @p options; null if they cannot be used.
+ProjectFile *MakeProjectTest::build(MakeOptions options)
+{
+    if (options.photos.isEmpty() && options.projectFile.isEmpty())
+        options.photos << m_fixture.photo(QStringLiteral("only.png"), 1);
+    if (options.output.isEmpty())
+        options.output = m_fixture.output(QStringLiteral("video.mp4"));
+    m_request = {};
+    m_make = std::make_unique<MakeProject>(options, m_fixture.settings);
+    const RenderError error = m_make->build();
+    if (error.isSet())
+        qWarning() << error.text;
+    m_request = m_make->takeRequest();
+    return m_request.project.get();
+}
+
+void MakeProjectTest::ordersPhotos_data()
+{
+    QTest::addColumn<int>("order");
+    QTest::addColumn<QString>("names");
+    QTest::newRow("given") << int(MakeOptions::Order::Given) << QStringLiteral("z 2 10 x");
+    QTest::newRow("name") << int(MakeOptions::Order::Name) << QStringLiteral("2 10 x z");
+    QTest::newRow("date") << int(MakeOptions::Order::Date) << QStringLiteral("10 z 2 x");
+}
+
+void MakeProjectTest::ordersPhotos()
+{
+    QFETCH(int, order);
+    QFETCH(QString, names);
+    QDir().mkpath(m_fixture.path(QStringLiteral("folder")));
+    const QString z = datedPhoto(QStringLiteral("z.jpg"), 1, "2020:05:01 08:00:00");
+    datedPhoto(QStringLiteral("folder/10.jpg"), 2, "2019:12:31 23:59:59");
+    datedPhoto(QStringLiteral("folder/2.JPG"), 3, "2020:05:01 08:00:01");
+    m_fixture.file(QStringLiteral("folder/notes.txt"), "no photo");
+    const QString x = m_fixture.photo(QStringLiteral("x.png"), 4); // only its file's time
+    QStringList errors;
+    const QStringList files = InputFiles::photos({z, m_fixture.path(QStringLiteral("folder")), x},
+                                                 static_cast<MakeOptions::Order>(order), &errors);
+    QCOMPARE(errors, QStringList());
+    QStringList found;
+    for (const QString &file : files) {
+        QVERIFY(QFileInfo(file).isAbsolute());
+        found << QFileInfo(file).completeBaseName();
+    }
+    QCOMPARE(found.join(QLatin1Char(' ')), names);
+}
+
+void MakeProjectTest::namesEveryUnusableFile()
+{
+    QDir().mkpath(m_fixture.path(QStringLiteral("empty")));
+    MakeOptions options;
+    options.photos = QStringList{m_fixture.path(QStringLiteral("gone 100%1.jpg")),
+                                 m_fixture.file(QStringLiteral("text.txt"), "text"),
+                                 m_fixture.path(QStringLiteral("empty"))};
+    options.music = QStringList{m_fixture.path(QStringLiteral("gone.mp3"))};
+    options.output = m_fixture.output(QStringLiteral("video.mp4"));
+    const RenderError error = MakeProject(options, m_fixture.settings).build();
+    QCOMPARE(error.code, QString(RenderErrorCode::kInput));
+    const QStringList lines = error.text.split(QLatin1Char('\n'));
+    QCOMPARE(lines.size(), 4);
+    QVERIFY(lines.at(0).contains(options.photos.at(0)));
+    QVERIFY(lines.at(1).contains(options.photos.at(1)));
+    QVERIFY(lines.at(2).contains(options.photos.at(2)));
+    QVERIFY(lines.at(3).contains(options.music.at(0)));
+}
+
+void MakeProjectTest::settingsFillGaps()
+{
+    AppSettings &settings = m_fixture.settings;
+    settings.defaultTime = 9;
+    settings.defaultTransition = 12;
+    settings.transitionTime = 4;
+    settings.audioFade = 6;
+    settings.audioOffset = -2;
+    settings.resolution = QSize(1600, 900);
+    settings.speedGeneration = true;
+    settings.outputProfile = QStringLiteral("everywhere");
+    const ProjectFile *project = build({});
+    QVERIFY(project);
+    const auto *slide = qobject_cast<ProjectItemSimple *>(project->items().value(1));
+    QVERIFY(slide);
+    QCOMPARE(slide->time(), 9);
+    QCOMPARE(slide->transition(), 12);
+    QCOMPARE(m_request.transitionSeconds, 4);
+    QCOMPARE(project->audioFade(), 6);
+    QCOMPARE(project->audio().offset, -2);
+    QCOMPARE(project->resolution(), QSize(1600, 900));
+    QVERIFY(m_request.parallel);
+    QVERIFY(m_request.profile == OutputProfile::PlaysEverywhere);
+    settings = AppSettings();
+}
+
+void MakeProjectTest::optionsWin()
+{
+    MakeOptions options;
+    options.time = 7;
+    options.transition = 27;
+    options.transitionSeconds = 1;
+    options.fade = 3;
+    options.offset = 5;
+    options.loop = true;
+    options.size = QSize(320, 180);
+    options.parallel = true;
+    options.profile = OutputProfile::PlaysEverywhere;
+    options.music << m_fixture.sound(QStringLiteral("tone.wav"), 2);
+    options.output = m_fixture.output(QStringLiteral("Two words.WebM"));
+    const ProjectFile *project = build(options);
+    QVERIFY(project);
+    const auto *slide = qobject_cast<ProjectItemSimple *>(project->items().value(1));
+    QVERIFY(slide);
+    QCOMPARE(slide->time(), 7);
+    QCOMPARE(slide->transition(), 27);
+    QCOMPARE(m_request.transitionSeconds, 1);
+    QCOMPARE(project->audioFade(), 3);
+    QCOMPARE(project->audio().offset, 5);
+    QVERIFY(project->audioLoop());
+    QCOMPARE(project->audio().items.size(), 1);
+    QCOMPARE(project->audio().items.first().duration, QStringLiteral("0:00:02"));
+    QCOMPARE(project->resolution(), QSize(320, 180));
+    QVERIFY(m_request.parallel);
+    QVERIFY(m_request.profile == OutputProfile::PlaysEverywhere);
+    QCOMPARE(project->name(), QStringLiteral("Two words"));
+    QCOMPARE(project->format(), QStringLiteral("webm"));
+    QCOMPARE(project->fileName(), options.output);
+}
+
+void MakeProjectTest::fittingFollowsOptions_data()
+{
+    QTest::addColumn<bool>("stretch");
+    QTest::addColumn<bool>("originalSize");
+    QTest::addColumn<bool>("origRatio");
+    QTest::addColumn<bool>("scaleToFit");
+    QTest::newRow("neither") << false << false << true << true;
+    QTest::newRow("stretch") << true << false << false << false;
+    QTest::newRow("original size") << false << true << true << false;
+}
+
+void MakeProjectTest::fittingFollowsOptions()
+{
+    QFETCH(bool, stretch);
+    QFETCH(bool, originalSize);
+    MakeOptions options;
+    options.stretch = stretch;
+    options.originalSize = originalSize;
+    const ProjectFile *project = build(options);
+    QVERIFY(project);
+    QTEST(project->origRatio(), "origRatio");
+    QTEST(project->scaleToFit(), "scaleToFit");
+}
+
+void MakeProjectTest::titleSlideIsHiddenWithoutTitle()
+{
+    const ProjectFile *project = build({});
+    QVERIFY(project);
+    QVERIFY(qobject_cast<ProjectItemFirst *>(project->items().value(0)));
+    QVERIFY(!project->items().first()->isShown());
+
+    MakeOptions options;
+    options.title = QStringLiteral("Our trip");
+    project = build(options);
+    QVERIFY(project);
+    QVERIFY(project->items().first()->isShown());
+    QCOMPARE(project->items().first()->caption().text, options.title);
+}
+
+void MakeProjectTest::captions_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("caption");
+    const auto row = [](const char *path, const char *caption) {
+        QTest::newRow(path) << QString::fromUtf8(path) << QString::fromUtf8(caption);
+    };
+    row("/photos/Dawn over the ridges.jpg", "Dawn over the ridges");
+    row("in_the_alps.JPEG", "in the alps");
+    row("__two__words__.png", "two words");
+    row("1.5 million.tar.png", "1.5 million.tar");
+    row("/with.dot/Käse 100%1.png", "Käse 100%1");
+    row("/photos/.png", "");
+}
+
+void MakeProjectTest::captions()
+{
+    QFETCH(QString, path);
+    QTEST(captionFromName(path), "caption");
+}
+
+void MakeProjectTest::projectKeepsItsOwn()
+{
+    MakeOptions options;
+    options.transitionSeconds = 5;
+    options.time = 8;
+    options.captionsFromNames = true;
+    options.photos << m_fixture.photo(QStringLiteral("a_b.png"), 1);
+    QVERIFY(build(options));
+    const QString saved = m_fixture.path(QStringLiteral("saved.json"));
+    QVERIFY(m_request.project->saveToFile(saved));
+
+    MakeOptions again;
+    again.projectFile = saved;
+    again.size = QSize(64, 48);
+    again.output = m_fixture.output(QStringLiteral("other.avi"));
+    const ProjectFile *project = build(again);
+    QVERIFY(project);
+    QCOMPARE(m_request.transitionSeconds, 5);
+    QCOMPARE(m_make->settings().transitionTime, 5);
+    QCOMPARE(project->name(), QStringLiteral("video"));
+    QCOMPARE(project->fileName(), again.output);
+    QCOMPARE(project->format(), QStringLiteral("avi"));
+    QCOMPARE(project->resolution(), QSize(64, 48));
+    QCOMPARE(project->items().value(1)->time(), 8);
+    QCOMPARE(project->items().value(1)->caption().text, QStringLiteral("a b"));
+}
+
+QTEST_MAIN(MakeProjectTest)
+#include "MakeProjectTest.moc"

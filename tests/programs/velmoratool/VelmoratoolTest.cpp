@@ -1,0 +1,365 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Identity.h"
+#include "generator/worker/WorkerProtocol.h"
+#include "helpers/RenderFixture.h"
+#include "helpers/VideoProbe.h"
+#include "programs/velmoratool/HelpText.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QtTest>
+
+using namespace velmora;
+
+/// Runs the real program as a user or a script does.
+class VelmoratoolTest : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void tellsAboutItself_data();
+    void tellsAboutItself();
+    void rendersAnyNames_data();
+    void rendersAnyNames();
+    void refuses_data();
+    void refuses();
+    void damagedPhotoLeavesOldVideo();
+    void protocolLinesAreWhole();
+    void interruptLeavesNothing_data();
+    void interruptLeavesNothing();
+    void documentRendersAlike();
+    void terminalShowsABar();
+    void manPageIsComplete();
+
+private:
+    int run(const QStringList &arguments, const QString &locale = QStringLiteral("C.UTF-8"));
+    static void setLocale(QProcess &process, const QString &locale);
+    static QString program()
+    {
+        return QCoreApplication::applicationDirPath() + QStringLiteral("/velmoratool");
+    }
+    QStringList tiny(const QStringList &photos, const QString &output) const;
+    QVector<WorkerMessage> messages() const;
+
+    RenderFixture m_fixture;
+    QString m_photo;
+    QString m_output;
+    QString m_errors;
+};
+
+void VelmoratoolTest::initTestCase()
+{
+    m_photo = m_fixture.photo(QStringLiteral("photo.jpg"), 1);
+    m_fixture.photo(QStringLiteral("second.png"), 2);
+    m_fixture.file(QStringLiteral("text.jpg"), "This is not a picture.");
+    m_fixture.file(QStringLiteral("broken.json"), "{\"images\": [");
+    m_fixture.file(QStringLiteral("broken.mp3"), "This is not music.");
+    QDir().mkpath(m_fixture.path(QStringLiteral("empty")));
+}
+
+void VelmoratoolTest::setLocale(QProcess &process, const QString &locale)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), locale);
+    process.setProcessEnvironment(environment);
+}
+
+int VelmoratoolTest::run(const QStringList &arguments, const QString &locale)
+{
+    QProcess process;
+    setLocale(process, locale);
+    process.setWorkingDirectory(m_fixture.path(QString()));
+    process.start(program(), arguments);
+    process.waitForFinished(120'000);
+    m_output = QString::fromUtf8(process.readAllStandardOutput());
+    m_errors = QString::fromUtf8(process.readAllStandardError());
+    return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+}
+
+/// Arguments for a video of one second per photo.
+QStringList VelmoratoolTest::tiny(const QStringList &photos, const QString &output) const
+{
+    return QStringList{QStringLiteral("make"), QStringLiteral("--photos")} + photos +
+           QStringList{QStringLiteral("--output"),
+                       output,
+                       QStringLiteral("--size"),
+                       QStringLiteral("160x90"),
+                       QStringLiteral("--time"),
+                       QStringLiteral("1"),
+                       QStringLiteral("--transition-length"),
+                       QStringLiteral("1")};
+}
+
+QVector<WorkerMessage> VelmoratoolTest::messages() const
+{
+    QVector<WorkerMessage> result;
+    for (const QString &line : m_output.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+        result.append(WorkerProtocol::decode(line.toUtf8()));
+    return result;
+}
+
+void VelmoratoolTest::tellsAboutItself_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("output");
+    const QString usage = QStringLiteral("Usage: velmoratool make");
+    QTest::newRow("help") << QStringList{QStringLiteral("--help")} << 0 << usage;
+    QTest::newRow("short help") << QStringList{QStringLiteral("-h")} << 0 << usage;
+    QTest::newRow("help of make") << QStringList{QStringLiteral("make"), QStringLiteral("--help")}
+                                  << 0 << usage;
+    QTest::newRow("version") << QStringList{QStringLiteral("--version")} << 0
+                             << QStringLiteral("velmoratool ") + programVersion();
+    QTest::newRow("nothing") << QStringList() << 2 << QString();
+    QTest::newRow("unknown command") << QStringList{QStringLiteral("mak")} << 2 << QString();
+}
+
+void VelmoratoolTest::tellsAboutItself()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, exitCode);
+    QFETCH(QString, output);
+    QCOMPARE(run(arguments), exitCode);
+    QVERIFY(m_output.startsWith(output));
+    if (exitCode == 0)
+        QCOMPARE(m_errors, QString());
+    else
+        QVERIFY(m_errors.startsWith(QStringLiteral("Usage:")));
+}
+
+void VelmoratoolTest::rendersAnyNames_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("locale");
+    const QString utf8 = QStringLiteral("C.UTF-8");
+    QTest::newRow("blanks") << QStringLiteral("two  words") << utf8;
+    QTest::newRow("quotes") << QStringLiteral("it's \"quoted\"") << utf8;
+    QTest::newRow("percent signs") << QStringLiteral("100% %1 %03d") << utf8;
+    QTest::newRow("many letters") << QStringLiteral("Käse 日本 Ω") << utf8;
+    QTest::newRow("many letters without a language")
+        << QStringLiteral("Grüße 中文") << QStringLiteral("C");
+}
+
+void VelmoratoolTest::rendersAnyNames()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, locale);
+    const QString music = m_fixture.sound(name + QStringLiteral(".ogg"), 3);
+    const QString output = m_fixture.output(name + QStringLiteral(".mp4"));
+    QStringList arguments = tiny({m_fixture.photo(name + QStringLiteral(".jpg"), 3),
+                                  m_fixture.photo(name + QStringLiteral(".png"), 4)},
+                                 output);
+    arguments << QStringLiteral("--music") << music << QStringLiteral("--captions-from-names");
+    QCOMPARE(run(arguments, locale), 0);
+    QCOMPARE(m_errors, QString());
+    QVERIFY(m_output.contains(QStringLiteral("100 %")));
+    QVERIFY2(m_output.contains(output), qPrintable(m_output));
+    // Two stills, two captions and one transition of a second each.
+    QCOMPARE(VideoProbe::frameCount(output), 5 * 25);
+    QVERIFY(qAbs(VideoProbe::soundLength(output) - 5) < 0.15);
+    QCOMPARE(VideoProbe::decodingErrors(output), QString());
+    QVERIFY(QFile::remove(output));
+    QCOMPARE(m_fixture.leftovers(), QStringList());
+}
+
+void VelmoratoolTest::refuses_data()
+{
+    QTest::addColumn<QString>("photo");
+    QTest::addColumn<QString>("output");
+    QTest::addColumn<QString>("more");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QStringList>("messages");
+    const auto row = [](const char *name, const char *photo, const char *output, const char *more,
+                        int exitCode, const char *messages) {
+        QTest::newRow(name) << QString::fromUtf8(photo) << QString::fromUtf8(output)
+                            << QString::fromUtf8(more) << exitCode
+                            << QString::fromUtf8(messages).split(QLatin1Char('|'));
+    };
+    row("missing photo", "gone.jpg", "out/a.mp4", "", 1, "gone.jpg|does not exist");
+    row("no photo at all", "text.jpg", "out/a.mp4", "", 1, "text.jpg|picture");
+    row("empty folder", "empty", "out/a.mp4", "", 1, "empty|no photos");
+    row("unknown format", "broken.json", "out/a.mp4", "", 1, "broken.json|known format");
+    row("missing music", "photo.jpg", "out/a.mp4", "--music gone.ogg", 1, "gone.ogg|not exist");
+    row("broken music", "photo.jpg", "out/a.mp4", "--music broken.mp3", 1, "broken.mp3");
+    row("no such output folder", "photo.jpg", "nowhere/a.mp4", "", 1, "nowhere|does not exist");
+    row("read-only output folder", "photo.jpg", "/proc/a.mp4", "", 1, "/proc|cannot be written");
+    row("tiny size", "photo.jpg", "out/a.mp4", "--size 2x2", 1, "2x2|too small");
+    row("wrong suffix", "photo.jpg", "out/a.doc", "", 2, "a.doc|must end in|--help");
+    row("wrong option", "photo.jpg", "out/a.mp4", "--quick", 2, "--quick|--help");
+    row("document not writable", "photo.jpg", "out/a.mp4", "--dump-project nowhere/p.json", 1,
+        "nowhere/p.json|cannot be written");
+}
+
+void VelmoratoolTest::refuses()
+{
+    QFETCH(QString, photo);
+    QFETCH(QString, output);
+    QFETCH(QString, more);
+    QFETCH(int, exitCode);
+    QFETCH(QStringList, messages);
+    const QStringList arguments =
+        tiny({photo}, output) + more.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    QCOMPARE(run(arguments), exitCode);
+    QCOMPARE(m_output, QString());
+    for (const QString &message : qAsConst(messages))
+        QVERIFY2(m_errors.contains(message), qPrintable(m_errors));
+    QCOMPARE(m_fixture.leftovers(), QStringList());
+    QCOMPARE(QDir(m_fixture.outputFolder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+             QStringList());
+}
+
+void VelmoratoolTest::damagedPhotoLeavesOldVideo()
+{
+    const QString output = m_fixture.file(QStringLiteral("out/old.mp4"), "older video");
+    QCOMPARE(run(tiny({m_photo, QStringLiteral("text.jpg")}, output)), 1);
+    QFile file(output);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("older video"));
+    QVERIFY(file.remove());
+
+    QCOMPARE(run({QStringLiteral("make"), QStringLiteral("--project"),
+                  QStringLiteral("broken.json"), QStringLiteral("--output"), output}),
+             2);
+    QVERIFY(m_errors.contains(QStringLiteral("broken.json")));
+}
+
+void VelmoratoolTest::protocolLinesAreWhole()
+{
+    const QString output = m_fixture.output(QStringLiteral("json.mp4"));
+    QCOMPARE(run(tiny({m_photo, m_photo}, output) << QStringLiteral("--json")), 0);
+    const QVector<WorkerMessage> lines = messages();
+    QVERIFY(lines.size() > 2);
+    qint64 frame = 0;
+    for (const WorkerMessage &line : lines) {
+        QVERIFY(line.kind != WorkerMessage::Kind::Invalid);
+        if (line.kind != WorkerMessage::Kind::Progress)
+            continue;
+        QVERIFY(line.frame >= frame);
+        frame = line.frame;
+        QCOMPARE(line.count, qint64(3 * 25));
+    }
+    QCOMPARE(frame, qint64(3 * 25));
+    QVERIFY(lines.last().kind == WorkerMessage::Kind::Finished);
+    QCOMPARE(lines.last().fileName, output);
+
+    QCOMPARE(run(tiny({QStringLiteral("text.jpg")}, output) << QStringLiteral("--json")), 1);
+    QVERIFY(messages().last().kind == WorkerMessage::Kind::Failed);
+    QVERIFY(messages().last().error.text.contains(QStringLiteral("text.jpg")));
+    QVERIFY(m_errors.contains(QStringLiteral("text.jpg")));
+    QVERIFY(QFile::remove(output));
+}
+
+void VelmoratoolTest::interruptLeavesNothing_data()
+{
+    QTest::addColumn<QString>("signal");
+    QTest::newRow("Ctrl-C") << QStringLiteral("-INT");
+    QTest::newRow("end of session") << QStringLiteral("-TERM");
+}
+
+void VelmoratoolTest::interruptLeavesNothing()
+{
+    QFETCH(QString, signal);
+    const QString output = m_fixture.file(QStringLiteral("out/kept.mp4"), "older video");
+    QStringList arguments = tiny({m_photo, m_photo, m_photo, m_photo}, output);
+    arguments << QStringLiteral("--json") << QStringLiteral("--time=60")
+              << QStringLiteral("--transition-length=60") << QStringLiteral("--size=640x360");
+    QProcess process;
+    setLocale(process, QStringLiteral("C.UTF-8"));
+    process.start(program(), arguments);
+    m_output.clear();
+    while (!m_output.contains(QStringLiteral("progress"))) {
+        QVERIFY2(process.waitForReadyRead(60'000), "It never came to the first frame.");
+        m_output += QString::fromUtf8(process.readAllStandardOutput());
+    }
+    QProcess::execute(QStringLiteral("kill"), {signal, QString::number(process.processId())});
+    QVERIFY(process.waitForFinished(60'000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 3);
+    m_output += QString::fromUtf8(process.readAllStandardOutput());
+    QVERIFY(messages().last().kind == WorkerMessage::Kind::Cancelled);
+
+    QCOMPARE(m_fixture.leftovers(), QStringList());
+    QCOMPARE(QDir(m_fixture.path(QStringLiteral("data/cache/data")))
+                 .entryList(QDir::Dirs | QDir::NoDotAndDotDot),
+             QStringList());
+    QFile file(output);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("older video"));
+    QVERIFY(file.remove());
+}
+
+void VelmoratoolTest::documentRendersAlike()
+{
+    const QString output = m_fixture.output(QStringLiteral("from project.mp4"));
+    const QString document = m_fixture.path(QStringLiteral("dumped.json"));
+    QStringList arguments =
+        tiny({QStringLiteral("photo.jpg"), QStringLiteral("second.png")}, output);
+    arguments << QStringLiteral("--dump-project") << document << QStringLiteral("--title")
+              << QStringLiteral("Hello") << QStringLiteral("--transition")
+              << QStringLiteral("cross fade");
+    QCOMPARE(run(arguments), 0);
+    QVERIFY(!QFile::exists(output));
+    QFile file(document);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
+    QCOMPARE(object.value(QStringLiteral("resolution")).toString(), QStringLiteral("160x90"));
+    QCOMPARE(object.value(QStringLiteral("transition_time")).toInt(), 1);
+
+    QCOMPARE(run({QStringLiteral("make"), QStringLiteral("--project"), document}), 0);
+    // The title with its caption's appearance, then two photos with a transition into each.
+    QCOMPARE(VideoProbe::frameCount(output), 6 * 25);
+    QVERIFY(QFile::remove(output));
+}
+
+void VelmoratoolTest::terminalShowsABar()
+{
+    const QString output = m_fixture.output(QStringLiteral("bar.mp4"));
+    const QStringList arguments = tiny({m_photo}, output);
+    QProcess process; // "script" runs the program on a terminal of its own.
+    setLocale(process, QStringLiteral("C.UTF-8"));
+    QProcessEnvironment environment = process.processEnvironment();
+    environment.insert(QStringLiteral("TERM"), QStringLiteral("xterm"));
+    process.setProcessEnvironment(environment);
+    process.start(
+        QStringLiteral("script"),
+        {QStringLiteral("--quiet"), QStringLiteral("--return"), QStringLiteral("--command"),
+         QLatin1Char('"') + program() + QStringLiteral("\" ") + arguments.join(QLatin1Char(' ')),
+         QStringLiteral("/dev/null")});
+    QVERIFY(process.waitForFinished(120'000));
+    QCOMPARE(process.exitCode(), 0);
+    const QString shown = QString::fromUtf8(process.readAllStandardOutput());
+    QVERIFY2(shown.contains(QRegularExpression(QStringLiteral("\\r\\[#+\\] 100 %"))),
+             qPrintable(shown));
+    QVERIFY(QFile::remove(output));
+}
+
+void VelmoratoolTest::manPageIsComplete()
+{
+    QFile file(QStringLiteral(MAN_PAGE));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString page =
+        QString::fromUtf8(file.readAll()).replace(QStringLiteral("\\-"), QStringLiteral("-"));
+    QRegularExpressionMatchIterator options =
+        QRegularExpression(QStringLiteral("--[a-z-]+")).globalMatch(helpText());
+    QVERIFY(options.hasNext());
+    while (options.hasNext()) {
+        const QString option = options.next().captured();
+        QVERIFY2(page.contains(option), qPrintable(option));
+    }
+    QVERIFY(page.contains(programVersion()));
+
+    QProcess man;
+    man.start(QStringLiteral("man"), {QStringLiteral("--warnings"), QStringLiteral("-l"),
+                                      QStringLiteral("-Tutf8"), QStringLiteral(MAN_PAGE)});
+    QVERIFY(man.waitForFinished(60'000));
+    QCOMPARE(man.exitCode(), 0);
+    QCOMPARE(man.readAllStandardError(), QByteArray());
+    QVERIFY(man.readAllStandardOutput().size() > 1000);
+}
+
+QTEST_GUILESS_MAIN(VelmoratoolTest)
+#include "VelmoratoolTest.moc"

@@ -1,0 +1,445 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "project/documents/ProjectFile.h"
+
+#include "app/AppSettings.h"
+#include "helpers/LogCapture.h"
+#include "project/slides/ProjectItemFirst.h"
+#include "project/slides/ProjectItemSimple.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace velmora;
+
+class ProjectFileTest : public QObject
+{
+    Q_OBJECT
+private slots:
+    void takesDefaultsFromSettings();
+    void documentForm();
+    void roundTripThroughFile();
+    void transitionTimeIsReadWhenWritten();
+    void missingAudioReadsAsEmpty();
+    void faultyDocuments_data();
+    void faultyDocuments();
+    void hostileDocuments_data();
+    void hostileDocuments();
+    void unreadableFiles_data();
+    void unreadableFiles();
+    void tooLargeFileIsRefused();
+    void tooManySlidesAreRefused();
+    void movesSlides_data();
+    void movesSlides();
+    void moveIsLogged();
+    void foreignSlidesAreNotMovedOrTaken();
+    void takenSlideBelongsToCaller();
+    void addsPhotosOnly();
+    void addsTargetsOfLinks();
+    void keepsDanglingLinks();
+};
+
+namespace
+{
+
+AppSettings testSettings()
+{
+    AppSettings settings;
+    settings.defaultTime = 9;
+    settings.transitionTime = 3;
+    settings.audioFade = 4;
+    settings.scaleToFit = false;
+    settings.origRatio = true;
+    settings.resolution = QSize(1366, 768);
+    return settings;
+}
+
+const AppSettings settings = testSettings();
+
+const QByteArray kDocument = R"({
+    "name": "Ostsee", "file_name": "/videos/Ostsee.mp4", "format": "mp4",
+    "resolution": "1280x720", "orig_ratio": false, "scale_to_fit": true,
+    "audio": {"offset": -5, "loop": true, "fade": 2, "files": [
+        {"file_name": "/music/b.mp3", "duration": "0:03:12"},
+        {"file_name": "/music/a.ogg", "duration": "0:00:59"}]},
+    "images": [
+        {"type": "starter", "visible": false, "bg_index": 7, "time": 4, "angle": 0,
+         "text": {"text": "Titel", "font": "Segoe UI", "text_color": "#5370a7", "position": 1,
+                  "transition": 11, "changed": true}},
+        {"type": "image", "file_name": "/photos/1.jpg", "transition": 12, "time": 3, "angle": 270,
+         "text": {"text": "", "font": "Noto Sans", "text_color": "#ffffff",
+                  "bg_color": "#000000", "position": 8, "transition": 27, "changed": false}}],
+    "transition_time": 3})";
+
+QJsonObject parse(const QByteArray &text)
+{
+    QJsonParseError error;
+    const QJsonObject object = QJsonDocument::fromJson(text, &error).object();
+    if (error.error != QJsonParseError::NoError) {
+        qFatal("Faulty test document: %s", text.constData());
+    }
+    return object;
+}
+
+QJsonObject documentOf(const ProjectFile &project)
+{
+    QJsonObject object;
+    project.toJson(object);
+    return object;
+}
+
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
+        qFatal("Cannot write %s", qPrintable(path));
+    }
+}
+
+/// Photo slides named by one letter each.
+void addSlides(ProjectFile &project, const QString &letters)
+{
+    for (const QChar letter : letters) {
+        project.insertItem(-1, new ProjectItemSimple(letter, 1, 0));
+    }
+}
+
+QString lettersOf(const ProjectFile &project)
+{
+    QString letters;
+    for (const ProjectItem *item : project.items()) {
+        letters += item->title();
+    }
+    return letters;
+}
+
+} // namespace
+
+void ProjectFileTest::takesDefaultsFromSettings()
+{
+    const ProjectFile project(settings, ProjectFile::TitleSlide::Create);
+    QCOMPARE(project.name(), QStringLiteral("New project"));
+    QVERIFY(project.fileName().isEmpty());
+    QCOMPARE(project.format(), QStringLiteral("mkv"));
+    QCOMPARE(project.resolution(), QSize(1366, 768));
+    QVERIFY(project.origRatio());
+    QVERIFY(!project.scaleToFit());
+    QVERIFY(project.audio().items.isEmpty());
+    QCOMPARE(project.audio().offset, 0);
+    QVERIFY(!project.audioLoop());
+    QCOMPARE(project.audioFade(), 4);
+    QCOMPARE(project.items().size(), 1);
+    QVERIFY(qobject_cast<ProjectItemFirst *>(project.items().first()));
+    QCOMPARE(project.items().first()->time(), 9);
+    QVERIFY(ProjectFile(settings, ProjectFile::TitleSlide::Omit).items().isEmpty());
+}
+
+void ProjectFileTest::documentForm()
+{
+    const auto project = ProjectFile::fromJson(parse(kDocument), settings);
+    QVERIFY(project);
+    QCOMPARE(project->name(), QStringLiteral("Ostsee"));
+    QCOMPARE(project->fileName(), QStringLiteral("/videos/Ostsee.mp4"));
+    QCOMPARE(project->format(), QStringLiteral("mp4"));
+    QCOMPARE(project->resolution(), QSize(1280, 720));
+    QVERIFY(!project->origRatio());
+    QVERIFY(project->scaleToFit());
+    QCOMPARE(project->audio().offset, -5);
+    QVERIFY(project->audioLoop());
+    QCOMPARE(project->audioFade(), 2);
+    QCOMPARE(project->audio().items.size(), 2);
+    QCOMPARE(project->audio().items.at(1).fileName, QStringLiteral("/music/a.ogg"));
+    QCOMPARE(project->audio().items.at(1).duration, QStringLiteral("0:00:59"));
+    QCOMPARE(project->items().size(), 2);
+    QVERIFY(!project->items().at(0)->isShown());
+    QCOMPARE(project->items().at(1)->angle(), 270);
+    QCOMPARE(documentOf(*project), parse(kDocument));
+}
+
+void ProjectFileTest::roundTripThroughFile()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("Ostsee 'ü' %1.json"));
+    const auto project = ProjectFile::fromJson(parse(kDocument), settings);
+    QVERIFY(project->saveToFile(path));
+
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray content = file.readAll();
+    QVERIFY2(content.contains("\n    \"name\": \"Ostsee\""), "the document is indented");
+
+    QString error;
+    const auto read = ProjectFile::loadFromFile(path, settings, &error);
+    QVERIFY2(read, qPrintable(error));
+    QCOMPARE(documentOf(*read), parse(kDocument));
+}
+
+void ProjectFileTest::transitionTimeIsReadWhenWritten()
+{
+    AppSettings changing;
+    QJsonObject document = parse(kDocument);
+    document.insert(QStringLiteral("transition_time"), 77);
+    const auto project = ProjectFile::fromJson(document, changing);
+    for (const int seconds : {1, 2}) {
+        changing.transitionTime = seconds;
+        QCOMPARE(documentOf(*project).value(QStringLiteral("transition_time")).toInt(), seconds);
+    }
+}
+
+void ProjectFileTest::missingAudioReadsAsEmpty()
+{
+    QJsonObject document = parse(kDocument);
+    document.remove(QStringLiteral("audio"));
+    const auto project = ProjectFile::fromJson(document, settings);
+    QVERIFY(project);
+    QVERIFY(project->audio().items.isEmpty());
+    QCOMPARE(project->audio().offset, 0);
+    QVERIFY(!project->audioLoop());
+    QCOMPARE(project->audioFade(), 0);
+}
+
+void ProjectFileTest::faultyDocuments_data()
+{
+    QTest::addColumn<QByteArray>("document");
+    QTest::addColumn<QString>("word");
+    const QString resolution = QStringLiteral("resolution");
+    QTest::newRow("empty") << QByteArray("{}") << resolution;
+    for (const char *text :
+         {"\"1280x\"", "\"abc\"", "\"x720\"", "\"0x0\"", "\"-5x20\"", "\"1280X720\"",
+          "\"1280x720x3\"", "\"99999999999x1\"", "1280", "null", "[1280,720]"}) {
+        QTest::newRow(text) << QByteArray("{\"resolution\":") + text + "}" << resolution;
+    }
+    const QString image = QStringLiteral("Failed load image info");
+    for (const char *text : {R"({"type":"video"})", "{}", "7", "null", R"("image")",
+                             R"({"type":"image"},{"type":"Image"})"}) {
+        QTest::newRow(text) << QByteArray(R"({"resolution":"64x64","images":[)") + text + "]}"
+                            << image;
+    }
+}
+
+void ProjectFileTest::faultyDocuments()
+{
+    QFETCH(QByteArray, document);
+    QFETCH(QString, word);
+    QStringList errors;
+    QVERIFY(!ProjectFile::fromJson(parse(document), settings, &errors));
+    QCOMPARE(errors, QStringList{word});
+    QVERIFY(!ProjectFile::fromJson(parse(document), settings));
+}
+
+void ProjectFileTest::hostileDocuments_data()
+{
+    QTest::addColumn<QByteArray>("document");
+    const QByteArray start = R"({"resolution":"64x64",)";
+    for (const char *value :
+         {"null", "1e300", "-1e300", "\"x\"", "true", "[[[]]]", "[null]", R"({"files":{}})",
+          R"({"files":[1,null,"x",[]]})", R"({"offset":1e300,"fade":-1e300,"loop":"yes"})"}) {
+        QTest::addRow("audio %s", value) << start + "\"audio\":" + value + "}";
+    }
+    for (const char *value : {"null", "1", "\"x\"", "{}", R"({"0":{"type":"image"}})"}) {
+        QTest::addRow("images %s", value) << start + "\"images\":" + value + "}";
+    }
+    QTest::newRow("texts of wrong types")
+        << start + R"("name":[],"file_name":{},"format":5,"orig_ratio":"a","scale_to_fit":1})";
+    QTest::newRow("doubled keys") << start + R"("name":"a","name":"b","resolution":"32x32"})";
+    QTest::newRow("deep") << start + "\"audio\":" + QByteArray(1000, '[') + QByteArray(1000, ']') +
+                                 "}";
+    QTest::newRow("zero bytes") << start + R"("name":"a\u0000b","file_name":"\ud800"})";
+    QTest::newRow("long text") << start + "\"name\":\"" + QByteArray(5000000, 'x') + "\"}";
+}
+
+/// Whatever can be read is written in a form that reads the same.
+void ProjectFileTest::hostileDocuments()
+{
+    QFETCH(QByteArray, document);
+    const auto project = ProjectFile::fromJson(parse(document), settings);
+    QVERIFY(project);
+    const QJsonObject written = documentOf(*project);
+    const auto again = ProjectFile::fromJson(written, settings);
+    QVERIFY(again);
+    QCOMPARE(documentOf(*again), written);
+}
+
+void ProjectFileTest::unreadableFiles_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("text") << QByteArray("resolution=1280x720");
+    QTest::newRow("cut") << kDocument.left(kDocument.size() / 2);
+    QTest::newRow("array") << QByteArray("[1,2]");
+    QTest::newRow("no project") << QByteArray("{\"a\":1}");
+    QTest::newRow("broken UTF-8") << QByteArray("{\"name\":\"\xc3\x28\xff\"}");
+    QTest::newRow("zeros") << QByteArray(5000, '\0');
+    QTest::newRow("too deep") << QByteArray(100000, '[');
+    QTest::newRow("deep objects") << QByteArray("{\"a\":").repeated(100000);
+}
+
+void ProjectFileTest::unreadableFiles()
+{
+    QFETCH(QByteArray, content);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.json"));
+    writeFile(path, content);
+    QString error;
+    QVERIFY(!ProjectFile::loadFromFile(path, settings, &error));
+    QVERIFY(!error.isEmpty());
+
+    QString missing;
+    QVERIFY(!ProjectFile::loadFromFile(path + QLatin1Char('x'), settings, &missing));
+    QVERIFY(!missing.isEmpty());
+    QString isFolder;
+    QVERIFY(!ProjectFile::loadFromFile(folder.path(), settings, &isFolder));
+    QVERIFY(!isFolder.isEmpty());
+}
+
+void ProjectFileTest::tooLargeFileIsRefused()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.json"));
+    writeFile(path, kDocument);
+    QFile file(path);
+    // A sparse file: nothing of that size is really written.
+    QVERIFY(file.resize(ProjectFile::kMaximumFileSize + 1));
+    QString error;
+    QVERIFY(!ProjectFile::loadFromFile(path, settings, &error));
+    QCOMPARE(error, QStringLiteral("The file is larger than 100 MB."));
+}
+
+void ProjectFileTest::tooManySlidesAreRefused()
+{
+    QJsonArray images;
+    for (int i = 0; i <= ProjectFile::kMaximumItems; ++i) {
+        images.append(QJsonObject{{QStringLiteral("type"), QStringLiteral("image")}});
+    }
+    QJsonObject document{{QStringLiteral("resolution"), QStringLiteral("64x64")},
+                         {QStringLiteral("images"), images}};
+    QStringList errors;
+    QVERIFY(!ProjectFile::fromJson(document, settings, &errors));
+    QCOMPARE(errors, QStringList{QStringLiteral("images")});
+    images.removeLast();
+    document.insert(QStringLiteral("images"), images);
+    QVERIFY(ProjectFile::fromJson(document, settings));
+}
+
+void ProjectFileTest::movesSlides_data()
+{
+    QTest::addColumn<int>("item");
+    QTest::addColumn<int>("anchor");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    const auto row = [](int item, int anchor, const char *before, const char *after) {
+        QTest::addRow("%d to %d", item, anchor)
+            << item << anchor << QString::fromLatin1(before) << QString::fromLatin1(after);
+    };
+    row(0, 3, "bcad", "bcda");
+    row(3, 0, "dabc", "adbc");
+    row(1, 2, "abcd", "acbd");
+    row(2, 1, "acbd", "abcd");
+    row(2, 2, "abcd", "abcd");
+}
+
+void ProjectFileTest::movesSlides()
+{
+    QFETCH(int, item);
+    QFETCH(int, anchor);
+    ProjectFile project(settings, ProjectFile::TitleSlide::Omit);
+    addSlides(project, QStringLiteral("abcd"));
+    project.moveItemBefore(project.items().at(item), project.items().at(anchor));
+    QTEST(lettersOf(project), "before");
+
+    ProjectFile other(settings, ProjectFile::TitleSlide::Omit);
+    addSlides(other, QStringLiteral("abcd"));
+    other.moveItemAfter(other.items().at(item), other.items().at(anchor));
+    QTEST(lettersOf(other), "after");
+}
+
+void ProjectFileTest::moveIsLogged()
+{
+    ProjectFile project(settings, ProjectFile::TitleSlide::Omit);
+    addSlides(project, QStringLiteral("abcd"));
+    const LogCapture log;
+    project.moveItemAfter(project.items().at(0), project.items().at(2));
+    project.moveItemBefore(project.items().at(3), project.items().at(1));
+    const QStringList expected = {QStringLiteral("move item \"a\" from 0 after 2"),
+                                  QStringLiteral("move item \"d\" from 3 before 1")};
+    QCOMPARE(log.lines(), expected);
+}
+
+void ProjectFileTest::foreignSlidesAreNotMovedOrTaken()
+{
+    ProjectFile project(settings, ProjectFile::TitleSlide::Omit);
+    addSlides(project, QStringLiteral("abc"));
+    ProjectItemSimple stranger(QStringLiteral("x"), 1, 0);
+    project.moveItemBefore(&stranger, project.items().at(0));
+    project.moveItemAfter(project.items().at(0), &stranger);
+    project.moveItemAfter(nullptr, project.items().at(0));
+    QVERIFY(!project.takeItem(&stranger));
+    QVERIFY(!project.takeItem(nullptr));
+    QCOMPARE(lettersOf(project), QStringLiteral("abc"));
+}
+
+void ProjectFileTest::takenSlideBelongsToCaller()
+{
+    auto project = std::make_unique<ProjectFile>(settings, ProjectFile::TitleSlide::Omit);
+    addSlides(*project, QStringLiteral("abc"));
+    ProjectItem *b = project->items().at(1);
+    QCOMPARE(project->takeItem(b), b);
+    QCOMPARE(lettersOf(*project), QStringLiteral("ac"));
+    project->insertItem(0, new ProjectItemSimple(QStringLiteral("0"), 1, 0));
+    project->insertItem(99, new ProjectItemSimple(QStringLiteral("9"), 1, 0));
+    QCOMPARE(lettersOf(*project), QStringLiteral("0ac9"));
+    project.reset();
+    QCOMPARE(b->title(), QStringLiteral("b"));
+    delete b;
+}
+
+void ProjectFileTest::addsPhotosOnly()
+{
+    ProjectFile project(settings, ProjectFile::TitleSlide::Create);
+    const QStringList paths = {QStringLiteral("/p/b.JPG"), QStringLiteral("/p/notes.txt"),
+                               QStringLiteral("/p/../p/a.png")};
+    const QVector<ProjectItem *> added = project.addFiles(paths, 6, 13);
+    QCOMPARE(added.size(), 2);
+    QCOMPARE(project.items().mid(1), added);
+    const auto *photo = qobject_cast<ProjectItemSimple *>(added.at(0));
+    QCOMPARE(photo->fileName(), QStringLiteral("/p/b.JPG"));
+    QCOMPARE(photo->time(), 6);
+    QCOMPARE(photo->transition(), 13);
+    QCOMPARE(added.at(1)->title(), QStringLiteral("a.png"));
+    QVERIFY(project.addFiles({}, 1, 1).isEmpty());
+}
+
+void ProjectFileTest::addsTargetsOfLinks()
+{
+    const QTemporaryDir folder;
+    const QString target = QDir(folder.path()).canonicalPath() + QStringLiteral("/photo.jpg");
+    const QString link = folder.filePath(QStringLiteral("link.lnk"));
+    writeFile(target, "x");
+    QVERIFY(QFile::link(target, link));
+    ProjectFile project(settings, ProjectFile::TitleSlide::Omit);
+    const LogCapture log;
+    const QVector<ProjectItem *> added = project.addFiles({link, target}, 1, 1);
+    QCOMPARE(added.size(), 2);
+    for (const ProjectItem *item : added) {
+        const auto *photo = qobject_cast<const ProjectItemSimple *>(item);
+        QCOMPARE(photo->fileName(), target);
+    }
+    QCOMPARE(log.lines(), QStringList{QStringLiteral("File \"%1\" is shortcut").arg(link)});
+}
+
+void ProjectFileTest::keepsDanglingLinks()
+{
+    const QTemporaryDir folder;
+    const QString link = folder.filePath(QStringLiteral("link.jpg"));
+    QVERIFY(QFile::link(folder.filePath(QStringLiteral("missing.jpg")), link));
+    ProjectFile project(settings, ProjectFile::TitleSlide::Omit);
+    const QVector<ProjectItem *> added = project.addFiles({link}, 1, 1);
+    QCOMPARE(added.size(), 1);
+    QCOMPARE(added.first()->title(), QStringLiteral("link.jpg"));
+}
+
+QTEST_GUILESS_MAIN(ProjectFileTest)
+#include "ProjectFileTest.moc"

@@ -1,0 +1,254 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "project/images/ImageLoader.h"
+
+#include "project/images/Pictures.h"
+
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QtEndian>
+
+#include <unistd.h>
+
+using namespace velmora;
+
+/// Files that are no pictures, broken ones and hostile ones.
+class ImageCheckTest : public QObject
+{
+    Q_OBJECT
+private slots:
+    void unusableFilesAreNamed_data();
+    void unusableFilesAreNamed();
+    void unreadableFileCannotBeOpened();
+    void cutFilesAreDamaged_data();
+    void cutFilesAreDamaged();
+    void harmlessOdditiesPass_data();
+    void harmlessOdditiesPass();
+    void hugePicturesAreRefused_data();
+    void hugePicturesAreRefused();
+    void changedBytesDoNoHarm_data();
+    void changedBytesDoNoHarm();
+
+private:
+    QString path(const char *name) const { return m_dir.filePath(QLatin1String(name)); }
+
+    QTemporaryDir m_dir;
+};
+
+namespace
+{
+
+QByteArray encoded(const char *suffix, const QSize &size)
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QLatin1String("picture.") + QLatin1String(suffix));
+    Pictures::quadrants(size).save(file);
+    return Pictures::bytesOf(file);
+}
+
+/// A GIF with one picture of 64 by 64 pixels, made of LZW codes that are cleared so often that
+/// they keep their first length.
+QByteArray gif()
+{
+    QByteArray bits;
+    const auto add = [&bits](int code) {
+        for (int bit = 0; bit < 3; ++bit)
+            bits += char(code >> bit & 1);
+    };
+    for (int pixel = 0; pixel < 64 * 64; ++pixel) {
+        if (pixel % 2 == 0)
+            add(4);
+        add(pixel / 1024);
+    }
+    add(5);
+    QByteArray data((bits.size() + 7) / 8, '\0');
+    for (int i = 0; i < bits.size(); ++i)
+        data[i / 8] = char(data.at(i / 8) | bits.at(i) << i % 8);
+
+    QByteArray file = QByteArray::fromHex("474946383961 4000 4000 81 00 00"
+                                          "e01010 10c010 1010e0 f0f0f0"
+                                          "21f904 0000000000"
+                                          "2c 0000 0000 4000 4000 00 02");
+    for (int start = 0; start < data.size(); start += 255) {
+        const QByteArray block = data.mid(start, 255);
+        file += char(block.size());
+        file += block;
+    }
+    file += '\0';
+    return file + ';';
+}
+
+quint32 pngChecksum(const QByteArray &bytes)
+{
+    quint32 sum = 0xffffffff;
+    for (const char byte : bytes) {
+        sum ^= static_cast<uchar>(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            sum = sum >> 1 ^ (sum & 1 ? 0xedb88320 : 0);
+    }
+    return ~sum;
+}
+
+QByteArray bigEndian(quint32 number)
+{
+    QByteArray bytes(4, '\0');
+    qToBigEndian(number, bytes.data());
+    return bytes;
+}
+
+QByteArray hugePng(quint32 side)
+{
+    QByteArray png = encoded("png", QSize(8, 8));
+    png.replace(16, 8, bigEndian(side) + bigEndian(side));
+    return png.replace(29, 4, bigEndian(pngChecksum(png.mid(12, 17))));
+}
+
+QByteArray hugeJpeg()
+{
+    QByteArray jpeg = encoded("jpg", QSize(8, 8));
+    const int header = jpeg.indexOf("\xff\xc0");
+    return jpeg.replace(header + 5, 4, QByteArray("\xfd\xe8\xfd\xe8", 4));
+}
+
+} // namespace
+
+void ImageCheckTest::unusableFilesAreNamed_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("reason");
+    const QString notAPicture = QStringLiteral("is not a picture that can be read");
+    QTest::newRow("missing") << "missing.jpg" << QByteArray() << QStringLiteral("does not exist");
+    QTest::newRow("folder") << "." << QByteArray() << QStringLiteral("is a folder");
+    QTest::newRow("empty") << "empty.jpg" << QByteArray("") << QStringLiteral("is empty");
+    QTest::newRow("text") << "text.jpg" << QByteArray("Dear diary, today ...\n") << notAPicture;
+    QTest::newRow("drawing") << "drawing.png"
+                             << QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='9' "
+                                           "height='9'/>")
+                             << notAPicture;
+    QTest::newRow("X bitmap") << "x.png"
+                              << QByteArray("#define x_width 8\n#define x_height 1\n"
+                                            "static char x_bits[] = { 0x55 };\n")
+                              << notAPicture;
+    QTest::newRow("jpeg magic only") << "magic.jpg" << QByteArray("\xff\xd8\xff\xe0")
+                                     << QStringLiteral("is damaged or incomplete");
+}
+
+void ImageCheckTest::unusableFilesAreNamed()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, reason);
+    const QString file = m_dir.filePath(name);
+    if (!bytes.isNull())
+        QVERIFY(Pictures::writeBytes(file, bytes));
+    QCOMPARE(ImageLoader::check(file), reason);
+    QString error;
+    QVERIFY(ImageLoader::load(file, &error).isNull());
+    QCOMPARE(error, reason);
+    QVERIFY(ImageLoader::loadForSize(file, QSize(62, 62)).isNull());
+    QVERIFY(!ImageLoader::uprightSize(file).isValid());
+}
+
+void ImageCheckTest::unreadableFileCannotBeOpened()
+{
+    if (geteuid() == 0)
+        QSKIP("root may read every file");
+    QVERIFY(Pictures::writeBytes(path("secret.jpg"), encoded("jpg", QSize(8, 8))));
+    QVERIFY(QFile::setPermissions(path("secret.jpg"), QFile::WriteOwner));
+    QCOMPARE(ImageLoader::check(path("secret.jpg")), QStringLiteral("cannot be opened"));
+}
+
+void ImageCheckTest::cutFilesAreDamaged_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("percent");
+    const QSize size(320, 240);
+    const QVector<QPair<const char *, QByteArray>> files = {
+        {"jpg", encoded("jpg", size)},
+        {"png", encoded("png", size)},
+        {"bmp", encoded("bmp", size)},
+        {"tif", encoded("tif", size)},
+        {"gif", gif()},
+    };
+    for (const auto &file : files) {
+        for (const int percent : {20, 50, 90, 97})
+            QTest::addRow("%s %d%%", file.first, percent) << file.second << percent;
+    }
+}
+
+void ImageCheckTest::cutFilesAreDamaged()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, percent);
+    QVERIFY(Pictures::writeBytes(path("cut"), bytes));
+    QCOMPARE(ImageLoader::check(path("cut")), QString());
+    QVERIFY(Pictures::writeBytes(path("cut"), bytes.left(bytes.size() * percent / 100)));
+    QCOMPARE(ImageLoader::check(path("cut")), QStringLiteral("is damaged or incomplete"));
+}
+
+void ImageCheckTest::harmlessOdditiesPass_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    const QByteArray jpeg = encoded("jpg", QSize(320, 240));
+    const QByteArray tail(1000, 'x');
+    QTest::newRow("bytes behind a JPEG") << jpeg + tail;
+    QTest::newRow("no end marker") << jpeg.left(jpeg.size() - 2);
+    QTest::newRow("bytes behind a PNG") << encoded("png", QSize(320, 240)) + tail;
+    QTest::newRow("bytes behind a BMP") << encoded("bmp", QSize(320, 240)) + tail;
+    QTest::newRow("bytes behind a GIF") << gif() + tail;
+}
+
+void ImageCheckTest::harmlessOdditiesPass()
+{
+    QFETCH(QByteArray, bytes);
+    QVERIFY(Pictures::writeBytes(path("odd"), bytes));
+    QCOMPARE(ImageLoader::check(path("odd")), QString());
+    QCOMPARE(Pictures::colorName(ImageLoader::load(path("odd")).pixel(4, 4)), QLatin1Char('R'));
+}
+
+void ImageCheckTest::hugePicturesAreRefused_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("size");
+    QTest::newRow("png") << hugePng(30000) << QStringLiteral("30000 x 30000");
+    QTest::newRow("jpg") << hugeJpeg() << QStringLiteral("65000 x 65000");
+}
+
+void ImageCheckTest::hugePicturesAreRefused()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, size);
+    QVERIFY(Pictures::writeBytes(path("huge"), bytes));
+    const QString reason = QStringLiteral("is too large (%1 pixels)").arg(size);
+    QCOMPARE(ImageLoader::check(path("huge")), reason);
+    QString error;
+    QVERIFY(ImageLoader::loadForSize(path("huge"), QSize(62, 62), &error).isNull());
+    QCOMPARE(error, reason);
+}
+
+void ImageCheckTest::changedBytesDoNoHarm_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    const QSize size(40, 30);
+    for (const char *suffix : {"jpg", "png", "bmp", "tif"})
+        QTest::newRow(suffix) << encoded(suffix, size);
+    QTest::newRow("gif") << gif();
+}
+
+void ImageCheckTest::changedBytesDoNoHarm()
+{
+    QFETCH(QByteArray, bytes);
+    QRandomGenerator random(4711);
+    for (int run = 0; run < 150; ++run) {
+        QByteArray changed = bytes;
+        for (int i = 0; i < 3; ++i)
+            changed[random.bounded(changed.size())] = char(random.bounded(256));
+        QVERIFY(Pictures::writeBytes(path("changed"), changed));
+        const bool passes = ImageLoader::check(path("changed")).isEmpty();
+        QVERIFY(!passes || !ImageLoader::load(path("changed")).isNull());
+    }
+}
+
+QTEST_GUILESS_MAIN(ImageCheckTest)
+#include "ImageCheckTest.moc"
