@@ -15,6 +15,7 @@ build_packages=(
     libjpeg-dev
     libqt5networkauth5-dev
     libqt5svg5-dev
+    libqt5x11extras5-dev
     libsodium-dev
     libswresample-dev
     libturbojpeg0-dev

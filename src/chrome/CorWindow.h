@@ -24,13 +24,20 @@ public:
     void setContent(QWidget *content);
     QWidget *content() const;
     TitleBar *titleBar() const;
+    /// Whether the window may have a shadow; it is shown where the desktop blends windows, unless
+    /// the window is maximised or in full screen.
     void setShadowsVisible(bool visible);
+    /// Switches between full screen, without title bar, and the state before.
     void toggleFullScreen();
+    void toggleMaximised();
+    /// The visible part of the window, without the shadow, in its coordinates.
+    QRect frameRect() const;
 
 protected:
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     class Private;

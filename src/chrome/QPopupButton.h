@@ -32,7 +32,11 @@ signals:
     /// The user chose a value from the menu, also the one that was current.
     void valueSelected(const QVariant &value);
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
+    void showCurrent();
     void select(const QVariant &value);
 
     Values m_values;
