@@ -38,7 +38,7 @@ run_packages=(
 )
 
 test_packages=(
-    man-db
+    groff-base
     xvfb
 )
 

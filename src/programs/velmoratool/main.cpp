@@ -50,7 +50,8 @@ int main(int argc, char *argv[])
     velmora::FileNames::allowAllLetters();
     velmora::applyIdentity();
     velmora::Log::install(QStringLiteral("log_tool"));
-    qputenv("QT_QPA_PLATFORM", QByteArrayLiteral("offscreen")); // pictures and fonts, but never a window
+    qputenv("QT_QPA_PLATFORM",
+            QByteArrayLiteral("offscreen")); // pictures and fonts, but never a window
     int result = 0;
     {
         QGuiApplication application(argc, argv);
