@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 set(QT_MODULES Core Gui Network Concurrent)
 if(VELMORA_BUILD_GUI)
-  list(APPEND QT_MODULES Widgets)
+  list(APPEND QT_MODULES Widgets Svg Multimedia NetworkAuth)
 endif()
 if(VELMORA_BUILD_TESTS)
   list(APPEND QT_MODULES Test)

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+
+namespace velmora
+{
+
+class TitleBar;
+
+/// The frameless top-level window: title bar, resize handles on all edges and corners, drop
+/// shadow where the desktop composes windows. Moving and resizing are left to the window system
+/// (QWindow::startSystemMove and startSystemResize). GUI thread.
+class CorWindow : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit CorWindow(QWidget *parent = nullptr);
+    ~CorWindow() override;
+
+    /// Takes ownership; replaces the content before.
+    void setContent(QWidget *content);
+    QWidget *content() const;
+    TitleBar *titleBar() const;
+    void setShadowsVisible(bool visible);
+    void toggleFullScreen();
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace velmora
