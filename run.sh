@@ -39,12 +39,11 @@ video="$folder/Velmora sample.mp4"
     --music "$top/examples/music" \
     --output "$video" \
     --title "A day outdoors" \
-    --captions-from-names \
-    --time 3 --transition-length 1 \
-    --fade 3 \
+    --captions-from-names --sort date \
+    --time 2 --transition-length 1 \
+    --fade 2 \
     --parallel \
     --profile everywhere
-echo "The sample video is ready: $video"
 
 if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
     exec "$build/bin/velmora"

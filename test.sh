@@ -65,7 +65,8 @@ count() {
 }
 
 check_format() {
-    git ls-files -z '*.cpp' '*.h' | xargs -0 -r clang-format-14 --dry-run --Werror
+    find src tests tools benchmarks -name '*.cpp' -print0 -o -name '*.h' -print0 |
+        xargs -0 clang-format-14 --dry-run --Werror
 }
 
 # attribute NAME FILE: a number from the head of ctest's result file.
@@ -101,17 +102,18 @@ run_tests() {
 }
 
 run_fuzzers() {
-    local target name corpus
+    local target name found
     echo "== Fuzzing, $fuzz s each"
     cmake --preset fuzz >/dev/null
     cmake --build --preset fuzz
-    for target in build/fuzz/bin/fuzz_*; do
+    for target in build/fuzz/bin/Fuzz*; do
         [ -x "$target" ] || continue
         name=$(basename "$target")
-        corpus=build/fuzz/corpus/$name
-        mkdir -p "$corpus"
+        found=build/fuzz/found/$name
+        mkdir -p "$found"
         count "$name" "$target" -max_total_time="$fuzz" -timeout=10 -rss_limit_mb=2048 \
-            -artifact_prefix=build/fuzz/ -print_final_stats=1 -verbosity=0 "$corpus"
+            -artifact_prefix=build/fuzz/ -print_final_stats=1 -verbosity=0 \
+            "$found" "tests/fuzz/corpus/$name"
     done
 }
 

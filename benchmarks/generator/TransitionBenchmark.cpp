@@ -8,7 +8,7 @@
 #include <QImage>
 
 #include <algorithm>
-#include <chrono>
+#include <ctime>
 
 using namespace velmora;
 
@@ -39,11 +39,10 @@ void renderEffect(benchmark::State &state, TransitionType type, QSize size)
     for (auto iteration : state) {
         (void)iteration;
         frame = frame % (kFrames - 1) + 1;
-        const auto begin = std::chrono::steady_clock::now();
+        const std::clock_t begin = std::clock();
         renderTransitionFrame(type, from, to, {frame, kFrames}, target);
-        const std::chrono::duration<double, std::milli> time =
-            std::chrono::steady_clock::now() - begin;
-        slowest = std::max(slowest, time.count());
+        const double time = 1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+        slowest = std::max(slowest, time);
         benchmark::DoNotOptimize(target.constBits());
     }
     state.counters["slowest_ms"] = slowest;

@@ -55,10 +55,11 @@ def options_from_log(data_dir):
     newest = max((os.path.join(folder, name) for name in os.listdir(folder)), key=os.path.getmtime)
     with open(newest, encoding="utf-8", errors="replace") as log:
         lines = [line for line in log if "Starting ffmpeg.exe" in line and "%05d.jpg" in line]
-    words = lines[-1].split("Starting ffmpeg.exe ", 1)[1].split()
+    words = lines[-1].split("Starting ffmpeg.exe ", 1)[1].strip(" ()\n").split(", ")
     tail = words[words.index("-i") + 2:]
     picture = []
-    skip_value = {"-acodec", "-s", "-ar", "-cpu-used", "-r", "-strict", "-frames:v"}
+    skip_value = {"-acodec", "-s", "-ar", "-cpu-used", "-r", "-strict", "-frames:v",
+                  "-video_track_timescale"}
     index = 0
     while index < len(tail) - 1:
         if tail[index] in skip_value:
@@ -102,7 +103,10 @@ def melt_command(photos, options, output):
         if name in {"crf", "threads", "preset", "maxrate", "bufsize"}:
             consumer[name] = value
     if pairs.get("-crf") == "0":
-        consumer["pix_fmt"] = "yuv420p"
+        # The frames that the table's options encode have the full range of JPEG pictures; with the
+        # limited range there would be less to encode.
+        consumer["pix_fmt"] = "yuvj420p"
+        consumer["color_range"] = "pc"
     return command + ["-consumer", "avformat:" + output,
                       *("%s=%s" % item for item in consumer.items())]
 

@@ -29,6 +29,7 @@ build_packages=(
 
 run_packages=(
     ffmpeg
+    fonts-droid-fallback
     fonts-noto-core
     fonts-open-sans
     gstreamer1.0-libav
@@ -39,7 +40,7 @@ run_packages=(
 )
 
 test_packages=(
-    man-db
+    groff-base
     xvfb
 )
 

@@ -44,7 +44,7 @@ MetricSender &MetricSender::instance()
 void MetricSender::configure(const QUrl &address, const QString &common, int batchLimit,
                              bool enabled)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     m_address = address;
     m_common = common;
     m_batchLimit = qMax(1, batchLimit);
@@ -75,13 +75,13 @@ void MetricSender::recordGroup(const QVector<QPair<QString, QString>> &events)
 
 QStringList MetricSender::pending() const
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     return m_pending;
 }
 
 void MetricSender::queue(const QStringList &events)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     if (!m_enabled)
         return;
     m_pending.append(events);
@@ -102,7 +102,7 @@ void MetricSender::scheduleSend()
 
 void MetricSender::SendData()
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     if (m_reply || m_pending.isEmpty() || !m_enabled)
         return;
     if (!m_network) {
@@ -134,7 +134,7 @@ void MetricSender::onFinished(QNetworkReply *reply)
     reply->deleteLater();
     bool done = false;
     {
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard<std::mutex> locker(m_mutex);
         m_reply = nullptr;
         done = m_pending.isEmpty();
     }
@@ -151,7 +151,7 @@ void MetricSender::flush(int timeoutMs)
     QTimer::singleShot(timeoutMs, &loop, &QEventLoop::quit);
     SendData();
     const bool busy = [this] {
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard<std::mutex> locker(m_mutex);
         return m_reply != nullptr;
     }();
     if (busy)
@@ -160,7 +160,7 @@ void MetricSender::flush(int timeoutMs)
 
 void MetricSender::dropNetwork()
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     if (m_reply)
         m_reply->disconnect(this);
     m_reply = nullptr;

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QMutex>
 #include <QObject>
 #include <QPair>
 #include <QStringList>
 #include <QUrl>
 #include <QVector>
+
+#include <mutex>
 
 class QNetworkAccessManager;
 class QNetworkReply;
@@ -52,7 +53,7 @@ private:
     void onFinished(QNetworkReply *reply);
     void dropNetwork();
 
-    mutable QMutex m_mutex;
+    mutable std::mutex m_mutex; ///< Guards all that follows.
     QStringList m_pending;
     QUrl m_address;
     QString m_common;

@@ -31,7 +31,8 @@ QString installationId(QSettings &store)
 void setUpMetrics(MetricSender &sender, const ServicesConfig &services, QSettings &store)
 {
     const QString address = services.value(QStringLiteral("metrics/address"));
-    if (address.isEmpty()) {
+    const bool agreed = store.value(QStringLiteral("sendStatistics"), false).toBool();
+    if (address.isEmpty() || !agreed) {
         sender.configure(QUrl(), QString(), kDefaultBatch, false);
         return;
     }

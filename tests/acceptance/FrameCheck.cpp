@@ -158,8 +158,7 @@ int main(int argc, char *argv[])
     Checker checker(*project, format, arguments.at(2));
     double worst = 0;
     qint64 firstFrame = 0;
-    const Timeline timeline =
-        Timeline::ofProject(*project, transitionSeconds(arguments.at(1)));
+    const Timeline timeline = Timeline::ofProject(*project, transitionSeconds(arguments.at(1)));
     for (const Timeline::Stage &stage : timeline.stages()) {
         const double difference = checker.check(stage, firstFrame);
         out << stage.prefix() << stage.slide << ' ' << QString::number(difference, 'f', 2) << '\n';

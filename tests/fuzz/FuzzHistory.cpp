@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "QuietLog.h"
-
 #include "app/AppSettings.h"
 #include "project/documents/HistoryStore.h"
 
@@ -8,12 +6,6 @@
 #include <cstdlib>
 
 using namespace velmora;
-
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
-{
-    quietLog();
-    return 0;
-}
 
 /// Any bytes: a refused history is empty, and an accepted one can be taken apart.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)

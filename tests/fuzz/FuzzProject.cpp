@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "QuietLog.h"
-
 #include "app/AppSettings.h"
 #include "project/documents/ProjectFile.h"
 #include "project/documents/Timeline.h"
@@ -46,12 +44,6 @@ void checkTimeline(const Timeline &timeline)
 }
 
 } // namespace
-
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
-{
-    quietLog();
-    return 0;
-}
 
 /// Any bytes: what can be read at all is written in a form that reads back the same.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)

@@ -115,8 +115,7 @@ RenderOutcome RenderFixture::run(RenderJob &job,
         outcome.error = error;
         end(RenderOutcome::Failed);
     });
-    QObject::connect(&job, &RenderJob::cancelled, &context,
-                     [&] { end(RenderOutcome::Cancelled); });
+    QObject::connect(&job, &RenderJob::cancelled, &context, [&] { end(RenderOutcome::Cancelled); });
     QTimer::singleShot(kLongestRender, &loop, &QEventLoop::quit);
     QTimer::singleShot(0, &job, &RenderJob::start);
     loop.exec();
@@ -132,8 +131,8 @@ RenderOutcome RenderFixture::render(RenderRequest request) const
 
 QStringList RenderFixture::leftovers() const
 {
-    QStringList found = QDir(cacheFolder())
-                            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    QStringList found =
+        QDir(cacheFolder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     const QStringList output =
         QDir(outputFolder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     for (const QString &name : output) {

@@ -15,7 +15,8 @@ namespace
 constexpr int kLongestRun = 60'000; // ms
 constexpr int kRate = 8000;         // Hz, one channel of 16 bits
 
-QByteArray output(const QString &program, const QStringList &arguments, QByteArray *errors = nullptr)
+QByteArray output(const QString &program, const QStringList &arguments,
+                  QByteArray *errors = nullptr)
 {
     QProcess process;
     process.start(program, arguments);
@@ -35,12 +36,12 @@ QStringList decode(const QString &file, const QStringList &options)
 
 int VideoProbe::frameCount(const QString &file)
 {
-    const QByteArray text = output(
-        QStringLiteral("ffprobe"),
-        {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-count_frames"),
-         QStringLiteral("-select_streams"), QStringLiteral("v:0"), QStringLiteral("-show_entries"),
-         QStringLiteral("stream=nb_read_frames"), QStringLiteral("-of"), QStringLiteral("csv=p=0"),
-         file});
+    const QByteArray text =
+        output(QStringLiteral("ffprobe"),
+               {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-count_frames"),
+                QStringLiteral("-select_streams"), QStringLiteral("v:0"),
+                QStringLiteral("-show_entries"), QStringLiteral("stream=nb_read_frames"),
+                QStringLiteral("-of"), QStringLiteral("csv=p=0"), file});
     bool ok = false;
     const int count = text.trimmed().toInt(&ok);
     return ok ? count : -1;
@@ -60,16 +61,17 @@ QVector<QImage> VideoProbe::frames(const QString &file, const QSize &size)
 {
     const QByteArray pixels =
         output(QStringLiteral("ffmpeg"),
-               decode(file, {QStringLiteral("-an"), QStringLiteral("-f"),
+               decode(file, {QStringLiteral("-an"), QStringLiteral("-vsync"),
+                             QStringLiteral("passthrough"), QStringLiteral("-f"),
                              QStringLiteral("rawvideo"), QStringLiteral("-pix_fmt"),
                              QStringLiteral("rgb24"), QStringLiteral("-")}));
     const int bytes = size.width() * size.height() * 3;
     QVector<QImage> images;
     for (int start = 0; start + bytes <= pixels.size(); start += bytes) {
         const auto *data = reinterpret_cast<const uchar *>(pixels.constData()) + start;
-        images.append(QImage(data, size.width(), size.height(), size.width() * 3,
-                             QImage::Format_RGB888)
-                          .convertToFormat(QImage::Format_RGB32));
+        images.append(
+            QImage(data, size.width(), size.height(), size.width() * 3, QImage::Format_RGB888)
+                .convertToFormat(QImage::Format_RGB32));
     }
     return images;
 }

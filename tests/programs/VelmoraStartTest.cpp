@@ -89,8 +89,12 @@ void VelmoraStartTest::firstStart()
     QVERIFY(services.open(QIODevice::WriteOnly));
     services.write("[metrics]\naddress=http://127.0.0.1:1/\nbatch=2\n");
     services.close();
+    QFile settings(m_data->filePath(QStringLiteral("settings.ini")));
+    QVERIFY(settings.open(QIODevice::WriteOnly));
+    settings.write("[General]\nsendStatistics=true\n");
+    settings.close();
     const auto program = start({QStringLiteral("--inst")});
-    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 90000);
     QVERIFY(QDir(m_data->filePath(QStringLiteral("cache/data"))).exists());
     for (const char *text : {": Log file /", ": Log file tool /", ": Screen count ", ": Screen 0 ",
                              ": Run from insaller:1\n", ": is frun:1\n",
@@ -108,7 +112,7 @@ void VelmoraStartTest::firstStart()
 void VelmoraStartTest::secondStartWakesTheFirst()
 {
     const auto first = start();
-    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 90000);
     const auto second = start();
     QVERIFY(second->waitForFinished());
     QCOMPARE(second->exitStatus(), QProcess::NormalExit);
@@ -126,7 +130,7 @@ void VelmoraStartTest::startsAfterKill()
     end(*first);
     QVERIFY(QFile::exists(m_data->filePath(QStringLiteral("velmora.lock"))));
     const auto second = start();
-    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 90000);
     end(*second);
 }
 
@@ -154,7 +158,7 @@ void VelmoraStartTest::startsAlthoughFirstIsSilent()
     QTRY_VERIFY(logged(kReady));
     ::kill(static_cast<pid_t>(first->processId()), SIGSTOP);
     const auto second = start();
-    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 30000);
+    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 90000);
     end(*second);
     end(*first);
 }

@@ -202,6 +202,12 @@ void MetricSenderTest::setUpFollowsConfiguration()
     HttpServer server;
     qputenv("VELMORA_METRICS_ADDRESS", server.url().toEncoded());
     qputenv("VELMORA_METRICS_BATCH", "1");
+    setUpMetrics(sender, ServicesConfig(), *store);
+    sender.record(QStringLiteral("upld"), 1);
+    QCOMPARE(sender.pending(), QStringList()); // Nothing before the user has agreed.
+    QCOMPARE(store->allKeys(), QStringList());
+
+    store->setValue(QStringLiteral("sendStatistics"), true);
     QSignalSpy idle(&sender, &MetricSender::idle);
     for (int i = 0; i < 2; ++i) {
         setUpMetrics(sender, ServicesConfig(), *store);

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QImageWriter>
+#include <QRect>
 #include <QTextStream>
 
 #include <exiv2/exiv2.hpp>
@@ -18,6 +19,8 @@ namespace
 {
 
 constexpr int kMaximumBytes = 245 * 1000;
+constexpr QSize kPainted(1600, 1066);
+constexpr QRect kKept(0, 40, 1600, 900); // fills the screen
 
 struct Photo {
     const char *name;
@@ -89,7 +92,7 @@ int main(int argc, char *argv[])
         if (!name.contains(only))
             continue;
         const QString path = folder.filePath(QStringLiteral("photos/%1.jpg").arg(name));
-        done &= write(path, compressed(photo.paint(QSize(1600, 1066))));
+        done &= write(path, compressed(photo.paint(kPainted).copy(kKept)));
         stampDate(path, photo.taken);
     }
     const QString tune = QStringLiteral("Morning walk.ogg");

@@ -29,8 +29,8 @@ public:
 
     /// Called from any painting thread.
     struct Reports {
-        std::function<void()> painted;                         ///< One picture.
-        std::function<void(int order)> slidePainted;           ///< The last picture of a slide.
+        std::function<void()> painted;               ///< One picture.
+        std::function<void(int order)> slidePainted; ///< The last picture of a slide.
         std::function<void(const RenderError &error)> failed;
     };
     /// While @p paused is set no new picture is begun.
@@ -72,12 +72,12 @@ private:
 
     QMutex m_mutex;
     QWaitCondition m_changed;
-    QVector<Work> m_works;     ///< All stages of the plan in order.
-    QVector<int> m_firstWork;  ///< Of each slide.
-    QVector<int> m_unpainted;  ///< Pictures left of each slide.
-    int m_next = 0;            ///< The work whose pictures are being given out.
-    int m_encoding = 0;        ///< The work that is encoded next, or now.
-    int m_ahead = 0;           ///< Pictures given out and not yet encoded.
+    QVector<Work> m_works;    ///< All stages of the plan in order.
+    QVector<int> m_firstWork; ///< Of each slide.
+    QVector<int> m_unpainted; ///< Pictures left of each slide.
+    int m_next = 0;           ///< The work whose pictures are being given out.
+    int m_encoding = 0;       ///< The work that is encoded next, or now.
+    int m_ahead = 0;          ///< Pictures given out and not yet encoded.
 };
 
 } // namespace velmora

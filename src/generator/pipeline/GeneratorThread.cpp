@@ -28,7 +28,7 @@ namespace
 {
 
 constexpr int kPoolThreads = 2;
-constexpr int kTimerInterval = 500;         // ms
+constexpr int kTimerInterval = 500;          // ms
 constexpr unsigned long kPollInterval = 100; // ms
 constexpr unsigned long kSoundPoll = 300;    // ms
 constexpr qint64 kStallWarning = 60'000;     // ms
@@ -96,8 +96,7 @@ bool GeneratorThread::render()
 {
     m_plan = RenderPlan::make(m_project, m_settings.timeline, std::rand);
     m_frames = std::make_unique<SlideFrames>(
-        m_plan,
-        FrameFormat{m_context.size, m_project.origRatio(), m_project.scaleToFit()});
+        m_plan, FrameFormat{m_context.size, m_project.origRatio(), m_project.scaleToFit()});
     m_progress.reset(m_plan.totalPictures() + m_plan.totalFrames() + shareOfFrames(kJoinPart) +
                      shareOfFrames(kSoundPart) + shareOfFrames(kMultiplexPart));
     recordStart();
@@ -237,7 +236,8 @@ void GeneratorThread::recordStart() const
     bool titleShown = false;
     bool textStyled = false;
     for (const ProjectItem *item : m_project.items()) {
-        titleShown = titleShown || (qobject_cast<const ProjectItemFirst *>(item) && item->isShown());
+        titleShown =
+            titleShown || (qobject_cast<const ProjectItemFirst *>(item) && item->isShown());
         textStyled = textStyled || item->caption().textColor != QColor(Qt::white);
     }
     const auto flag = [](bool on) { return on ? QStringLiteral("1") : QStringLiteral("0"); };

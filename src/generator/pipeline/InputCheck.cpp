@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/InputCheck.h"
 
-#include "generator/GeneratorLog.h"
 #include "generator/media/SoundChecker.h"
 #include "generator/pipeline/RenderFailure.h"
 #include "project/documents/ProjectFile.h"
@@ -53,11 +52,9 @@ void look(Check &check)
 {
     const QString reason =
         check.isSound ? checkSoundFile(check.path) : ImageLoader::check(check.path);
-    if (reason.isEmpty())
-        return;
-    check.sentence = check.isSound ? RenderFailure::soundText(check.path, reason)
-                                   : RenderFailure::photoText(check.path, reason);
-    qCWarning(generatorLog).noquote() << check.sentence;
+    if (!reason.isEmpty())
+        check.sentence = check.isSound ? RenderFailure::soundText(check.path, reason)
+                                       : RenderFailure::photoText(check.path, reason);
 }
 
 QString joined(const QStringList &sentences)

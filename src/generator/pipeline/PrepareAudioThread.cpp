@@ -36,14 +36,15 @@ QString GeneratorThread::PrepareAudioThread::prepare(VideoUtil &util) const
     const ProjectFile &project = m_generator.m_project;
     const QString folder = m_generator.m_cache.file(QStringLiteral("audio"));
     QDir().mkpath(folder);
-    const int length = static_cast<int>(qMin<qint64>(m_generator.m_plan.totalLength(),
-                                                     std::numeric_limits<int>::max()));
+    const int length = static_cast<int>(
+        qMin<qint64>(m_generator.m_plan.totalLength(), std::numeric_limits<int>::max()));
     const QString prepared = util.prepareAudio(project.audio(), folder, project.audio().offset,
                                                project.audioFade(), length);
     if (prepared.isEmpty() || !project.audioLoop())
         return prepared;
     QString looped = m_generator.m_cache.file(QStringLiteral("video/audio_stream_looped.wav"));
-    return util.prepareAudioLoop(prepared, length, looped) ? looped : QString();
+    return util.prepareAudioLoop(prepared, length, looped, project.audioFade()) ? looped
+                                                                                : QString();
 }
 
 } // namespace velmora

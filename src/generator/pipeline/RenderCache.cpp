@@ -18,8 +18,8 @@ namespace
 QString makeTemplate(const QString &cacheFolder)
 {
     Paths::ensureFolder(cacheFolder);
-    return QDir(cacheFolder).absoluteFilePath(QString(CacheSweeper::kFolderPrefix) +
-                                              QStringLiteral("XXXXXX"));
+    return QDir(cacheFolder)
+        .absoluteFilePath(QString(CacheSweeper::kFolderPrefix) + QStringLiteral("XXXXXX"));
 }
 
 } // namespace

@@ -105,6 +105,8 @@ RenderError RenderJob::Private::checkProject() const
 void RenderJob::Private::onChecked()
 {
     const RenderError error = checking.result();
+    if (error.isSet())
+        qCWarning(generatorLog).noquote() << error.code << error.text;
     if (cancelRequested)
         end([this] { emit q->cancelled(); });
     else if (error.isSet())
@@ -129,12 +131,10 @@ void RenderJob::Private::startGenerator()
     connect(thread, &GeneratorThread::fullVideoGenerated, q, [this](const QString &fileName) {
         end([this, fileName] { emit q->finished(fileName); });
     });
-    connect(thread, &GeneratorThread::failed, q, [this](const RenderError &error) {
-        end([this, error] { emit q->failed(error); });
-    });
-    connect(thread, &GeneratorThread::cancelled, q, [this] {
-        end([this] { emit q->cancelled(); });
-    });
+    connect(thread, &GeneratorThread::failed, q,
+            [this](const RenderError &error) { end([this, error] { emit q->failed(error); }); });
+    connect(thread, &GeneratorThread::cancelled, q,
+            [this] { end([this] { emit q->cancelled(); }); });
     thread->start();
 }
 

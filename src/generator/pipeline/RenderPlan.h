@@ -21,8 +21,8 @@ struct PlannedStage {
     TransitionType effect = TransitionType::None; ///< Never Random; None for stills.
     int pictures = 1; ///< Frame files of the stage: one where all its frames are alike.
 
-    QString prefix() const;    ///< "_p3": names the stage's frame files.
-    QString paintText() const; ///< Logged when its frames are begun.
+    QString prefix() const;     ///< "_p3": names the stage's frame files.
+    QString paintText() const;  ///< Logged when its frames are begun.
     QString encodeText() const; ///< Logged when its segment is begun.
 };
 
@@ -33,11 +33,11 @@ struct PlannedSlide {
     int sourceType = 0; ///< The transition as stored on the slide.
     TransitionType type = TransitionType::None;
     TransitionType previousType = TransitionType::None; ///< Type of the slide before.
-    bool captionAppears = false;                        ///< A caption stage follows the picture stage.
+    bool captionAppears = false; ///< A caption stage follows the picture stage.
     QVector<PlannedStage> stages;
 
-    int pictures() const;   ///< Frame files of all stages.
-    qint64 frames() const;  ///< Video frames of all stages.
+    int pictures() const;  ///< Frame files of all stages.
+    qint64 frames() const; ///< Video frames of all stages.
 };
 
 /// Everything about a render that is settled before its first frame: which slides are shown, in

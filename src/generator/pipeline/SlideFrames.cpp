@@ -32,8 +32,8 @@ QImage SlideFrames::captioned(int order, QString *error)
     if (entry.captioned.isNull()) {
         makeBare(entry, order);
         if (!entry.bare.isNull())
-            entry.captioned = SlideRenderer::captionedFrame(
-                entry.bare, *m_plan.slides().at(order).item);
+            entry.captioned =
+                SlideRenderer::captionedFrame(entry.bare, *m_plan.slides().at(order).item);
     }
     *error = entry.error;
     return entry.captioned;

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/transitions/Backdrop.h"
 
-#include "generator/transitions/Card.h"
+#include "generator/transitions/PixelRows.h"
+#include "generator/transitions/RowScaler.h"
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 namespace velmora
@@ -75,6 +77,15 @@ Cells blurred(const Cells &cells)
     return result;
 }
 
+/// Copies the pixels outside @p gap.
+void copyAround(QRgb *target, const std::vector<QRgb> &line, ColumnSpan gap)
+{
+    if (gap.begin >= gap.end)
+        gap = {0, 0};
+    std::copy(line.begin(), line.begin() + gap.begin, target);
+    std::copy(line.begin() + gap.end, line.end(), target + gap.end);
+}
+
 } // namespace
 
 void drawBackdrop(const TargetArea &target, const SourceArea &a, const SourceArea &b, int weight,
@@ -82,14 +93,28 @@ void drawBackdrop(const TargetArea &target, const SourceArea &a, const SourceAre
 {
     Cells mixed = cellsOf(a);
     mixRow(mixed.data(), mixed.data(), cellsOf(b).data(), kColumns * kRows, weight);
+    darkenRow(mixed.data(), mixed.data(), kColumns * kRows, kLight);
     const Cells cells = blurred(blurred(mixed));
     const SourceArea picture = {cells.data(), kColumns, kColumns, kRows};
-    // A little larger than the frame, so that no edge pixel of the frame is a mixture.
-    const QTransform placement(static_cast<double>(target.width + 4) / kColumns, 0, 0,
-                               static_cast<double>(target.height + 4) / kRows, -2, -2);
-    Card card = {picture, placement};
-    card.light = kLight;
-    drawCardAround(target, card, hidden);
+
+    const double step = static_cast<double>(kColumns) / target.width;
+    const RowScaler scaler(target.width, kColumns, step / 2, step);
+    std::vector<QRgb> line(static_cast<size_t>(target.width));
+    std::array<QRgb, kColumns> colors;
+    // The picture changes so slowly that a few rows can share their pixels.
+    const int shared = std::max(1, target.height / 360);
+    for (int y = 0; y < target.height; ++y) {
+        if (y % shared == 0) {
+            const double place =
+                std::clamp((y + 0.5) * kRows / target.height - 0.5, 0.0, kRows - 1.0);
+            const int above = std::min(static_cast<int>(place), kRows - 2);
+            mixRow(colors.data(), picture.row(above), picture.row(above + 1), kColumns,
+                   weightOf(place - above));
+            scaler.scale(line.data(), colors.data());
+        }
+        copyAround(target.row(y), line,
+                   hidden.isEmpty() ? ColumnSpan() : hidden.span(y, 0.5, target.width));
+    }
 }
 
 } // namespace velmora

@@ -90,6 +90,30 @@ private:
     const CardSampler &m_sampler;
 };
 
+struct Shadow {
+    double reach;
+    double strength;
+};
+
+void shadeRow(const TargetArea &target, const QuadShape &shape, int row, ColumnSpan span,
+              const Shadow &shadow)
+{
+    constexpr int kRun = 256;
+    std::array<float, kRun> distances;
+    const auto scale = static_cast<float>(1 / shadow.reach);
+    const auto darkest = static_cast<float>(shadow.strength * kFullWeight);
+    for (int begin = span.begin; begin < span.end; begin += kRun) {
+        const int count = std::min(kRun, span.end - begin);
+        shape.distances(begin, row, count, distances.data());
+        QRgb *pixels = target.row(row) + begin;
+        for (int i = 0; i < count; ++i) {
+            const float rest = 1 - std::min(1.0f, distances[static_cast<size_t>(i)] * scale);
+            const auto shade = static_cast<int>(darkest * rest * rest * rest + 0.5f);
+            pixels[i] = mixPixels(pixels[i], 0xff000000u, shade);
+        }
+    }
+}
+
 /// Reads the picture in the size that suits its placement and paints it row by row.
 void paintCard(const TargetArea &target, const Card &card, const QuadShape *hidden)
 {
@@ -130,21 +154,16 @@ void drawCardAround(const TargetArea &target, const Card &card, const QuadShape 
 
 void drawCardShadow(const TargetArea &target, const QuadShape &shape, double reach, double strength)
 {
-    if (shape.isEmpty())
+    if (shape.isEmpty() || reach < 1)
         return;
     const ColumnSpan rows = shape.rows(reach, target.height);
     for (int y = rows.begin; y < rows.end; ++y) {
         const ColumnSpan shaded = shape.span(y, -reach, target.width);
-        const ColumnSpan hidden = shape.span(y, 0.5, target.width);
-        QRgb *row = target.row(y);
-        for (int x = shaded.begin; x < shaded.end; ++x) {
-            if (x == hidden.begin && hidden.begin < hidden.end)
-                x = hidden.end;
-            if (x >= shaded.end)
-                break;
-            const double shade = easing::in(1 - shape.distance(x, y) / reach) * strength;
-            row[x] = mixPixels(row[x], 0xff000000u, weightOf(shade));
-        }
+        ColumnSpan hidden = shape.span(y, 0.5, target.width);
+        if (hidden.begin >= hidden.end)
+            hidden = {shaded.end, shaded.end};
+        shadeRow(target, shape, y, {shaded.begin, hidden.begin}, {reach, strength});
+        shadeRow(target, shape, y, {hidden.end, shaded.end}, {reach, strength});
     }
 }
 

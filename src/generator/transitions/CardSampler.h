@@ -5,11 +5,13 @@
 
 #include <QTransform>
 
+#include <vector>
+
 namespace velmora
 {
 
 /// Reads a picture through a transform, with bilinear interpolation; places beyond its edges show
-/// the edge pixels. Pictures have at most 32767 pixels a side.
+/// the edge pixels. Keeps a view of the picture.
 class CardSampler
 {
 public:
@@ -18,6 +20,8 @@ public:
 
     /// @p toPicture maps the frame's coordinates to the picture's.
     CardSampler(const SourceArea &picture, const QTransform &toPicture);
+    CardSampler(const CardSampler &) = delete;
+    CardSampler &operator=(const CardSampler &) = delete;
 
     /// The @p count pixels of the frame that begin at (@p column, @p row).
     void sample(QRgb *target, int column, int row, int count) const;
@@ -25,6 +29,7 @@ public:
 private:
     void locate(int column, int row, int count, qint32 *across, qint32 *down) const;
 
+    std::vector<QRgb> m_doubled; ///< a picture of one column shown twice: pixels are read in pairs
     SourceArea m_picture;
     QTransform m_toPicture;
     float m_lastAcross;

@@ -41,6 +41,12 @@ void fillArea(const TargetArea &target, QRgb color)
 
 void mixRow(QRgb *target, const QRgb *a, const QRgb *b, int count, int weight)
 {
+    if (weight <= 0 || weight >= kFullWeight) {
+        const QRgb *only = weight <= 0 ? a : b;
+        if (only != target)
+            std::copy_n(only, count, target);
+        return;
+    }
     uchar *out = bytes(target);
     const uchar *first = bytes(a);
     const uchar *second = bytes(b);
@@ -77,19 +83,6 @@ void whitenRow(QRgb *target, const QRgb *source, int count, int weight)
     for (int i = 0; i < count * 4; ++i) {
         const auto missing = static_cast<quint16>((255 - in[i]) * share + 128);
         out[i] = static_cast<uchar>(255 - (missing >> 8));
-    }
-}
-
-void scaleRow(QRgb *target, int count, const QRgb *source, int sourceCount, qint64 start,
-              qint64 step)
-{
-    const qint64 last = qint64(sourceCount - 1) << 16;
-    qint64 position = start;
-    for (int x = 0; x < count; ++x, position += step) {
-        const qint64 held = std::clamp<qint64>(position, 0, last);
-        const auto index = static_cast<int>(held >> 16);
-        const int next = index + (index < sourceCount - 1 ? 1 : 0);
-        target[x] = mixPixels(source[index], source[next], static_cast<int>(held >> 8 & 0xff));
     }
 }
 

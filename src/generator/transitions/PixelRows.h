@@ -34,9 +34,5 @@ void mixRow(QRgb *target, const QRgb *a, const QRgb *b, int count, const quint16
 void darkenRow(QRgb *target, const QRgb *source, int count, int weight);
 /// @p weight of the row over white; @p target may be @p source.
 void whitenRow(QRgb *target, const QRgb *source, int count, int weight);
-/// The row scaled to @p count pixels as if it began at pixel @p start and every target pixel took
-/// @p step source pixels, both in 1/65536; positions beyond the ends show the end pixels.
-void scaleRow(QRgb *target, int count, const QRgb *source, int sourceCount, qint64 start,
-              qint64 step);
 
 } // namespace velmora

@@ -33,32 +33,53 @@ std::vector<int> blockEdges(int length, double size)
     return edges;
 }
 
-/// The mean colours of the blocks between two rows.
-void blockMeans(const SourceArea &picture, int top, int bottom, const std::vector<int> &edges,
-                std::vector<quint32> &sums, QRgb *means)
+/// The mean colours of the blocks of one row of blocks.
+class BlockMeans
 {
-    std::fill(sums.begin(), sums.end(), 0u);
-    for (int y = top; y < bottom; ++y) {
-        const auto *bytes = reinterpret_cast<const uchar *>(picture.row(y));
-        quint32 *sum = sums.data();
-        for (int i = 0; i < picture.width * 4; ++i)
-            sum[i] += bytes[i];
+public:
+    explicit BlockMeans(const std::vector<int> &edges)
+        : m_edges(edges), m_sums(static_cast<size_t>(edges.back()) * 4)
+    {
     }
-    for (size_t block = 0; block + 1 < edges.size(); ++block) {
-        quint64 channels[3] = {};
-        for (int x = edges[block]; x < edges[block + 1]; ++x) {
-            const quint32 *sum = sums.data() + x * 4;
+
+    void measure(const SourceArea &picture, int top, int bottom, QRgb *means)
+    {
+        std::fill(m_sums.begin(), m_sums.end(), 0u);
+        for (int y = top; y < bottom; ++y) {
+            const auto *bytes = reinterpret_cast<const uchar *>(picture.row(y));
+            for (size_t i = 0; i < m_sums.size(); ++i)
+                m_sums[i] += bytes[i];
+        }
+        for (size_t block = 0; block + 1 < m_edges.size(); ++block)
+            means[block] = mean(m_edges[block], m_edges[block + 1], bottom - top);
+    }
+
+private:
+    QRgb mean(int left, int right, int rows)
+    {
+        quint32 channels[3] = {};
+        for (int x = left; x < right; ++x) {
+            const quint32 *sum = m_sums.data() + 4 * x;
             for (int c = 0; c < 3; ++c)
                 channels[c] += sum[c];
         }
-        const auto pixels = static_cast<quint64>(bottom - top) *
-                            static_cast<quint64>(edges[block + 1] - edges[block]);
+        const auto pixels = static_cast<quint32>(rows * (right - left));
+        if (pixels != m_pixels) {
+            // Most blocks have the same size: divide once, then multiply.
+            m_pixels = pixels;
+            m_reciprocal = ((quint64(1) << 40) + pixels - 1) / pixels;
+        }
         const auto level = [&](int c) {
-            return static_cast<int>((channels[c] + pixels / 2) / pixels);
+            return static_cast<int>((channels[c] + pixels / 2) * m_reciprocal >> 40);
         };
-        means[block] = qRgb(level(2), level(1), level(0));
+        return qRgb(level(2), level(1), level(0));
     }
-}
+
+    const std::vector<int> &m_edges;
+    std::vector<quint32> m_sums;
+    quint32 m_pixels = 0;
+    quint64 m_reciprocal = 0;
+};
 
 } // namespace
 
@@ -73,16 +94,15 @@ void composePixelate(const EffectFrame &frame)
 
     const std::vector<int> columns = blockEdges(target.width, size);
     const std::vector<int> rows = blockEdges(target.height, size);
-    std::vector<quint32> sums(static_cast<size_t>(target.width) * 4);
+    BlockMeans blocks(columns);
     std::vector<QRgb> means(columns.size());
     std::vector<QRgb> others(columns.size());
     for (size_t row = 0; row + 1 < rows.size(); ++row) {
         const int top = rows[row];
         const int bottom = rows[row + 1];
-        blockMeans(weight < kFullWeight ? frame.from : frame.to, top, bottom, columns, sums,
-                   means.data());
+        blocks.measure(weight < kFullWeight ? frame.from : frame.to, top, bottom, means.data());
         if (weight > 0 && weight < kFullWeight) {
-            blockMeans(frame.to, top, bottom, columns, sums, others.data());
+            blocks.measure(frame.to, top, bottom, others.data());
             mixRow(means.data(), means.data(), others.data(), static_cast<int>(means.size()),
                    weight);
         }

@@ -68,14 +68,20 @@ double QuadShape::coverage(int column, int row) const
     return result;
 }
 
-double QuadShape::distance(int column, int row) const
+void QuadShape::distances(int column, int row, int count, float *result) const
 {
-    double squares = 0;
+    std::fill_n(result, count, 0.0f);
     for (const Side &side : m_sides) {
-        const double outside = std::min(0.0, side.at(column, row));
-        squares += outside * outside;
+        const auto first = static_cast<float>(side.at(column, row));
+        const auto step = static_cast<float>(side.x);
+        for (int i = 0; i < count; ++i) {
+            const float inside = first + step * static_cast<float>(i);
+            const float outside = inside < 0 ? inside : 0;
+            result[i] += outside * outside;
+        }
     }
-    return std::sqrt(squares);
+    for (int i = 0; i < count; ++i)
+        result[i] = std::sqrt(result[i]);
 }
 
 ColumnSpan QuadShape::rows(double reach, int height) const

@@ -28,8 +28,8 @@ public:
     ColumnSpan span(int row, double inset, int width) const;
     /// The share of a pixel that the shape covers, from 0 to 1.
     double coverage(int column, int row) const;
-    /// How far the centre of a pixel lies outside, in pixels; 0 inside.
-    double distance(int column, int row) const;
+    /// How far the centres of @p count pixels of a row lie outside, in pixels; 0 inside.
+    void distances(int column, int row, int count, float *result) const;
     /// The rows that can hold pixels within @p reach of the shape, cut to 0 .. @p height.
     ColumnSpan rows(double reach, int height) const;
 

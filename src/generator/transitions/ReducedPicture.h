@@ -23,9 +23,6 @@ public:
     const SourceArea &area() const { return m_area; }
 
 private:
-    void reduceRow(const std::vector<quint16> &sums, int rows, int sourceWidth, int xLevel,
-                   QRgb *target) const;
-
     std::vector<QRgb> m_pixels;
     SourceArea m_area;
 };

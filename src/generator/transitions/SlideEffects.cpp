@@ -45,12 +45,16 @@ void copyMirrored(QRgb *target, const QRgb *source, int count)
     std::reverse_copy(source, source + count, target);
 }
 
+/// Brightness of the mirror images beside a picture that is pushed diagonally.
+constexpr double kMirrorLight = 0.55;
+
 /// One row of the outgoing picture pushed right by @p right pixels; the free pixels continue it
-/// mirrored.
-void pushedRow(QRgb *target, const QRgb *source, int width, int right)
+/// as a darker mirror image. A row of the mirror image above is dark as a whole.
+void pushedRow(QRgb *target, const QRgb *source, int width, int right, bool mirrored)
 {
     copyMirrored(target, source, right);
     std::copy_n(source, width - right, target + right);
+    darkenRow(target, target, mirrored ? width : right, weightOf(kMirrorLight));
 }
 
 /// Darkens what lies right of and below the corner (@p right, @p down) of the incoming picture.
@@ -104,7 +108,7 @@ void composeSlideFromTopLeft(const EffectFrame &frame)
     // there as its own mirror image, so that it has no end.
     for (int y = 0; y < height; ++y) {
         const int sourceRow = y < down ? down - 1 - y : y - down;
-        pushedRow(frame.target.row(y), frame.from.row(sourceRow), width, right);
+        pushedRow(frame.target.row(y), frame.from.row(sourceRow), width, right, y < down);
     }
     shadeCorner(frame.target, right, down);
     copyArea(frame.target.cut({0, 0, right, down}),

@@ -4,6 +4,7 @@
 #include "generator/transitions/Easing.h"
 #include "generator/transitions/PixelRows.h"
 #include "generator/transitions/ReducedPicture.h"
+#include "generator/transitions/RowScaler.h"
 
 #include <algorithm>
 #include <cmath>
@@ -23,55 +24,50 @@ int halvings(int pixels, double shown)
     return level;
 }
 
-/// A position in a side of a picture that is squeezed into a part of the frame, in 1/65536 pixel
-/// of a source that was halved @p level times.
-struct Squeeze {
-    Squeeze(int pixels, double begin, double end, int level)
-        : step(pixels / std::max(end - begin, 1e-3) / (1 << level)), start(begin)
+/// A part of the frame, from @p begin to @p end along one side, that shows a whole picture.
+struct Part {
+    double begin;
+    double end;
+
+    int first() const { return static_cast<int>(std::lround(begin)); }
+    int last() const { return static_cast<int>(std::lround(end)); }
+    double length() const { return end - begin; }
+    /// The place that the pixel @p index shows of a picture of @p pixels (not rounded).
+    double placeOf(int index, double pixels) const
     {
+        return (index + 0.5 - begin) * pixels / length();
     }
-    qint64 at(double place) const
-    {
-        return static_cast<qint64>(std::floor(((place + 0.5 - start) * step - 0.5) * 65536));
-    }
-    double step;
-    double start;
 };
 
-/// Squeezes the whole picture into the columns between @p begin and @p end.
-void squeezeColumns(const TargetArea &target, const SourceArea &picture, double begin, double end)
+void squeezeColumns(const TargetArea &target, const SourceArea &picture, const Part &part)
 {
-    const int first = static_cast<int>(std::lround(begin));
-    const int last = static_cast<int>(std::lround(end));
-    if (first >= last)
+    const int first = part.first();
+    const int count = part.last() - first;
+    if (count <= 0)
         return;
-    const ReducedPicture reduced(picture, halvings(picture.width, end - begin), 0);
-    const SourceArea &source = reduced.area();
-    const Squeeze squeeze(picture.width, begin, end, halvings(picture.width, end - begin));
-    for (int y = 0; y < target.height; ++y) {
-        scaleRow(target.row(y) + first, last - first, source.row(y), source.width,
-                 squeeze.at(first), static_cast<qint64>(squeeze.step * 65536));
-    }
+    const int level = halvings(picture.width, part.length());
+    const ReducedPicture reduced(picture, level, 0);
+    const double pixels = static_cast<double>(picture.width) / (1 << level);
+    const RowScaler scaler(count, reduced.area().width, part.placeOf(first, pixels),
+                           pixels / part.length());
+    for (int y = 0; y < target.height; ++y)
+        scaler.scale(target.row(y) + first, reduced.area().row(y));
 }
 
-/// Squeezes the whole picture into the rows between @p begin and @p end.
-void squeezeRows(const TargetArea &target, const SourceArea &picture, double begin, double end)
+void squeezeRows(const TargetArea &target, const SourceArea &picture, const Part &part)
 {
-    const int first = static_cast<int>(std::lround(begin));
-    const int last = static_cast<int>(std::lround(end));
-    if (first >= last)
+    if (part.first() >= part.last())
         return;
-    const int level = halvings(picture.height, end - begin);
+    const int level = halvings(picture.height, part.length());
     const ReducedPicture reduced(picture, 0, level);
     const SourceArea &source = reduced.area();
-    const Squeeze squeeze(picture.height, begin, end, level);
-    for (int y = first; y < last; ++y) {
-        const qint64 position =
-            std::clamp<qint64>(squeeze.at(y), 0, qint64(source.height - 1) << 16);
-        const auto above = static_cast<int>(position >> 16);
+    const double pixels = static_cast<double>(picture.height) / (1 << level);
+    for (int y = part.first(); y < part.last(); ++y) {
+        const double place = std::clamp(part.placeOf(y, pixels) - 0.5, 0.0, source.height - 1.0);
+        const int above = static_cast<int>(place);
         const int below = std::min(above + 1, source.height - 1);
         mixRow(target.row(y), source.row(above), source.row(below), target.width,
-               static_cast<int>(position >> 8 & 0xff));
+               weightOf(place - above));
     }
 }
 
@@ -81,16 +77,16 @@ void composeStretchHorizontal(const EffectFrame &frame)
 {
     const double width = frame.target.width;
     const double seam = easing::inOut(frame.progress()) * width;
-    squeezeColumns(frame.target, frame.to, 0, seam);
-    squeezeColumns(frame.target, frame.from, seam, width);
+    squeezeColumns(frame.target, frame.to, {0, seam});
+    squeezeColumns(frame.target, frame.from, {seam, width});
 }
 
 void composeStretchVertical(const EffectFrame &frame)
 {
     const double height = frame.target.height;
     const double seam = easing::inOut(frame.progress()) * height;
-    squeezeRows(frame.target, frame.to, 0, seam);
-    squeezeRows(frame.target, frame.from, seam, height);
+    squeezeRows(frame.target, frame.to, {0, seam});
+    squeezeRows(frame.target, frame.from, {seam, height});
 }
 
 } // namespace velmora

@@ -56,10 +56,22 @@ std::vector<quint16> shares(int length, double progress, Distance distance)
 
 void wipeColumns(const EffectFrame &frame, Distance distance)
 {
-    const auto weights = shares(frame.target.width, frame.progress(), distance);
+    const int width = frame.target.width;
+    const auto weights = shares(width, frame.progress(), distance);
+    // Only the soft edge needs mixing; both sides of it are copied.
+    int begin = 0;
+    while (begin < width && weights[static_cast<size_t>(begin)] == weights.front())
+        ++begin;
+    int end = width;
+    while (end > begin && weights[static_cast<size_t>(end) - 1] == weights.back())
+        --end;
     for (int y = 0; y < frame.target.height; ++y) {
-        mixRow(frame.target.row(y), frame.from.row(y), frame.to.row(y), frame.target.width,
-               weights.data());
+        QRgb *target = frame.target.row(y);
+        const QRgb *from = frame.from.row(y);
+        const QRgb *to = frame.to.row(y);
+        mixRow(target, from, to, begin, weights.front());
+        mixRow(target + begin, from + begin, to + begin, end - begin, weights.data() + begin);
+        mixRow(target + end, from + end, to + end, width - end, weights.back());
     }
 }
 

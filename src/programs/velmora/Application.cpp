@@ -9,10 +9,10 @@
 #include "platform/InstalledVersion.h"
 #include "platform/SystemInfo.h"
 #include "programs/velmora/ProgramLog.h"
+#include "project/frames/CaptionFont.h"
 
 #include <QDate>
 #include <QFile>
-#include <QFont>
 #include <QScreen>
 
 #include <exception>
@@ -26,8 +26,7 @@ Application::Application(int &argc, char **argv)
       m_services(ServicesConfig::fromFile(Paths::servicesFile()))
 {
     connect(&m_instance, &SingleInstance::messageReceived, this, &Application::messageReceived);
-    QFont::insertSubstitutions(QStringLiteral("Segoe UI"),
-                               {QStringLiteral("Open Sans"), QStringLiteral("Noto Sans")});
+    registerFontSubstitutes();
     logEnvironment();
     readSettings();
     applyLanguage(m_settings.locale);

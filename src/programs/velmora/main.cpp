@@ -4,6 +4,7 @@
 #include "app/Log.h"
 #include "app/Paths.h"
 #include "platform/ComApartment.h"
+#include "platform/FileNames.h"
 #include "platform/SystemInfo.h"
 #include "programs/velmora/Application.h"
 #include "programs/velmora/ProgramLog.h"
@@ -83,6 +84,7 @@ int runInstance(int &argc, char **argv)
 
 int main(int argc, char **argv)
 {
+    velmora::FileNames::allowAllLetters();
     velmora::applyIdentity();
     velmora::Log::install(QStringLiteral("log"));
     qputenv("QT_AUTO_SCREEN_SCALE_FACTOR", "1");

@@ -42,7 +42,7 @@ QStringList inFolder(const QString &folder, const Kind &kind, QStringList *error
     const QDir dir(info.absoluteFilePath());
     QStringList files;
     for (const QString &name : dir.entryList(QDir::Files, QDir::Unsorted)) {
-        if (kind.accepts(name))
+        if (kind.accepts(resolveShortcut(dir.filePath(name))))
             files.append(dir.filePath(name));
     }
     if (files.isEmpty())
@@ -60,7 +60,7 @@ QStringList collect(const QStringList &arguments, const Kind &kind, QStringList 
             files += inFolder(argument, kind, errors);
         else if (!info.exists())
             errors->append(kind.missing.arg(argument));
-        else if (!kind.accepts(resolveShortcut(argument)))
+        else if (!info.isFile() || !kind.accepts(resolveShortcut(argument)))
             errors->append(kind.wrong.arg(argument));
         else
             files.append(info.absoluteFilePath());

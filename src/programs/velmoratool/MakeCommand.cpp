@@ -37,7 +37,7 @@ int MakeCommand::writeDocument()
         return fail(
             {RenderErrorCode::kOutput,
              tr("The project cannot be written as \"%1\": %2.").arg(m_options.dumpFile, reason)});
-    m_report->finished(m_options.dumpFile);
+    m_report->documentWritten(m_options.dumpFile);
     return kExitDone;
 }
 

@@ -62,9 +62,7 @@ QString ProgressText::bar(const State &state, int columns)
 
 QString ProgressText::line(const State &state)
 {
-    return tr("%1 % (frame %2 of %3), %4")
-        .arg(QString::number(percent(state)), QString::number(state.frame),
-             QString::number(state.count), times(state));
+    return tr("%1 %, %2").arg(QString::number(percent(state)), times(state));
 }
 
 } // namespace velmora

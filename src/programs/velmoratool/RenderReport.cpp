@@ -60,6 +60,13 @@ public:
               QLatin1Char('\n'));
     }
 
+    void documentWritten(const QString &fileName) override
+    {
+        print(QCoreApplication::translate("velmora::RenderReport", "The project is ready: %1")
+                  .arg(fileName) +
+              QLatin1Char('\n'));
+    }
+
     void failed(const RenderError &error) override
     {
         endBar();
@@ -92,6 +99,7 @@ public:
     void progress(qint64 frame, qint64 count) override { ProtocolPrinter::progress(frame, count); }
     void stage(const QString &stage) override { ProtocolPrinter::stage(stage); }
     void finished(const QString &fileName) override { ProtocolPrinter::finished(fileName); }
+    void documentWritten(const QString &fileName) override { finished(fileName); }
 
     void failed(const RenderError &error) override
     {

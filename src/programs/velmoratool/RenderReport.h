@@ -10,8 +10,8 @@
 namespace velmora
 {
 
-/// Tells the caller of the command line how a render goes. Exactly one of finished(), failed() and
-/// cancelled() is called, last.
+/// Tells the caller of the command line how a render goes. Exactly one of finished(),
+/// documentWritten(), failed() and cancelled() is called, last.
 class RenderReport
 {
 public:
@@ -19,6 +19,8 @@ public:
     virtual void progress(qint64 frame, qint64 count) = 0;
     virtual void stage(const QString &stage) = 0;
     virtual void finished(const QString &fileName) = 0;
+    /// In place of a render: the project's document is complete.
+    virtual void documentWritten(const QString &fileName) = 0;
     virtual void failed(const RenderError &error) = 0;
     virtual void cancelled() = 0;
 };

@@ -3,6 +3,7 @@
 #include "app/Identity.h"
 #include "app/Log.h"
 #include "app/Paths.h"
+#include "app/ServicesConfig.h"
 #include "app/Translations.h"
 #include "generator/worker/WorkerMain.h"
 #include "generator/worker/WorkerProtocol.h"
@@ -10,6 +11,8 @@
 #include "programs/velmoratool/HelpText.h"
 #include "programs/velmoratool/MakeCommand.h"
 #include "project/frames/CaptionFont.h"
+#include "services/MetricSender.h"
+#include "services/MetricSetup.h"
 
 #include <QGuiApplication>
 #include <QSettings>
@@ -18,6 +21,9 @@
 
 namespace
 {
+
+/// How long the end of the program may wait for the last usage events to be sent, in ms.
+constexpr int kMetricTimeout = 2000;
 
 int showUsage()
 {
@@ -50,17 +56,23 @@ int main(int argc, char *argv[])
     velmora::FileNames::allowAllLetters();
     velmora::applyIdentity();
     velmora::Log::install(QStringLiteral("log_tool"));
-    qputenv("QT_QPA_PLATFORM", QByteArrayLiteral("offscreen")); // pictures and fonts, but never a window
+    qputenv("QT_QPA_PLATFORM",
+            QByteArrayLiteral("offscreen")); // pictures and fonts, but never a window
     int result = 0;
     {
         QGuiApplication application(argc, argv);
         velmora::registerFontSubstitutes();
         velmora::AppSettings settings;
-        settings.load(*velmora::openSettings(velmora::Paths::settingsFile()), QSize());
+        const auto store = velmora::openSettings(velmora::Paths::settingsFile());
+        settings.load(*store, QSize());
+        velmora::MetricSender &metrics = velmora::MetricSender::instance();
+        velmora::setUpMetrics(
+            metrics, velmora::ServicesConfig::fromFile(velmora::Paths::servicesFile()), *store);
         QTranslator translator;
         if (velmora::Translations::load(translator, settings.locale))
             QCoreApplication::installTranslator(&translator);
         result = dispatch(QCoreApplication::arguments(), settings);
+        metrics.flush(kMetricTimeout);
     }
     velmora::Log::uninstall();
     return result;

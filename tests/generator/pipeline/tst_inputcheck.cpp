@@ -49,12 +49,18 @@ private slots:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("kind");
-        QTest::newRow("missing") << "gone.jpg" << "missing";
-        QTest::newRow("text") << "text.jpg" << "text";
-        QTest::newRow("empty PNG") << "empty.png" << "empty";
-        QTest::newRow("truncated JPEG") << "half.jpg" << "truncated";
-        QTest::newRow("truncated PNG") << "half.png" << "truncated";
-        QTest::newRow("folder") << "dir.jpg" << "folder";
+        QTest::newRow("missing") << "gone.jpg"
+                                 << "missing";
+        QTest::newRow("text") << "text.jpg"
+                              << "text";
+        QTest::newRow("empty PNG") << "empty.png"
+                                   << "empty";
+        QTest::newRow("truncated JPEG") << "half.jpg"
+                                        << "truncated";
+        QTest::newRow("truncated PNG") << "half.png"
+                                       << "truncated";
+        QTest::newRow("folder") << "dir.jpg"
+                                << "folder";
     }
 
     void namesABadPhoto()
@@ -75,9 +81,12 @@ private slots:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("kind");
-        QTest::newRow("missing") << "gone.mp3" << "missing";
-        QTest::newRow("text") << "text.mp3" << "text";
-        QTest::newRow("empty") << "empty.wav" << "empty";
+        QTest::newRow("missing") << "gone.mp3"
+                                 << "missing";
+        QTest::newRow("text") << "text.mp3"
+                              << "text";
+        QTest::newRow("empty") << "empty.wav"
+                               << "empty";
     }
 
     void namesABadSound()
@@ -98,9 +107,9 @@ private slots:
         const QString first = broken(QStringLiteral("missing"), QStringLiteral("1.jpg"));
         const QString second = broken(QStringLiteral("text"), QStringLiteral("2.jpg"));
         const QString sound = broken(QStringLiteral("missing"), QStringLiteral("3.mp3"));
-        RenderRequest request = m_fixture.request(
-            {first, m_fixture.photo(QStringLiteral("a.jpg"), 1), second, first},
-            m_fixture.output(QStringLiteral("a.mp4")));
+        RenderRequest request =
+            m_fixture.request({first, m_fixture.photo(QStringLiteral("a.jpg"), 1), second, first},
+                              m_fixture.output(QStringLiteral("a.mp4")));
         request.project->setAudio({{{sound, {}}}, 0});
         const QStringList lines =
             InputCheck::run(*request.project, m_running).text.split(QLatin1Char('\n'));

@@ -34,16 +34,15 @@ class TestRenderFailures : public QObject
         QVERIFY(!ffmpeg.isEmpty());
         const QString counter = m_fixture.path(QStringLiteral("calls"));
         QFile::remove(counter);
-        const QString script =
-            QStringLiteral("#!/bin/sh\n"
-                           "[ \"$1\" = -version ] && exec '%1' \"$@\"\n"
-                           "echo x >> '%2'\n"
-                           "[ $(wc -l < '%2') -eq %3 ] && { %4; }\n"
-                           "exec '%1' \"$@\"\n")
-                .arg(ffmpeg, counter, QString::number(call), action);
+        const QString script = QStringLiteral("#!/bin/sh\n"
+                                              "[ \"$1\" = -version ] && exec '%1' \"$@\"\n"
+                                              "echo x >> '%2'\n"
+                                              "[ $(wc -l < '%2') -eq %3 ] && { %4; }\n"
+                                              "exec '%1' \"$@\"\n")
+                                   .arg(ffmpeg, counter, QString::number(call), action);
         const QString program = m_fixture.file(QStringLiteral("fake-ffmpeg"), script.toUtf8());
-        QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner |
-                                                   QFile::ExeOwner));
+        QVERIFY(
+            QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
         qputenv("VELMORA_FFMPEG", QFile::encodeName(program));
     }
 
@@ -52,7 +51,9 @@ private slots:
     {
         for (int i = 0; i < 3; ++i)
             m_photos.append(m_fixture.photo(QStringLiteral("%1.jpg").arg(i), i));
-        MetricSender::instance().configure(QUrl(), QString(), 1000, true);
+        // Events are kept, since they never fill a batch.
+        MetricSender::instance().configure(QUrl(QStringLiteral("http://localhost/")), QString(),
+                                           100'000, true);
     }
 
     void init()
@@ -82,8 +83,8 @@ private slots:
             QTest::addRow("first segment, %s", mode) << 1 << "echo no luck >&2; exit 1" << parallel;
             QTest::addRow("killed, %s", mode) << 2 << "kill -9 $$" << parallel;
             QTest::addRow("a join, %s", mode) << 4 << "echo no luck >&2; exit 1" << parallel;
-            QTest::addRow("the total join, %s", mode) << 8 << "echo no luck >&2; exit 1"
-                                                      << parallel;
+            QTest::addRow("the total join, %s", mode)
+                << 8 << "echo no luck >&2; exit 1" << parallel;
             QTest::addRow("the last run, %s", mode) << 9 << "echo no luck >&2; exit 1" << parallel;
             QTest::addRow("nothing written, %s", mode) << 9 << "exit 0" << parallel;
         }
@@ -169,9 +170,9 @@ private slots:
 
     void badInputRendersNothing()
     {
-        RenderRequest bad = m_fixture.request(
-            m_photos + QStringList{m_fixture.path(QStringLiteral("gone.jpg"))},
-            m_fixture.output(QStringLiteral("video.mp4")));
+        RenderRequest bad =
+            m_fixture.request(m_photos + QStringList{m_fixture.path(QStringLiteral("gone.jpg"))},
+                              m_fixture.output(QStringLiteral("video.mp4")));
         const RenderOutcome outcome = m_fixture.render(std::move(bad));
         QCOMPARE(outcome.error.code, QString(RenderErrorCode::kInput));
         QVERIFY(outcome.error.text.contains(QLatin1String("gone.jpg")));

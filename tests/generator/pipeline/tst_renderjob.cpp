@@ -37,7 +37,8 @@ QVector<QImage> expectedFrames(const RenderRequest &request)
     }
     QVector<QImage> frames;
     for (const Timeline::Stage &stage : timeline.stages()) {
-        const auto *photo = qobject_cast<const ProjectItemSimple *>(project.items().at(stage.slide));
+        const auto *photo =
+            qobject_cast<const ProjectItemSimple *>(project.items().at(stage.slide));
         for (int frame = 0; frame < stage.frameCount; ++frame) {
             QImage image;
             const TransitionPosition position{frame, stage.frameCount};
@@ -161,8 +162,8 @@ private slots:
 
     void rendersOneSlideWithoutSound()
     {
-        RenderRequest request = m_fixture.request(m_photos.mid(0, 1),
-                                                  m_fixture.output(QStringLiteral("one.mp4")));
+        RenderRequest request =
+            m_fixture.request(m_photos.mid(0, 1), m_fixture.output(QStringLiteral("one.mp4")));
         const RenderOutcome outcome = m_fixture.render(std::move(request));
         QVERIFY2(outcome.kind == RenderOutcome::Finished, qPrintable(outcome.error.text));
         QCOMPARE(VideoProbe::frameCount(outcome.fileName), 25);
@@ -171,8 +172,8 @@ private slots:
 
     void evensOddSizes()
     {
-        RenderRequest request = m_fixture.request(m_photos.mid(0, 2),
-                                                  m_fixture.output(QStringLiteral("odd.mp4")));
+        RenderRequest request =
+            m_fixture.request(m_photos.mid(0, 2), m_fixture.output(QStringLiteral("odd.mp4")));
         request.project->setResolution({161, 91});
         const RenderOutcome outcome = m_fixture.render(std::move(request));
         QVERIFY2(outcome.kind == RenderOutcome::Finished, qPrintable(outcome.error.text));
@@ -182,8 +183,8 @@ private slots:
     void rendersTheTitleSlideAndSkipsAHiddenOne()
     {
         for (const bool visible : {true, false}) {
-            RenderRequest request = m_fixture.request(m_photos.mid(0, 1),
-                                                      m_fixture.output(QStringLiteral("t.mp4")));
+            RenderRequest request =
+                m_fixture.request(m_photos.mid(0, 1), m_fixture.output(QStringLiteral("t.mp4")));
             auto *title = new ProjectItemFirst(2);
             title->setVisible(visible);
             request.project->insertItem(0, title);
@@ -196,7 +197,8 @@ private slots:
 
     void loopsShortMusic()
     {
-        RenderRequest request = m_fixture.request(m_photos, m_fixture.output(QStringLiteral("l.mp4")));
+        RenderRequest request =
+            m_fixture.request(m_photos, m_fixture.output(QStringLiteral("l.mp4")));
         request.project->setAudio({{{m_fixture.sound(QStringLiteral("short.wav"), 1), {}}}, 0});
         request.project->setAudioLoop(true);
         const RenderOutcome outcome = m_fixture.render(std::move(request));
@@ -216,10 +218,9 @@ private slots:
     {
         QFETCH(QString, name);
         const QString photo = m_fixture.photo(name + QStringLiteral(".jpg"), 1);
-        RenderRequest request = m_fixture.request(
-            {photo, photo}, m_fixture.output(name + QStringLiteral(".mp4")));
-        request.project->setAudio(
-            {{{m_fixture.sound(name + QStringLiteral(".wav"), 4), {}}}, 0});
+        RenderRequest request =
+            m_fixture.request({photo, photo}, m_fixture.output(name + QStringLiteral(".mp4")));
+        request.project->setAudio({{{m_fixture.sound(name + QStringLiteral(".wav"), 4), {}}}, 0});
         const QString cache = m_fixture.path(name + QStringLiteral(" cache"));
         RenderJob job(std::move(request), m_fixture.settings, cache);
         const RenderOutcome outcome = RenderFixture::run(job);

@@ -20,6 +20,7 @@ class MakeProjectTest : public QObject
 private slots:
     void ordersPhotos_data();
     void ordersPhotos();
+    void linksCountAsTheirTargets();
     void namesEveryUnusableFile();
     void settingsFillGaps();
     void optionsWin();
@@ -94,6 +95,26 @@ void MakeProjectTest::ordersPhotos()
         found << QFileInfo(file).completeBaseName();
     }
     QCOMPARE(found.join(QLatin1Char(' ')), names);
+}
+
+// Captions go by the photos' places, so a link that is no photo must not take one.
+void MakeProjectTest::linksCountAsTheirTargets()
+{
+    const QString folder = m_fixture.path(QStringLiteral("links"));
+    QDir().mkpath(folder);
+    const QString notes = m_fixture.file(QStringLiteral("notes.txt"), "text");
+    const QString photo = m_fixture.photo(QStringLiteral("target.png"), 1);
+    QVERIFY(QFile::link(notes, folder + QStringLiteral("/a no photo.jpg")));
+    QVERIFY(QFile::link(photo, folder + QStringLiteral("/b photo.lnk")));
+    QVERIFY(QFile::link(photo, folder + QStringLiteral("/c photo.png")));
+    MakeOptions options;
+    options.photos << folder;
+    options.captionsFromNames = true;
+    const ProjectFile *project = build(options);
+    QVERIFY(project);
+    QCOMPARE(project->items().size(), 3);
+    QCOMPARE(project->items().at(1)->caption().text, QStringLiteral("b photo"));
+    QCOMPARE(project->items().at(2)->caption().text, QStringLiteral("c photo"));
 }
 
 void MakeProjectTest::namesEveryUnusableFile()

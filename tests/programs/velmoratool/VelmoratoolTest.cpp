@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QJsonDocument>
 #include <QProcess>
@@ -187,7 +188,7 @@ void VelmoratoolTest::refuses_data()
     row("broken music", "photo.jpg", "out/a.mp4", "--music broken.mp3", 1, "broken.mp3");
     row("no such output folder", "photo.jpg", "nowhere/a.mp4", "", 1, "nowhere|does not exist");
     row("read-only output folder", "photo.jpg", "/proc/a.mp4", "", 1, "/proc|cannot be written");
-    row("tiny size", "photo.jpg", "out/a.mp4", "--size 2x2", 1, "2x2|too small");
+    row("tiny size", "photo.jpg", "out/a.mp4", "--size 2x2", 2, "2x2|too small");
     row("wrong suffix", "photo.jpg", "out/a.doc", "", 2, "a.doc|must end in|--help");
     row("wrong option", "photo.jpg", "out/a.mp4", "--quick", 2, "--quick|--help");
     row("document not writable", "photo.jpg", "out/a.mp4", "--dump-project nowhere/p.json", 1,
@@ -234,15 +235,18 @@ void VelmoratoolTest::protocolLinesAreWhole()
     const QVector<WorkerMessage> lines = messages();
     QVERIFY(lines.size() > 2);
     qint64 frame = 0;
+    qint64 count = 0;
     for (const WorkerMessage &line : lines) {
         QVERIFY(line.kind != WorkerMessage::Kind::Invalid);
         if (line.kind != WorkerMessage::Kind::Progress)
             continue;
         QVERIFY(line.frame >= frame);
         frame = line.frame;
-        QCOMPARE(line.count, qint64(3 * 25));
+        QVERIFY(count == 0 || line.count == count);
+        count = line.count;
     }
-    QCOMPARE(frame, qint64(3 * 25));
+    QVERIFY(count >= 3 * 25);
+    QCOMPARE(frame, count);
     QVERIFY(lines.last().kind == WorkerMessage::Kind::Finished);
     QCOMPARE(lines.last().fileName, output);
 
@@ -275,7 +279,8 @@ void VelmoratoolTest::interruptLeavesNothing()
         QVERIFY2(process.waitForReadyRead(60'000), "It never came to the first frame.");
         m_output += QString::fromUtf8(process.readAllStandardOutput());
     }
-    QProcess::execute(QStringLiteral("kill"), {signal, QString::number(process.processId())});
+    const QString command = QStringLiteral("kill %1 %2").arg(signal).arg(process.processId());
+    QCOMPARE(QProcess::execute(QStringLiteral("sh"), {QStringLiteral("-c"), command}), 0);
     QVERIFY(process.waitForFinished(60'000));
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 3);
@@ -283,9 +288,9 @@ void VelmoratoolTest::interruptLeavesNothing()
     QVERIFY(messages().last().kind == WorkerMessage::Kind::Cancelled);
 
     QCOMPARE(m_fixture.leftovers(), QStringList());
-    QCOMPARE(QDir(m_fixture.path(QStringLiteral("data/cache/data")))
-                 .entryList(QDir::Dirs | QDir::NoDotAndDotDot),
-             QStringList());
+    QDirIterator cache(m_fixture.path(QStringLiteral("data/cache")), QDir::Files | QDir::Hidden,
+                       QDirIterator::Subdirectories);
+    QVERIFY2(!cache.hasNext(), qPrintable(cache.next()));
     QFile file(output);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("older video"));
@@ -302,6 +307,7 @@ void VelmoratoolTest::documentRendersAlike()
               << QStringLiteral("Hello") << QStringLiteral("--transition")
               << QStringLiteral("cross fade");
     QCOMPARE(run(arguments), 0);
+    QCOMPARE(m_output, QStringLiteral("The project is ready: %1\n").arg(document));
     QVERIFY(!QFile::exists(output));
     QFile file(document);
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -352,13 +358,13 @@ void VelmoratoolTest::manPageIsComplete()
     }
     QVERIFY(page.contains(programVersion()));
 
-    QProcess man;
-    man.start(QStringLiteral("man"), {QStringLiteral("--warnings"), QStringLiteral("-l"),
-                                      QStringLiteral("-Tutf8"), QStringLiteral(MAN_PAGE)});
-    QVERIFY(man.waitForFinished(60'000));
-    QCOMPARE(man.exitCode(), 0);
-    QCOMPARE(man.readAllStandardError(), QByteArray());
-    QVERIFY(man.readAllStandardOutput().size() > 1000);
+    QProcess groff;
+    groff.start(QStringLiteral("groff"), {QStringLiteral("-man"), QStringLiteral("-ww"),
+                                          QStringLiteral("-Tutf8"), QStringLiteral(MAN_PAGE)});
+    QVERIFY(groff.waitForFinished(60'000));
+    QCOMPARE(groff.exitCode(), 0);
+    QCOMPARE(groff.readAllStandardError(), QByteArray());
+    QVERIFY(groff.readAllStandardOutput().size() > 1000);
 }
 
 QTEST_GUILESS_MAIN(VelmoratoolTest)
