@@ -35,8 +35,8 @@ QString pictureName(MessageDialog::Kind kind)
 } // namespace
 
 MessageDialog::MessageDialog(const Message &message, QWidget *parent)
-    : CorDialog(parent), m_cancelButton(message.cancelButton >= 0 ? message.cancelButton
-                                                                  : message.buttons.size() - 1)
+    : CorDialog(parent),
+      m_cancelButton(message.cancelButton >= 0 ? message.cancelButton : message.buttons.size() - 1)
 {
     setObjectName(QStringLiteral("messageDialog"));
     setWindowTitle(message.title);

@@ -21,12 +21,12 @@ public:
     struct Message {
         Kind kind = Kind::Information;
         QString title;
-        QString text;         ///< Plain text.
-        QString details;      ///< More plain text, shown smaller in a field that scrolls; may be empty.
-        QString checkText;    ///< The label of a check box, off at first; empty: none.
-        QStringList buttons;  ///< From left to right; the last one stands outermost.
-        int defaultButton = 0; ///< Filled, and chosen by Enter.
-        int cancelButton = -1; ///< Chosen by Escape and the close button; -1: the last one.
+        QString text;    ///< Plain text.
+        QString details; ///< More plain text, shown smaller in a field that scrolls; may be empty.
+        QString checkText;      ///< The label of a check box, off at first; empty: none.
+        QStringList buttons;    ///< From left to right; the last one stands outermost.
+        int defaultButton = 0;  ///< Filled, and chosen by Enter.
+        int cancelButton = -1;  ///< Chosen by Escape and the close button; -1: the last one.
         bool dangerous = false; ///< The default button destroys something, and looks like it.
     };
 

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/QPopupButton.h"
 
+#include "chrome/Theme.h"
+
 #include <QKeyEvent>
 #include <QMenu>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 
 #include <algorithm>
 
@@ -83,6 +87,35 @@ void QPopupButton::keyPressEvent(QKeyEvent *event)
     default:
         QPushButton::keyPressEvent(event);
     }
+}
+
+/// The style sheet would draw a left-aligned text without padding, and not elide it.
+void QPopupButton::paintEvent(QPaintEvent *)
+{
+    constexpr int kMargin = 12; // px
+    constexpr int kArrow = 16;  // px
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const QString text = option.text;
+    option.features &= ~QStyleOptionButton::ButtonFeatures(QStyleOptionButton::HasMenu);
+    option.text.clear();
+    option.icon = {};
+    QStylePainter painter(this);
+    painter.drawControl(QStyle::CE_PushButton, option);
+
+    const QRect arrow(width() - kArrow - 8, (height() - kArrow) / 2, kArrow, kArrow);
+    const QRect area = rect().adjusted(kMargin, 0, arrow.left() - 4 - width(), 0);
+    constexpr int kFlags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic;
+    style()->drawItemText(&painter, visualRect(area), kFlags, option.palette, isEnabled(),
+                          fontMetrics().elidedText(text, Qt::ElideRight, area.width()),
+                          QPalette::ButtonText);
+    Theme::icon(isEnabled() ? QStringLiteral("arrow-down") : QStringLiteral("arrow-down-disabled"))
+        .paint(&painter, visualRect(arrow));
+}
+
+QRect QPopupButton::visualRect(const QRect &area) const
+{
+    return QStyle::visualRect(layoutDirection(), rect(), area);
 }
 
 } // namespace velmora

@@ -34,9 +34,11 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void showCurrent();
+    QRect visualRect(const QRect &area) const;
     void select(const QVariant &value);
 
     Values m_values;

@@ -196,7 +196,7 @@ void QTableViewEx::paintEvent(QPaintEvent *event)
 
 void QTableViewEx::paintEmptyState()
 {
-    constexpr int kGap = 16; // px
+    constexpr int kGap = 12; // px
     QPainter painter(viewport());
     const QSize picture = m_emptyPicture.isNull()
                               ? QSize()

@@ -38,8 +38,8 @@ void ResizeHandle::place(const QSize &window, const QRect &frame)
 {
     setGeometry(area(m_edges, window, frame));
     // A corner is an L of which only the outer part should take presses from the content.
-    const bool corner = cursorShape(m_edges) == Qt::SizeFDiagCursor ||
-                        cursorShape(m_edges) == Qt::SizeBDiagCursor;
+    const bool corner =
+        cursorShape(m_edges) == Qt::SizeFDiagCursor || cursorShape(m_edges) == Qt::SizeBDiagCursor;
     if (corner)
         setMask(QRegion(rect()) -
                 QRegion(frame.adjusted(Inside, Inside, -Inside, -Inside).translated(-pos())));
@@ -65,8 +65,8 @@ Qt::CursorShape ResizeHandle::cursorShape(Qt::Edges edges)
         return Qt::SizeHorCursor;
     if (!horizontal)
         return Qt::SizeVerCursor;
-    const bool falling = edges == (Qt::LeftEdge | Qt::TopEdge) ||
-                         edges == (Qt::RightEdge | Qt::BottomEdge);
+    const bool falling =
+        edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge);
     return falling ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor;
 }
 

@@ -27,8 +27,7 @@ namespace
 QFont bodyFont()
 {
     const QString family = QStringLiteral("Segoe UI");
-    QFont::insertSubstitutions(family,
-                               {QStringLiteral("Open Sans"), QStringLiteral("Noto Sans")});
+    QFont::insertSubstitutions(family, {QStringLiteral("Open Sans"), QStringLiteral("Noto Sans")});
     QFont font(family);
     font.setPixelSize(Theme::BodySize);
     return font;
@@ -37,8 +36,8 @@ QFont bodyFont()
 QPalette lightPalette()
 {
     QPalette palette(QColor(Theme::Surface), QColor(Theme::Window));
-    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text,
-                                           QPalette::ButtonText, QPalette::ToolTipText})
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
         palette.setColor(role, QColor(Theme::Text));
     palette.setColor(QPalette::Base, QColor(Theme::Surface));
     palette.setColor(QPalette::AlternateBase, QColor(Theme::Window));

@@ -49,6 +49,9 @@ TitleBar::TitleBar(Buttons buttons, QWidget *parent)
         m_icon->hide();
     }
     m_close = addButton("btnCloseTop", QStringLiteral("window-close"));
+    QIcon close = Theme::icon(QStringLiteral("window-close"));
+    close.addFile(QStringLiteral(":/images/images/window-close-white.png"), {}, QIcon::Active);
+    m_close->setIcon(close);
     connect(m_close, &QToolButton::clicked, this, &TitleBar::closeRequested);
 
     window()->installEventFilter(this);

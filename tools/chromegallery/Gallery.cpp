@@ -123,8 +123,8 @@ QWidget *Gallery::createButtons()
     auto *off = new QPopupButton;
     off->setValue(QStringLiteral("Cross fade"));
     off->setEnabled(false);
-    for (QWidget *widget : {static_cast<QWidget *>(time), static_cast<QWidget *>(size),
-                            static_cast<QWidget *>(off)})
+    for (QWidget *widget :
+         {static_cast<QWidget *>(time), static_cast<QWidget *>(size), static_cast<QWidget *>(off)})
         values->addWidget(widget);
     layout->addLayout(values);
     layout->addStretch();
@@ -180,12 +180,12 @@ QWidget *Gallery::createTables()
     filled->verticalHeader()->setDefaultSectionSize(40);
     filled->horizontalHeader()->setStretchLastSection(true);
     filled->selectRow(1);
-    layout->addWidget(filled, 3);
+    layout->addWidget(filled, 1);
     auto *empty = new QTableViewEx;
     empty->setModel(new QStandardItemModel(empty));
     empty->setEmptyState(Theme::icon(QStringLiteral("audio")).pixmap(128, 96),
                          QStringLiteral("Drag & drop audio files to create a playlist"));
-    layout->addWidget(empty, 2);
+    layout->addWidget(empty, 1);
     return page;
 }
 
