@@ -35,10 +35,10 @@ TitleBar::TitleBar(Buttons buttons, QWidget *parent)
     m_title->setMinimumWidth(1);
     m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 
-    m_layout->setContentsMargins(12, 0, 0, 0);
-    m_layout->setSpacing(0);
+    m_layout->setContentsMargins(12, 0, 6, 0);
+    m_layout->setSpacing(2);
     m_layout->addWidget(m_icon);
-    m_layout->addSpacing(8);
+    m_layout->addSpacing(6);
     m_layout->addWidget(m_title, 1);
     if (buttons == Buttons::All) {
         m_minimise = addButton("btnMinimise", QStringLiteral("window-minimise"));
@@ -78,11 +78,11 @@ QToolButton *TitleBar::addButton(const char *name, const QString &icon)
     button->setObjectName(QLatin1String(name));
     button->setIcon(Theme::icon(icon));
     button->setIconSize({kButtonIcon, kButtonIcon});
-    button->setFixedSize(46, Height - 1);
+    button->setFixedSize(36, 28);
     button->setAutoRaise(true);
     // As in other title bars: the keyboard has the window menu and its shortcuts for these.
     button->setFocusPolicy(Qt::NoFocus);
-    m_layout->addWidget(button, 0, Qt::AlignTop);
+    m_layout->addWidget(button);
     return button;
 }
 

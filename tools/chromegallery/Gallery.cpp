@@ -66,6 +66,18 @@ QStandardItemModel *createRows(QObject *parent)
     return model;
 }
 
+void moveRows(QStandardItemModel &model, const QVector<int> &rows, int before)
+{
+    QList<QList<QStandardItem *>> moved;
+    for (int i = rows.size() - 1; i >= 0; --i) {
+        moved.prepend(model.takeRow(rows.at(i)));
+        if (rows.at(i) < before)
+            --before;
+    }
+    for (const QList<QStandardItem *> &row : qAsConst(moved))
+        model.insertRow(before++, row);
+}
+
 } // namespace
 
 Gallery::Gallery()
@@ -176,7 +188,10 @@ QWidget *Gallery::createTables()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(16);
     auto *filled = new QTableViewEx;
-    filled->setModel(createRows(filled));
+    QStandardItemModel *model = createRows(filled);
+    filled->setModel(model);
+    connect(filled, &QTableViewEx::rowsMoved, model,
+            [model](const QVector<int> &rows, int before) { moveRows(*model, rows, before); });
     filled->verticalHeader()->setDefaultSectionSize(40);
     filled->horizontalHeader()->setStretchLastSection(true);
     filled->selectRow(1);
