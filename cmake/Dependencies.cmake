@@ -1,7 +1,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 set(QT_MODULES Core Gui Network Concurrent)
 if(VELMORA_BUILD_GUI)
-  list(APPEND QT_MODULES Widgets)
+  list(APPEND QT_MODULES Widgets Svg Multimedia NetworkAuth)
+  if(NOT WIN32)
+    list(APPEND QT_MODULES X11Extras)
+  endif()
 endif()
 if(VELMORA_BUILD_TESTS)
   list(APPEND QT_MODULES Test)

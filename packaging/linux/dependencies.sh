@@ -13,12 +13,16 @@ build_packages=(
     libboost-dev
     libexiv2-dev
     libjpeg-dev
+    libqt5networkauth5-dev
+    libqt5svg5-dev
+    libqt5x11extras5-dev
     libsodium-dev
     libswresample-dev
     libturbojpeg0-dev
     ninja-build
     pkg-config
     qtbase5-dev
+    qtmultimedia5-dev
     qttools5-dev
     qttools5-dev-tools
 )
@@ -28,6 +32,10 @@ run_packages=(
     fonts-droid-fallback
     fonts-noto-core
     fonts-open-sans
+    gstreamer1.0-libav
+    gstreamer1.0-plugins-good
+    libqt5multimedia5-plugins
+    libqt5svg5
     qt5-image-formats-plugins
 )
 

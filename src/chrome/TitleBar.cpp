@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "chrome/TitleBar.h"
+
+#include "chrome/Theme.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QToolButton>
+#include <QWindow>
+
+namespace velmora
+{
+
+namespace
+{
+
+constexpr int kIconSize = 20;   // px
+constexpr int kButtonIcon = 16; // px
+
+} // namespace
+
+TitleBar::TitleBar(Buttons buttons, QWidget *parent)
+    : QFrame(parent), m_layout(new QHBoxLayout(this)), m_icon(new QLabel(this)),
+      m_title(new QLabel(this))
+{
+    setObjectName(QStringLiteral("titleBar"));
+    setFixedHeight(Height);
+    m_icon->setObjectName(QStringLiteral("titleIcon"));
+    m_title->setObjectName(QStringLiteral("titleText"));
+    m_title->setTextFormat(Qt::PlainText);
+    // A long title must not keep the window from becoming narrow.
+    m_title->setMinimumWidth(1);
+    m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+
+    m_layout->setContentsMargins(12, 0, 6, 0);
+    m_layout->setSpacing(2);
+    m_layout->addWidget(m_icon);
+    m_layout->addSpacing(6);
+    m_layout->addWidget(m_title, 1);
+    if (buttons == Buttons::All) {
+        m_minimise = addButton("btnMinimise", QStringLiteral("window-minimise"));
+        m_maximise = addButton("btnMaximise", QStringLiteral("window-maximise"));
+        connect(m_minimise, &QToolButton::clicked, this, &TitleBar::minimiseRequested);
+        connect(m_maximise, &QToolButton::clicked, this, &TitleBar::maximiseRequested);
+    } else {
+        m_icon->hide();
+    }
+    m_close = addButton("btnCloseTop", QStringLiteral("window-close"));
+    QIcon close = Theme::icon(QStringLiteral("window-close"));
+    close.addFile(QStringLiteral(":/images/images/window-close-white.png"), {}, QIcon::Active);
+    m_close->setIcon(close);
+    connect(m_close, &QToolButton::clicked, this, &TitleBar::closeRequested);
+
+    window()->installEventFilter(this);
+    retranslate();
+    updateIcon();
+    updateTitle();
+    updateState();
+}
+
+void TitleBar::addWidget(QWidget *widget)
+{
+    const int buttons = m_minimise ? 3 : 1;
+    m_layout->insertWidget(m_layout->count() - buttons, widget);
+}
+
+QString TitleBar::title() const
+{
+    return m_title->text();
+}
+
+QToolButton *TitleBar::addButton(const char *name, const QString &icon)
+{
+    auto *button = new QToolButton(this);
+    button->setObjectName(QLatin1String(name));
+    button->setIcon(Theme::icon(icon));
+    button->setIconSize({kButtonIcon, kButtonIcon});
+    button->setFixedSize(36, 28);
+    button->setAutoRaise(true);
+    // As in other title bars: the keyboard has the window menu and its shortcuts for these.
+    button->setFocusPolicy(Qt::NoFocus);
+    m_layout->addWidget(button);
+    return button;
+}
+
+void TitleBar::retranslate()
+{
+    const auto name = [](QToolButton *button, const QString &text) {
+        button->setToolTip(text);
+        button->setAccessibleName(text);
+    };
+    name(m_close, tr("Close"));
+    if (m_minimise)
+        name(m_minimise, tr("Minimize"));
+    if (m_maximise)
+        name(m_maximise, window()->isMaximized() ? tr("Restore") : tr("Maximize"));
+}
+
+void TitleBar::updateIcon()
+{
+    QIcon icon = window()->windowIcon();
+    m_icon->setPixmap(icon.pixmap(window()->windowHandle(), {kIconSize, kIconSize}));
+}
+
+void TitleBar::updateTitle()
+{
+    QString title = window()->windowTitle();
+    title.replace(QLatin1String("[*]"),
+                  window()->isWindowModified() ? QStringLiteral("*") : QString());
+    m_title->setText(title);
+}
+
+void TitleBar::updateState()
+{
+    if (!m_maximise)
+        return;
+    const bool maximised = window()->isMaximized();
+    m_maximise->setIcon(Theme::icon(maximised ? QStringLiteral("window-restore")
+                                              : QStringLiteral("window-maximise")));
+    retranslate();
+}
+
+bool TitleBar::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == window()) {
+        switch (event->type()) {
+        case QEvent::WindowTitleChange:
+        case QEvent::ModifiedChange:
+            updateTitle();
+            break;
+        case QEvent::WindowIconChange:
+        case QEvent::ScreenChangeInternal:
+            updateIcon();
+            break;
+        case QEvent::WindowStateChange:
+            updateState();
+            break;
+        case QEvent::WindowActivate:
+        case QEvent::WindowDeactivate:
+            m_title->setEnabled(event->type() == QEvent::WindowActivate);
+            break;
+        default:
+            break;
+        }
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+void TitleBar::mousePressEvent(QMouseEvent *event)
+{
+    m_dragging = event->button() == Qt::LeftButton;
+    m_pressed = event->pos();
+}
+
+void TitleBar::mouseMoveEvent(QMouseEvent *event)
+{
+    // Only a real movement starts the move, or the window system would swallow double clicks.
+    if (!m_dragging ||
+        (event->pos() - m_pressed).manhattanLength() < QApplication::startDragDistance())
+        return;
+    m_dragging = false;
+    if (QWindow *handle = window()->windowHandle())
+        handle->startSystemMove();
+}
+
+void TitleBar::mouseReleaseEvent(QMouseEvent *)
+{
+    m_dragging = false;
+}
+
+void TitleBar::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    m_dragging = false;
+    if (event->button() == Qt::LeftButton && m_maximise)
+        emit maximiseRequested();
+}
+
+void TitleBar::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QFrame::changeEvent(event);
+}
+
+} // namespace velmora

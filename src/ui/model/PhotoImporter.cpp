@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/model/PhotoImporter.h"
+
+#include "platform/ShortcutResolver.h"
+#include "project/documents/MediaSuffixes.h"
+#include "project/images/ImageLoader.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QThread>
+
+#include <map>
+
+namespace velmora
+{
+
+PhotoImporter::PhotoImporter(QObject *parent) : QObject(parent) {}
+
+PhotoImporter::~PhotoImporter()
+{
+    cancel();
+    if (m_thread)
+        m_thread->wait();
+}
+
+bool PhotoImporter::start(const QStringList &paths, int row)
+{
+    if (isRunning())
+        return false;
+    m_cancelled = false;
+    m_import = PhotoImport();
+    m_import.row = row;
+    m_looked = 0;
+    m_thread.reset(QThread::create([this, paths] { search(paths); }));
+    connect(m_thread.get(), &QThread::finished, this, &PhotoImporter::end);
+    m_thread->start(QThread::LowPriority);
+    return true;
+}
+
+void PhotoImporter::end()
+{
+    m_thread->wait();
+    m_thread.release()->deleteLater(); // its signal led here
+    m_import.cancelled = m_cancelled;
+    const PhotoImport import = std::move(m_import);
+    emit finished(import);
+}
+
+void PhotoImporter::search(const QStringList &paths)
+{
+    for (const QString &path : paths) {
+        if (m_cancelled)
+            return;
+        const QString target = resolveShortcut(path);
+        if (target.isEmpty() || !QFileInfo::exists(target))
+            m_import.refused.append({path, tr("does not exist")});
+        else if (QFileInfo(target).isDir())
+            searchFolder(target);
+        else if (!isPhotoPath(target))
+            m_import.refused.append({path, tr("is not a photo")});
+        else
+            look(QFileInfo(target).absoluteFilePath());
+    }
+}
+
+void PhotoImporter::searchFolder(const QString &folder)
+{
+    if (!QFileInfo(folder).isReadable()) {
+        m_import.refused.append({folder, tr("cannot be read")});
+        return;
+    }
+    // Links to folders are not followed, so a search always ends.
+    std::map<QString, QStringList> photos; // by folder
+    QDirIterator files(QFileInfo(folder).absoluteFilePath(), QDir::Files | QDir::NoDotAndDotDot,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext() && !m_cancelled) {
+        const QString path = files.next();
+        if (isPhotoPath(path))
+            photos[QFileInfo(path).path()].append(path);
+    }
+    QStringList folders;
+    for (const auto &entry : photos)
+        folders.append(entry.first);
+    sortNaturally(&folders);
+    for (const QString &name : qAsConst(folders)) {
+        sortNaturally(&photos[name]);
+        for (const QString &path : qAsConst(photos[name])) {
+            if (m_cancelled)
+                return;
+            look(path);
+        }
+    }
+}
+
+void PhotoImporter::look(const QString &path)
+{
+    constexpr int kReportEvery = 10; // photos
+    QString error;
+    if (ImageLoader::uprightSize(path, &error).isEmpty())
+        m_import.refused.append({path, error});
+    else
+        m_import.photos.append(path);
+    if (++m_looked % kReportEvery == 0)
+        emit progress(m_looked);
+}
+
+} // namespace velmora

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/model/SlideStatesCommand.h"
+
+#include "ui/model/ProjectEditor.h"
+
+namespace velmora
+{
+
+SlideStatesCommand::SlideStatesCommand(ProjectEditor &editor, QVector<Change> changes,
+                                       const QString &text)
+    : QUndoCommand(text), m_editor(editor), m_changes(std::move(changes))
+{
+}
+
+void SlideStatesCommand::undo()
+{
+    apply(&Change::before);
+}
+
+void SlideStatesCommand::redo()
+{
+    apply(&Change::after);
+}
+
+void SlideStatesCommand::apply(SlideState Change::*state)
+{
+    for (const Change &change : qAsConst(m_changes)) {
+        (change.*state).applyTo(*change.slide);
+        emit m_editor.slideChanged(change.slide);
+    }
+    emit m_editor.totalsChanged();
+}
+
+} // namespace velmora

@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/model/SlideTableModel.h"
+
+#include "project/documents/ProjectFile.h"
+#include "project/slides/ProjectItemSimple.h"
+#include "project/slides/TransitionType.h"
+#include "ui/model/ProjectEditor.h"
+#include "ui/model/ValueLists.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTransform>
+
+namespace velmora
+{
+
+namespace
+{
+
+constexpr int kKeptThumbnails = 4000;
+// More requests than rows on a tall screen are of rows that were scrolled past.
+constexpr int kMaximumRequests = 60;
+
+QString fileOf(const ProjectItem &slide)
+{
+    const auto *photo = qobject_cast<const ProjectItemSimple *>(&slide);
+    return photo ? photo->fileName() : QString();
+}
+
+} // namespace
+
+SlideTableModel::SlideTableModel(ProjectEditor &editor, QObject *parent)
+    : QAbstractTableModel(parent), m_editor(editor), m_thumbnails(kKeptThumbnails)
+{
+    connect(&m_editor, &ProjectEditor::projectChanged, this, [this] {
+        m_provider.clear();
+        m_requests.clear();
+        m_order.clear();
+        m_missing.clear();
+        reset();
+    });
+    connect(&m_editor, &ProjectEditor::slidesChanged, this, &SlideTableModel::reset);
+    connect(&m_editor, &ProjectEditor::slideChanged, this, &SlideTableModel::onSlideChanged);
+    connect(&m_provider, &ThubnailProvider::thumbnailReady, this,
+            &SlideTableModel::onThumbnailReady);
+    m_provider.start(QThread::LowPriority);
+    reset();
+}
+
+SlideTableModel::~SlideTableModel()
+{
+    m_provider.stop();
+}
+
+void SlideTableModel::reset()
+{
+    beginResetModel();
+    m_slides = m_editor.project() ? m_editor.project()->items() : Slides();
+    m_rows.clear();
+    for (int row = 0; row < m_slides.size(); ++row)
+        m_rows.insert(m_slides.at(row), row);
+    endResetModel();
+}
+
+ProjectItem *SlideTableModel::slideAt(int row) const
+{
+    return m_slides.value(row);
+}
+
+int SlideTableModel::rowOf(const ProjectItem *slide) const
+{
+    return m_rows.value(slide, -1);
+}
+
+int SlideTableModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_slides.size();
+}
+
+int SlideTableModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant SlideTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    switch (section) {
+    case NumberColumn:
+        return QStringLiteral("#");
+    case TimeColumn:
+        return tr("Time");
+    case TransitionColumn:
+        return tr("Transition");
+    case TextColumn:
+        return tr("Text");
+    default:
+        return {};
+    }
+}
+
+Qt::ItemFlags SlideTableModel::flags(const QModelIndex &index) const
+{
+    Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    if (!index.isValid())
+        return flags;
+    const bool isPhoto = qobject_cast<ProjectItemSimple *>(slideAt(index.row())) != nullptr;
+    if (index.column() == TimeColumn || (index.column() == TransitionColumn && isPhoto))
+        flags |= Qt::ItemIsEditable;
+    if (isPhoto)
+        flags |= Qt::ItemIsDragEnabled;
+    return flags;
+}
+
+QVariant SlideTableModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const ProjectItem &slide = *m_slides.at(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::AccessibleTextRole:
+        return text(slide, index.row(), index.column());
+    case Qt::EditRole:
+        return editValue(slide, index.column());
+    case Qt::ToolTipRole:
+        return toolTip(slide);
+    case Qt::DecorationRole:
+        return index.column() == NumberColumn ? QVariant(thumbnail(slide)) : QVariant();
+    case MissingRole:
+        return isMissing(fileOf(slide));
+    case ShownRole:
+        return slide.isShown();
+    case TitleRole:
+        return slide.title();
+    default:
+        return {};
+    }
+}
+
+QVariant SlideTableModel::text(const ProjectItem &slide, int row, int column) const
+{
+    switch (column) {
+    case NumberColumn:
+        return QString::number(row + 1);
+    case TimeColumn:
+        return ValueLists::secondsText(slide.time());
+    case TransitionColumn: {
+        const QVariant transition = editValue(slide, column);
+        return transition.isValid() ? translatedTransitionName(transition.toInt()) : QString();
+    }
+    default:
+        return slide.caption().text.simplified();
+    }
+}
+
+QVariant SlideTableModel::editValue(const ProjectItem &slide, int column) const
+{
+    const auto *photo = qobject_cast<const ProjectItemSimple *>(&slide);
+    if (column == TimeColumn)
+        return slide.time();
+    if (column == TransitionColumn && photo)
+        return photo->transition();
+    return column == TextColumn ? QVariant(slide.caption().text) : QVariant();
+}
+
+QString SlideTableModel::toolTip(const ProjectItem &slide) const
+{
+    const QString file = fileOf(slide);
+    if (file.isEmpty())
+        return slide.isShown() ? slide.title() : tr("The title slide is not part of the video.");
+    const QString path = QDir::toNativeSeparators(file);
+    return isMissing(file) ? tr("The photo %1 does not exist any more.").arg(path) : path;
+}
+
+bool SlideTableModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable))
+        return false;
+    if (index.column() == TimeColumn)
+        m_editor.setTime({slideAt(index.row())}, value.toInt());
+    else
+        m_editor.setTransition({slideAt(index.row())}, value.toInt());
+    return true;
+}
+
+bool SlideTableModel::isMissing(const QString &fileName) const
+{
+    if (fileName.isEmpty())
+        return false;
+    auto entry = m_missing.find(fileName);
+    if (entry == m_missing.end())
+        entry = m_missing.insert(fileName, !QFileInfo::exists(fileName));
+    return entry.value();
+}
+
+QImage SlideTableModel::thumbnail(const ProjectItem &slide) const
+{
+    const QString file = fileOf(slide);
+    if (file.isEmpty())
+        return slide.previewImage();
+    if (const QImage *image = m_thumbnails.object(file))
+        return slide.angle() == 0 ? *image : image->transformed(QTransform().rotate(slide.angle()));
+    if (!isMissing(file))
+        request(file);
+    return {};
+}
+
+void SlideTableModel::request(const QString &fileName) const
+{
+    for (const QString &requested : qAsConst(m_requests)) {
+        if (requested == fileName)
+            return;
+    }
+    if (m_order.size() >= kMaximumRequests) {
+        const QUuid oldest = m_order.takeFirst();
+        m_provider.drop(oldest);
+        m_requests.remove(oldest);
+    }
+    const QUuid id = m_provider.request(fileName);
+    m_requests.insert(id, fileName);
+    m_order.append(id);
+}
+
+void SlideTableModel::onThumbnailReady(const QUuid &id)
+{
+    const QString fileName = m_requests.take(id);
+    m_order.removeOne(id);
+    const QImage image = m_provider.thumbnail(id);
+    m_provider.drop(id);
+    if (fileName.isEmpty() || image.isNull())
+        return;
+    m_thumbnails.insert(fileName, new QImage(image));
+    for (int row = 0; row < m_slides.size(); ++row) {
+        if (fileOf(*m_slides.at(row)) == fileName) {
+            const QModelIndex changed = index(row, NumberColumn);
+            emit dataChanged(changed, changed, {Qt::DecorationRole});
+        }
+    }
+}
+
+void SlideTableModel::onSlideChanged(ProjectItem *slide)
+{
+    const int row = rowOf(slide);
+    if (row >= 0)
+        emit dataChanged(index(row, 0), index(row, ColumnCount - 1));
+}
+
+} // namespace velmora

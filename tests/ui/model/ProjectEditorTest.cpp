@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/model/ProjectEditor.h"
+#include "app/AppSettings.h"
+#include "project/documents/ProjectFile.h"
+#include "project/slides/ProjectItemFirst.h"
+#include "project/slides/ProjectItemSimple.h"
+#include "ui/model/PhotoImporter.h"
+#include "ui/model/SlideTableModel.h"
+#include "ui/model/ValueLists.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUndoStack>
+
+#include <functional>
+
+using namespace velmora;
+
+using Edit = std::function<void(ProjectEditor &, const ProjectEditor::Slides &)>;
+Q_DECLARE_METATYPE(Edit)
+
+class ProjectEditorTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QJsonObject document() const
+    {
+        QJsonObject object;
+        m_project->toJson(object);
+        return object;
+    }
+
+    QStringList names() const
+    {
+        QStringList names;
+        for (const ProjectItem *slide : m_project->items())
+            names.append(slide->title());
+        return names;
+    }
+
+    static QStringList photos(const QString &letters)
+    {
+        QStringList paths;
+        for (const QChar letter : letters)
+            paths.append(QStringLiteral("/p/") + letter + QStringLiteral(".jpg"));
+        return paths;
+    }
+
+    AppSettings m_settings;
+    std::unique_ptr<ProjectFile> m_project;
+    std::unique_ptr<ProjectEditor> m_editor;
+
+private slots:
+    void init()
+    {
+        m_settings = AppSettings();
+        m_project = std::make_unique<ProjectFile>(m_settings, ProjectFile::TitleSlide::Create);
+        m_project->addFiles(photos(QStringLiteral("abcd")), 3, 1);
+        m_project->setAudio({{{QStringLiteral("/m/1.mp3"), QStringLiteral("0:01:00")},
+                              {QStringLiteral("/m/2.mp3"), QStringLiteral("0:02:00")}},
+                             0});
+        m_editor = std::make_unique<ProjectEditor>(m_settings);
+        m_editor->setProject(m_project.get());
+    }
+
+    void cleanup()
+    {
+        m_editor.reset();
+        m_project.reset();
+    }
+
+    void everyEditCanBeUndoneAndRedone_data()
+    {
+        using S = ProjectEditor::Slides;
+        QTest::addColumn<Edit>("edit");
+        const auto row = [](const char *name, const Edit &edit) { QTest::newRow(name) << edit; };
+        row("add", [](auto &e, auto &) { e.addPhotos({QStringLiteral("/p/x.png")}, 2); });
+        row("remove", [](auto &e, auto &s) { e.removeSlides({s[1], s[3]}); });
+        row("remove all", [](auto &e, auto &s) { e.removeSlides(s); });
+        row("move", [](auto &e, auto &s) { e.moveSlides({s[1], s[3]}, 5); });
+        row("order", [](auto &e, auto &s) {
+            e.setOrder(S{s[0], s[4], s[3], s[2], s[1]}, QStringLiteral("Sort"));
+        });
+        row("time", [](auto &e, auto &s) { e.setTime(s, 7); });
+        row("transition", [](auto &e, auto &s) { e.setTransition(s, 27); });
+        row("rotate", [](auto &e, auto &s) { e.rotate({s[2]}, -90); });
+        row("caption", [](auto &e, auto &s) {
+            CaptionStyle caption;
+            caption.text = QStringLiteral("Hello");
+            caption.position = 2;
+            e.setCaption({s[1], s[2]}, caption);
+        });
+        row("title", [](auto &e, auto &) { e.setTitleSlide(5, false); });
+        row("relocate", [](auto &e, auto &s) { e.relocate(s[1], QStringLiteral("/q/n.jpg")); });
+        row("add audio", [](auto &e, auto &) {
+            e.addAudio({{QStringLiteral("/m/3.mp3"), QStringLiteral("0:00:03")}}, 1);
+        });
+        row("remove audio", [](auto &e, auto &) { e.removeAudio({0}); });
+        row("move audio", [](auto &e, auto &) { e.moveAudio(0, 1); });
+        row("offset", [](auto &e, auto &) { e.setAudioOffset(-3); });
+        row("fade", [](auto &e, auto &) { e.setAudioFade(2); });
+        row("loop", [](auto &e, auto &) { e.setAudioLoop(true); });
+        row("resolution", [](auto &e, auto &) { e.setResolution({640, 480}); });
+        row("format", [](auto &e, auto &) { e.setFormat(QStringLiteral("webm")); });
+        row("ratio", [](auto &e, auto &) { e.setOrigRatio(false); });
+        row("scale", [](auto &e, auto &) { e.setScaleToFit(false); });
+        row("transition time", [](auto &e, auto &) { e.setTransitionSeconds(3); });
+        row("name", [](auto &e, auto &) { e.setName(QStringLiteral("Holiday")); });
+    }
+
+    void everyEditCanBeUndoneAndRedone()
+    {
+        QFETCH(Edit, edit);
+        const QJsonObject before = document();
+        edit(*m_editor, m_project->items());
+        const QJsonObject after = document();
+        QVERIFY(after != before);
+        QCOMPARE(m_editor->undoStack()->count(), 1);
+        QVERIFY(m_editor->isModified());
+        for (int round = 0; round < 2; ++round) {
+            m_editor->undoStack()->undo();
+            QCOMPARE(document(), before);
+            QVERIFY(!m_editor->isModified());
+            m_editor->undoStack()->redo();
+            QCOMPARE(document(), after);
+        }
+    }
+
+    void unchangedValuesAreNoSteps()
+    {
+        m_editor->setTime(m_project->items(), 3);
+        m_editor->setResolution(m_project->resolution());
+        m_editor->setResolution({0, 0});
+        m_editor->moveSlides({m_project->items().at(1)}, 1);
+        QCOMPARE(m_editor->undoStack()->count(), 0);
+    }
+
+    void photosGoToTheirRow_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<QString>("order");
+        QTest::newRow("after row 2") << 3 << QStringLiteral("abxyzcd");
+        QTest::newRow("end") << -1 << QStringLiteral("abcdxyz");
+        QTest::newRow("title stays first") << 0 << QStringLiteral("xyzabcd");
+        QTest::newRow("beyond") << 99 << QStringLiteral("abcdxyz");
+    }
+
+    void photosGoToTheirRow()
+    {
+        QFETCH(int, row);
+        QFETCH(QString, order);
+        m_editor->addPhotos(photos(QStringLiteral("xyz")), row);
+        QString letters;
+        for (const QString &name : names().mid(1))
+            letters += name.left(1);
+        QCOMPARE(letters, order);
+    }
+
+    void movedSlidesKeepTheirOrder()
+    {
+        const auto s = m_project->items();
+        m_editor->moveSlides({s[4], s[1], s[0]}, 3);
+        QCOMPARE(m_project->items(), (ProjectEditor::Slides{s[0], s[2], s[1], s[4], s[3]}));
+    }
+
+    void modelFollowsEveryChange()
+    {
+        SlideTableModel model(*m_editor);
+        const QAbstractItemModelTester tester(
+            &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QCOMPARE(model.rowCount(), 5);
+        QVERIFY(model.setData(model.index(2, SlideTableModel::TimeColumn), 10, Qt::EditRole));
+        QCOMPARE(model.index(2, SlideTableModel::TimeColumn).data().toString(),
+                 QStringLiteral("10 sec"));
+        QVERIFY(!model.setData(model.index(0, SlideTableModel::TransitionColumn), 2, Qt::EditRole));
+        QVERIFY(model.index(1, 0).data(SlideTableModel::MissingRole).toBool());
+        m_editor->removeSlides({m_project->items().at(1)});
+        QCOMPARE(model.rowCount(), 4);
+        m_editor->undoStack()->undo();
+        QCOMPARE(model.rowCount(), 5);
+    }
+
+    void thumbnailsArriveLater()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("red.png"));
+        QImage image(200, 100, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QVERIFY(image.save(path));
+        SlideTableModel model(*m_editor);
+        m_editor->addPhotos({path}, -1);
+        const QModelIndex index = model.index(5, 0);
+        QVERIFY(index.data(Qt::DecorationRole).value<QImage>().isNull());
+        QTRY_VERIFY(!index.data(Qt::DecorationRole).value<QImage>().isNull());
+        QCOMPARE(index.data(Qt::DecorationRole).value<QImage>().pixelColor(31, 31),
+                 QColor(Qt::red));
+    }
+
+    void importFindsPhotosAndTellsWhatItRefuses()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("in/deep")));
+        QImage image(8, 8, QImage::Format_RGB32);
+        image.fill(Qt::blue);
+        for (const char *name : {"in/img10.png", "in/img2.png", "in/deep/a.JPG"})
+            QVERIFY(image.save(folder.filePath(QLatin1String(name))));
+        for (const char *name : {"in/broken.jpg", "in/notes.txt", "letter.txt"}) {
+            QFile file(folder.filePath(QLatin1String(name)));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write("text");
+        }
+        PhotoImporter importer;
+        PhotoImport result;
+        int endings = 0;
+        connect(&importer, &PhotoImporter::finished, this, [&](const PhotoImport &import) {
+            result = import;
+            ++endings;
+        });
+        QVERIFY(importer.start({folder.filePath(QStringLiteral("in")),
+                                folder.filePath(QStringLiteral("letter.txt")),
+                                folder.filePath(QStringLiteral("gone.png"))},
+                               4));
+        QVERIFY(!importer.start({}, 0));
+        QTRY_COMPARE(endings, 1);
+        QStringList found;
+        for (const QString &path : qAsConst(result.photos))
+            found.append(QFileInfo(path).fileName());
+        found.sort();
+        QCOMPARE(found, (QStringList{QStringLiteral("a.JPG"), QStringLiteral("img10.png"),
+                                     QStringLiteral("img2.png")}));
+        const auto place = [&](const char *name) {
+            return result.photos.indexOf(folder.filePath(QLatin1String(name)));
+        };
+        QVERIFY(place("in/img2.png") < place("in/img10.png"));
+        QCOMPARE(result.refused.size(), 3);
+        QCOMPARE(result.row, 4);
+        QVERIFY(!result.cancelled);
+    }
+
+    void durationsAndLists()
+    {
+        QCOMPARE(ValueLists::durationText(3725999), QStringLiteral("1:02:05"));
+        QCOMPARE(ValueLists::transitions().at(2).second.toInt(), 27);
+        QCOMPARE(ValueLists::formats().first().first, QStringLiteral(".mp4"));
+        QCOMPARE(ValueLists::resolutions().size(), 11);
+    }
+};
+
+QTEST_MAIN(ProjectEditorTest)
+#include "ProjectEditorTest.moc"
