@@ -2,7 +2,9 @@
 #include "ui/model/SlideTableModel.h"
 
 #include "project/documents/ProjectFile.h"
+#include "project/slides/ProjectItemFirst.h"
 #include "project/slides/ProjectItemSimple.h"
+#include "project/slides/TitleBackground.h"
 #include "project/slides/TransitionType.h"
 #include "ui/model/ProjectEditor.h"
 #include "ui/model/ValueLists.h"
@@ -20,6 +22,7 @@ namespace
 constexpr int kKeptThumbnails = 4000;
 // More requests than rows on a tall screen are of rows that were scrolled past.
 constexpr int kMaximumRequests = 60;
+constexpr QSize kTitleThumbnail(62, 46); // px
 
 QString fileOf(const ProjectItem &slide)
 {
@@ -197,9 +200,9 @@ bool SlideTableModel::isMissing(const QString &fileName) const
 
 QImage SlideTableModel::thumbnail(const ProjectItem &slide) const
 {
+    if (const auto *title = qobject_cast<const ProjectItemFirst *>(&slide))
+        return titleBackground(title->backgroundIndex(), kTitleThumbnail, true);
     const QString file = fileOf(slide);
-    if (file.isEmpty())
-        return slide.previewImage();
     if (const QImage *image = m_thumbnails.object(file))
         return slide.angle() == 0 ? *image : image->transformed(QTransform().rotate(slide.angle()));
     if (!isMissing(file))
