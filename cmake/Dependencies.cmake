@@ -16,3 +16,7 @@ pkg_check_modules(LIBAV REQUIRED IMPORTED_TARGET libavformat libavcodec libavuti
 pkg_check_modules(TURBOJPEG REQUIRED IMPORTED_TARGET libturbojpeg)
 pkg_check_modules(EXIV2 REQUIRED IMPORTED_TARGET exiv2)
 find_package(JPEG REQUIRED)
+if(VELMORA_BUILD_GUI AND NOT WIN32)
+  pkg_check_modules(LIBBURN REQUIRED IMPORTED_TARGET libburn-1)
+  pkg_check_modules(LIBISOFS REQUIRED IMPORTED_TARGET libisofs-1)
+endif()
