@@ -10,6 +10,7 @@
 
 #include <QFile>
 #include <QJsonDocument>
+#include <QSettings>
 #include <QUndoStack>
 #include <QtConcurrent>
 
@@ -60,6 +61,14 @@ Autosave::Autosave(const ProjectDocument &document, ProjectEditor &editor,
 Autosave::~Autosave()
 {
     m_writer.waitForDone();
+}
+
+int Autosave::intervalOf(const QSettings &store)
+{
+    constexpr int kSecond = 1000;  // ms
+    constexpr int kLongest = 3600; // s
+    const int seconds = store.value(QStringLiteral("autosaveSeconds")).toInt();
+    return seconds > 0 && seconds <= kLongest ? seconds * kSecond : Interval;
 }
 
 Autosave::Found Autosave::find(const AppSettings &settings) const

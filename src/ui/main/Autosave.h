@@ -9,6 +9,8 @@
 
 #include <memory>
 
+class QSettings;
+
 namespace velmora
 {
 
@@ -31,6 +33,8 @@ public:
     };
 
     static constexpr int Interval = 30000; ///< ms
+    /// The interval in ms that "autosaveSeconds" of @p store sets, otherwise the usual one.
+    static int intervalOf(const QSettings &store);
 
     /// Looks at the project every @p interval ms. The references must outlive the object.
     Autosave(const ProjectDocument &document, ProjectEditor &editor, const QString &dataFolder,

@@ -5,9 +5,12 @@
 #include "chrome/MessageDialog.h"
 #include "project/documents/ProjectFile.h"
 #include "ui/UiLog.h"
+#include "ui/main/Autosave.h"
+#include "ui/main/MainMenu.h"
 #include "ui/main/ProjectDocument.h"
 #include "ui/settings/SetNameDialog.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QSettings>
@@ -33,9 +36,40 @@ const QString &suffix()
 } // namespace
 
 DocumentActions::DocumentActions(ProjectDocument &document, const AppSettings &settings,
-                                 QSettings &store, QWidget *window)
-    : QObject(window), m_document(document), m_settings(settings), m_store(store), m_window(window)
+                                 QSettings &store, const MainMenu &menu, QWidget *window)
+    : QObject(window), m_document(document), m_settings(settings), m_store(store), m_window(window),
+      m_resume(settings, window)
 {
+    connect(menu.newProject, &QAction::triggered, this, &DocumentActions::onNew);
+    connect(menu.open, &QAction::triggered, this, &DocumentActions::onOpen);
+    connect(menu.save, &QAction::triggered, this, &DocumentActions::onSave);
+    connect(menu.saveAs, &QAction::triggered, this, &DocumentActions::onSaveAs);
+    connect(menu.title, &QAction::triggered, this, &DocumentActions::onTitle);
+    connect(&m_resume, &ProjectResume::ready, this, &DocumentActions::onResumed);
+    connect(&document, &ProjectDocument::stateChanged, this, &DocumentActions::updateTitle);
+    updateTitle();
+}
+
+void DocumentActions::updateTitle()
+{
+    const QString program = QCoreApplication::applicationName();
+    const QString name = m_document.displayName();
+    m_window->setWindowTitle(name.isEmpty() ? program
+                                            : QStringLiteral("%1[*] \u2013 %2").arg(name, program));
+    m_window->setWindowModified(m_document.isModified());
+}
+
+void DocumentActions::onResumed()
+{
+    if (!mayLeave())
+        return;
+    m_document.replace(m_resume.take(), QString());
+    emit opened();
+}
+
+bool DocumentActions::mayClose(bool generating, bool uploading)
+{
+    return mayStopWork(generating, uploading) && mayLeave();
 }
 
 bool DocumentActions::isDocument(const QString &path)
@@ -63,6 +97,49 @@ bool DocumentActions::mayLeave()
     default:
         return false;
     }
+}
+
+bool DocumentActions::mayStopWork(bool generating, bool uploading)
+{
+    if (!generating && !uploading)
+        return true;
+    MessageDialog::Message message;
+    message.kind = MessageDialog::Kind::Warning;
+    message.title = tr("Close the program");
+    message.text =
+        generating
+            ? tr("A video is being made. If you close the program now, it is lost.")
+            : tr("A video is being uploaded. If you close the program now, it is not completed.");
+    message.buttons = QStringList{tr("STOP AND CLOSE"), tr("GO ON")};
+    message.defaultButton = 1;
+    return MessageDialog::ask(m_window, message).button == 0;
+}
+
+void DocumentActions::offerRestore(Autosave &autosave)
+{
+    Autosave::Found found = autosave.find(m_settings);
+    if (!found.project) {
+        autosave.clear();
+        return;
+    }
+    const QString name =
+        found.path.isEmpty() ? found.project->name() : QFileInfo(found.path).completeBaseName();
+    enum Button { Discard, Restore };
+    MessageDialog::Message message;
+    message.kind = MessageDialog::Kind::Question;
+    message.title = tr("Restore the slideshow");
+    message.text =
+        tr("The program ended before \"%1\" was saved. Do you want to restore it?").arg(name);
+    message.buttons = QStringList{tr("DISCARD"), tr("RESTORE")};
+    message.defaultButton = Restore;
+    message.cancelButton = Restore;
+    qCInfo(lcUi) << "Offer to restore unsaved changes";
+    if (MessageDialog::ask(m_window, message).button == Discard) {
+        autosave.clear();
+        return;
+    }
+    m_document.replace(std::move(found.project), found.path, true);
+    emit opened();
 }
 
 bool DocumentActions::openFile(const QString &path)

@@ -63,11 +63,24 @@ MainMenu::MainMenu(QWidget *window)
     retranslate();
 }
 
-void MainMenu::setProjectActionsEnabled(bool enabled)
+void MainMenu::setGenerating(bool generating)
 {
-    for (QAction *action :
-         {newProject, open, save, saveAs, title, addPhoto, addFolder, history, settings})
-        action->setEnabled(enabled);
+    m_generating = generating;
+    updateActions();
+}
+
+void MainMenu::setTextEditing(bool editing)
+{
+    m_textEditing = editing;
+    updateActions();
+}
+
+void MainMenu::updateActions()
+{
+    for (QAction *action : {newProject, open, save, saveAs, title, history, settings})
+        action->setEnabled(!m_generating);
+    for (QAction *action : {addPhoto, addFolder})
+        action->setEnabled(!m_generating && !m_textEditing);
 }
 
 void MainMenu::retranslate()

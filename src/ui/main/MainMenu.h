@@ -33,16 +33,21 @@ public:
     QAction *const site;
     QAction *const quit;
 
-    /// Switches what must not happen during a render.
-    void setProjectActionsEnabled(bool enabled);
+    /// During a render nothing may change the project or leave the editor page.
+    void setGenerating(bool generating);
+    /// While a caption is edited no photos are added.
+    void setTextEditing(bool editing);
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
     void retranslate();
+    void updateActions();
 
     QMenu m_menu;
+    bool m_generating = false;
+    bool m_textEditing = false;
 };
 
 } // namespace velmora

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "chrome/CorWindow.h"
-#include "ui/main/WebPages.h"
+#include "ui/main/LastVideo.h"
 
 #include <QStringList>
 
@@ -19,12 +19,12 @@ class Autosave;
 class DesktopNotification;
 class DocumentActions;
 class FileManager;
+class HelpPages;
 class HistoryStore;
 class HistoryWidget;
 class MainMenu;
 class MainWindowWidget;
 class ProjectDocument;
-class ProjectResume;
 class ServicesConfig;
 class SettingsWidget;
 class StartPage;
@@ -96,41 +96,36 @@ signals:
     void settingsSaved(); ///< The user changed the settings; language and services may differ.
 
 protected:
-    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
     void setUpPages();
-    void setUpMenu();
+    void connectTools();
     void connectStartPage();
     void connectEditor();
     void connectHistory();
     void showPage(Page page);
-    void showEditorOrStart();
+    void leaveHistory();
     void addFiles(const QStringList &files);
     void bringToFront();
-    void showHelp();
-    void updateTitle();
     void updateLastVideo();
-    QString lastVideo() const;
-    bool mayStopWork();
     void tellInBackground(const QString &title, const QString &text);
 
     Parts m_parts;
-    WebPages m_web;
+    MainMenu *m_menu;
+    HelpPages *m_help;
+    LastVideo m_lastVideo;
     ToolRow *m_tools;
     QStackedWidget *m_stack;
     StartPage *m_start;
     MainWindowWidget *m_editor;
     HistoryWidget *m_history;
     SettingsWidget *m_settingsPanel;
-    MainMenu *m_menu;
     std::unique_ptr<ProjectDocument> m_document;
     std::unique_ptr<Autosave> m_autosave;
     DocumentActions *m_actions;
-    ProjectResume *m_resume;
     QStringList m_dropped; ///< The files of the drop in work.
     bool m_generating = false;
 };

@@ -48,7 +48,7 @@ bool wantsToResume(QWidget *window, const QStringList &missing)
 } // namespace
 
 ProjectResume::ProjectResume(const AppSettings &settings, QWidget *window)
-    : QObject(window), m_settings(settings), m_window(window)
+    : m_settings(settings), m_window(window)
 {
     connect(&m_search, &QFutureWatcher<QStringList>::finished, this, &ProjectResume::onLooked);
 }

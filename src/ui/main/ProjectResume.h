@@ -22,7 +22,7 @@ class ProjectResume : public QObject
 {
     Q_OBJECT
 public:
-    /// The question is shown above @p window, the parent.
+    /// The question is shown above @p window.
     ProjectResume(const AppSettings &settings, QWidget *window);
     ~ProjectResume() override;
 

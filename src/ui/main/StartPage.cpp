@@ -3,6 +3,7 @@
 
 #include "chrome/DropArea.h"
 #include "chrome/Theme.h"
+#include "ui/main/MainMenu.h"
 #include "ui/main/ShortcutKeys.h"
 
 #include <QEvent>
@@ -31,7 +32,8 @@ QWidget *createRow(QWidget *parent)
 
 } // namespace
 
-StartPage::StartPage(QWidget *parent) : QWidget(parent), m_dropArea(new DropArea(this))
+StartPage::StartPage(const MainMenu &menu, QWidget *parent)
+    : QWidget(parent), m_dropArea(new DropArea(this))
 {
     setObjectName(QStringLiteral("startPage"));
     m_dropArea->setObjectName(QStringLiteral("dropArea"));
@@ -50,13 +52,13 @@ StartPage::StartPage(QWidget *parent) : QWidget(parent), m_dropArea(new DropArea
     layout->addWidget(m_dropArea, 1);
     layout->addWidget(more);
 
-    connect(m_dropArea, &DropArea::activated, this, &StartPage::addPhotoClicked);
+    connect(m_dropArea, &DropArea::activated, menu.addPhoto, &QAction::trigger);
     connect(m_dropArea, &DropArea::dropBegin, this, &StartPage::dropBegin);
     connect(m_dropArea, &DropArea::fileDropped, this, &StartPage::fileDropped);
     connect(m_dropArea, &DropArea::dropEnd, this, &StartPage::dropEnd);
-    connect(m_addPhoto, &QPushButton::clicked, this, &StartPage::addPhotoClicked);
-    connect(m_addFolder, &QPushButton::clicked, this, &StartPage::addFolderClicked);
-    connect(m_open, &QPushButton::clicked, this, &StartPage::openClicked);
+    connect(m_addPhoto, &QPushButton::clicked, menu.addPhoto, &QAction::trigger);
+    connect(m_addFolder, &QPushButton::clicked, menu.addFolder, &QAction::trigger);
+    connect(m_open, &QPushButton::clicked, menu.open, &QAction::trigger);
     connect(m_recent, &QPushButton::clicked, this, &StartPage::recentClicked);
     connect(m_samples, &QPushButton::clicked, this, &StartPage::samplesClicked);
     m_recent->hide();

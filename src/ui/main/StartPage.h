@@ -9,13 +9,15 @@ namespace velmora
 {
 
 class DropArea;
+class MainMenu;
 
 /// The page that invites to add photos, or to go on with something that is there. GUI thread.
 class StartPage : public QWidget
 {
     Q_OBJECT
 public:
-    explicit StartPage(QWidget *parent = nullptr);
+    /// The buttons trigger the actions of @p menu.
+    explicit StartPage(const MainMenu &menu, QWidget *parent = nullptr);
 
     /// Offers to go on with the slideshow of that name; empty: none.
     void setRecentName(const QString &name);
@@ -23,9 +25,6 @@ public:
     void setSamplesOffered(bool offered);
 
 signals:
-    void addPhotoClicked();
-    void addFolderClicked();
-    void openClicked();
     void recentClicked();
     void samplesClicked();
     /// As those of the drop area.

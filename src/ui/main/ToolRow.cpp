@@ -2,6 +2,7 @@
 #include "ui/main/ToolRow.h"
 
 #include "chrome/Theme.h"
+#include "ui/main/MainMenu.h"
 #include "ui/main/ShortcutKeys.h"
 #include "ui_ToolRow.h"
 
@@ -10,22 +11,22 @@
 namespace velmora
 {
 
-ToolRow::ToolRow(QWidget *parent) : QFrame(parent), m_ui(std::make_unique<Ui::ToolRow>())
+ToolRow::ToolRow(const MainMenu &menu, QWidget *parent)
+    : QFrame(parent), m_ui(std::make_unique<Ui::ToolRow>()), m_menu(menu)
 {
     m_ui->setupUi(this);
-    m_ui->btnAddFolder->setIcon(Theme::icon(QStringLiteral("add-folder")));
-    m_ui->btnHistory->setIcon(Theme::icon(QStringLiteral("history")));
-    m_ui->btnSettings->setIcon(Theme::icon(QStringLiteral("settings")));
+    const auto bind = [this](QPushButton *button, QAction *action, const char *icon) {
+        button->setIcon(Theme::icon(QLatin1String(icon)));
+        connect(button, &QPushButton::clicked, action, &QAction::trigger);
+        connect(action, &QAction::changed, this, &ToolRow::updateButtons);
+    };
+    bind(m_ui->btnAddFolder, menu.addFolder, "add-folder");
+    bind(m_ui->btnHistory, menu.history, "history");
+    bind(m_ui->btnSettings, menu.settings, "settings");
+    connect(menu.addPhoto, &QAction::changed, this, &ToolRow::updateButtons);
+    connect(m_ui->btnAddPhoto, &QPushButton::clicked, this,
+            [this] { (m_historyShown ? m_menu.back : m_menu.addPhoto)->trigger(); });
     m_ui->btnHelp->setIcon(Theme::icon(QStringLiteral("help")));
-    connect(m_ui->btnAddPhoto, &QPushButton::clicked, this, [this] {
-        if (m_historyShown)
-            emit backClicked();
-        else
-            emit addPhotoClicked();
-    });
-    connect(m_ui->btnAddFolder, &QPushButton::clicked, this, &ToolRow::addFolderClicked);
-    connect(m_ui->btnHistory, &QPushButton::clicked, this, &ToolRow::historyClicked);
-    connect(m_ui->btnSettings, &QPushButton::clicked, this, &ToolRow::settingsClicked);
     connect(m_ui->btnHelp, &QPushButton::clicked, this, &ToolRow::helpClicked);
     connect(m_ui->lblLastProject, &QLabel::linkActivated, this, &ToolRow::lastProjectClicked);
     setLastVideoKnown(false);
@@ -42,18 +43,6 @@ void ToolRow::setHistoryShown(bool shown)
     updateButtons();
 }
 
-void ToolRow::setProjectButtonsEnabled(bool enabled)
-{
-    m_projectEnabled = enabled;
-    updateButtons();
-}
-
-void ToolRow::setAddingEnabled(bool enabled)
-{
-    m_addingEnabled = enabled;
-    updateButtons();
-}
-
 void ToolRow::setLastVideoKnown(bool known)
 {
     m_ui->lblLastProject->setVisible(known);
@@ -61,10 +50,10 @@ void ToolRow::setLastVideoKnown(bool known)
 
 void ToolRow::updateButtons()
 {
-    m_ui->btnAddPhoto->setEnabled(m_projectEnabled && (m_addingEnabled || m_historyShown));
-    m_ui->btnAddFolder->setEnabled(m_projectEnabled && m_addingEnabled);
-    m_ui->btnHistory->setEnabled(m_projectEnabled && !m_historyShown);
-    m_ui->btnSettings->setEnabled(m_projectEnabled);
+    m_ui->btnAddPhoto->setEnabled(m_historyShown || m_menu.addPhoto->isEnabled());
+    m_ui->btnAddFolder->setEnabled(m_menu.addFolder->isEnabled());
+    m_ui->btnHistory->setEnabled(m_menu.history->isEnabled());
+    m_ui->btnSettings->setEnabled(m_menu.settings->isEnabled());
     m_ui->btnAddPhoto->setIcon(
         Theme::icon(m_historyShown ? QStringLiteral("back") : QStringLiteral("add-photo")));
 }
