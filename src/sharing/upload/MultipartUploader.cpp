@@ -3,9 +3,9 @@
 
 #include "sharing/SharingLog.h"
 #include "sharing/upload/net/HttpAnswer.h"
+#include "sharing/upload/net/OneTimeFile.h"
 #include "sharing/upload/wire/UploadAnswer.h"
 
-#include <QFile>
 #include <QHttpMultiPart>
 
 namespace velmora
@@ -31,7 +31,7 @@ void MultipartUploader::onToken(const QString &accessToken, const QString &refre
 void MultipartUploader::send()
 {
     auto body = std::make_unique<QHttpMultiPart>(QHttpMultiPart::MixedType);
-    auto *file = new QFile(fileName(), body.get());
+    auto *file = new OneTimeFile(fileName(), body.get());
     if (!file->open(QIODevice::ReadOnly)) {
         fail(tr("can't open source file for reading"));
         return;
