@@ -22,6 +22,7 @@ build_packages=(
     ninja-build
     pkg-config
     qtbase5-dev
+    qtkeychain-qt5-dev
     qtmultimedia5-dev
     qttools5-dev
     qttools5-dev-tools

@@ -21,13 +21,16 @@ class Secrets;
 /// Runs one upload at a time for whoever shows it: makes the service's uploader, signs the user in
 /// where that is needed and hands its signals on. Services are named by their keys "youtube",
 /// "googledrive" and "dropbox". Every upload ends in exactly one of finished(), failed() and
-/// canceled(), always after upload() has returned. GUI thread.
+/// canceled(), never before upload() has returned. GUI thread.
 class UploadController : public QObject
 {
     Q_OBJECT
 public:
     /// @p store keeps the protected tokens and must outlive the controller.
     UploadController(const ServicesConfig &services, QSettings &store, QObject *parent = nullptr);
+    /// The same with @p secrets in place of the platform's.
+    UploadController(const ServicesConfig &services, QSettings &store,
+                     std::unique_ptr<Secrets> secrets, QObject *parent = nullptr);
     ~UploadController() override;
 
     /// Whether the service's addresses and client identifier are configured. Without them an upload
@@ -52,16 +55,16 @@ signals:
     void canceled();                   ///< After cancel().
 
 private:
-    enum class End { Finished, Failed };
-
     void connectUploader();
-    void end(End how, const QString &first, const QString &second);
+    void endUnconfigured(const QString &serviceKey);
+    void releaseUploader();
 
     ServicesConfig m_services;
     QSettings &m_store;
     std::unique_ptr<Secrets> m_secrets;
     QPointer<BaseUploader> m_uploader;
     bool m_running = false;
+    bool m_canceling = false;
 };
 
 } // namespace velmora
