@@ -13,6 +13,7 @@ namespace
 {
 
 constexpr int kHeight = 36; // px
+constexpr int kIndent = 11; // px, as the header
 constexpr int kPadding = 8; // px
 constexpr int kArrow = 16;  // px
 constexpr int kVisibleValues = 16;
@@ -94,7 +95,7 @@ void ComboBoxItemDelegate::paintCell(QPainter &painter, const QStyleOptionViewIt
     painter.setPen(QColor(Theme::Text));
     const QRect arrow(area.right() + 1 - kPadding - kArrow,
                       area.top() + (area.height() - kArrow) / 2, kArrow, kArrow);
-    const QRect text(area.left() + kPadding, area.top(), arrow.left() - area.left() - kPadding - 2,
+    const QRect text(area.left() + kIndent, area.top(), arrow.left() - area.left() - kIndent - 2,
                      area.height());
     painter.drawText(
         text, Qt::AlignLeft | Qt::AlignVCenter,

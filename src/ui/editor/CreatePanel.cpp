@@ -58,6 +58,9 @@ CreatePanel::~CreatePanel() = default;
 void CreatePanel::setUpPages()
 {
     setProperty("card", true);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    for (QPushButton *button : {m_ui->btnCreate, m_ui->btnFullPreview, m_ui->btnPauseResume})
+        button->setIconSize({20, 20});
     const QKeySequence create(Qt::CTRL + Qt::Key_Return);
     const QKeySequence preview(Qt::CTRL + Qt::Key_P);
     m_ui->btnCreate->setProperty("primary", true);

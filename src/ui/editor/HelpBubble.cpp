@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QHelpEvent>
 #include <QToolTip>
+#include <QVariant>
 
 namespace velmora
 {

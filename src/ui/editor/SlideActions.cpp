@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QMenu>
+#include <QVariant>
 
 namespace velmora
 {
@@ -23,9 +24,9 @@ SlideActions::SlideActions(QWidget *page) : QObject(page), m_page(page)
                      kCtrlShift + Qt::Key_N);
     sortByDate = add("actSortByDate", tr("Sort photos by date taken"), QStringLiteral("clock"),
                      kCtrlShift + Qt::Key_D);
-    caption = add("actCaption", tr("Edit text"), QStringLiteral("edit"), Qt::CTRL + Qt::Key_T);
+    caption = add("actCaption", tr("Edit text"), QStringLiteral("edit"), Qt::Key_F2);
     captionOfAll = add("actCaptionOfAll", tr("Edit text style of all slides"),
-                       QStringLiteral("text"), kCtrlShift + Qt::Key_T);
+                       QStringLiteral("text"), Qt::SHIFT + Qt::Key_F2);
     time = add("actTime", tr("Set time"), QStringLiteral("clock"), Qt::ALT + Qt::Key_1);
     transition = add("actTransition", tr("Set transition"), QStringLiteral("transition"),
                      Qt::ALT + Qt::Key_2);
@@ -33,7 +34,7 @@ SlideActions::SlideActions(QWidget *page) : QObject(page), m_page(page)
     relocate =
         add("actRelocate", tr("Relocate..."), QStringLiteral("search"), kCtrlShift + Qt::Key_L);
     restore = add("actRestore", tr("Show the title slide again"), QStringLiteral("restore-title"),
-                  kCtrlShift + Qt::Key_S);
+                  kCtrlShift + Qt::Key_U);
     remove = add("actDelete", tr("Delete slides"), QStringLiteral("delete"), Qt::Key_Delete);
     clear = add("actClear", tr("Clear list"), QStringLiteral("clear"), kCtrlShift + Qt::Key_Delete);
 }

@@ -14,7 +14,8 @@ namespace velmora
 namespace
 {
 
-constexpr int kNumberWidth = 44; // px, with the bar of the selection
+constexpr int kIndent = 11;      // px, as the header
+constexpr int kNumberWidth = 40; // px, with the bar of the selection
 constexpr int kGap = 8;          // px
 constexpr double kRadius = 4;    // px
 constexpr QRgb kEmptyPhoto = 0xffe9edf1;
@@ -23,20 +24,20 @@ constexpr QRgb kEmptyPhoto = 0xffe9edf1;
 
 int SlideNumberDelegate::width()
 {
-    return kNumberWidth + SlideTableModel::kThumbnailBox.width() + 2 * kGap;
+    return kNumberWidth + SlideTableModel::kThumbnailBox.width() + kGap;
 }
 
 void SlideNumberDelegate::paintCell(QPainter &painter, const QStyleOptionViewItem &option,
                                     const QModelIndex &index) const
 {
     painter.setPen(QColor(Theme::SecondaryText));
-    const QRect number(option.rect.left() + 4, option.rect.top(), kNumberWidth - 4,
+    const QRect number(option.rect.left() + kIndent, option.rect.top(), kNumberWidth - kIndent,
                        option.rect.height());
-    painter.drawText(number, Qt::AlignCenter, index.data().toString());
+    painter.drawText(number, Qt::AlignLeft | Qt::AlignVCenter, index.data().toString());
     const QSize box = SlideTableModel::kThumbnailBox;
-    const QRect area(QPoint(number.right() + 1 + kGap / 2,
-                            option.rect.top() + (option.rect.height() - box.height()) / 2),
-                     box);
+    const QRect area(
+        QPoint(number.right() + 1, option.rect.top() + (option.rect.height() - box.height()) / 2),
+        box);
     paintThumbnail(painter, area, index);
 }
 

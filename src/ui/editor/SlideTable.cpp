@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/editor/SlideTable.h"
 
+#include "chrome/Theme.h"
 #include "ui/editor/ComboBoxItemDelegate.h"
 #include "ui/editor/SlideNumberDelegate.h"
 #include "ui/editor/SlideTextDelegate.h"
@@ -10,8 +11,11 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMouseEvent>
+#include <QPainterPath>
 #include <QScrollBar>
 #include <QToolTip>
+
+#include <algorithm>
 
 namespace velmora
 {
@@ -20,8 +24,8 @@ namespace
 {
 
 constexpr int kRowHeight = 80;        // px
-constexpr int kTimeWidth = 96;        // px
-constexpr int kTransitionWidth = 168; // px
+constexpr int kTimeWidth = 88;        // px
+constexpr int kTransitionWidth = 160; // px
 constexpr int kStep = 40;             // px that a step of the scroll bar moves
 
 } // namespace
@@ -196,7 +200,7 @@ void SlideTable::keyPressEvent(QKeyEvent *event)
         emit previewRequested();
     else if (index.isValid() && plain && opens && index.flags() & Qt::ItemIsEditable)
         edit(index);
-    else if (index.isValid() && plain && (opens || event->key() == Qt::Key_F2))
+    else if (index.isValid() && plain && opens)
         emit buttonClicked(SlideButton::Caption, index.row());
     else
         QTableViewEx::keyPressEvent(event);
@@ -211,6 +215,13 @@ void SlideTable::scrollContentsBy(int dx, int dy)
 void SlideTable::resizeEvent(QResizeEvent *event)
 {
     QTableViewEx::resizeEvent(event);
+    // Rows must not cover the round corners of the frame.
+    const QRect area = viewport()->rect();
+    const QRegion corners = QRegion(area) - QRegion(area.adjusted(0, 0, 0, -Theme::Radius));
+    QPainterPath round;
+    round.addRoundedRect(area.adjusted(0, -Theme::Radius, 0, 0), Theme::Radius, Theme::Radius);
+    const QRegion rounded(round.toFillPolygon().toPolygon());
+    viewport()->setMask((QRegion(area) - corners) + (corners & rounded));
     tellVisibleRows();
 }
 

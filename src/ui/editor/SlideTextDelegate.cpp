@@ -16,6 +16,7 @@ namespace velmora
 namespace
 {
 
+constexpr int kIndent = 11; // px, as the header
 constexpr int kMargin = 8;  // px
 constexpr int kButton = 32; // px
 constexpr int kIcon = 20;   // px

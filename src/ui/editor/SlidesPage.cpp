@@ -174,6 +174,10 @@ void SlidesPage::setUpButtons()
         tool->setToolButtonStyle(Qt::ToolButtonIconOnly);
         tool->setFocusPolicy(Qt::StrongFocus);
     }
+    for (QFrame *line : {m_ui->lineUndo, m_ui->lineOrder}) {
+        line->setFrameShape(QFrame::NoFrame);
+        line->setProperty("separator", true);
+    }
     updateSortButtonStyle();
 }
 
