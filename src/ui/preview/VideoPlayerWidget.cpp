@@ -196,7 +196,8 @@ PreviewScript::Pointer VideoPlayerWidget::makeScript() const
     if (!m_project)
         return nullptr;
     if (m_mode == Mode::Transition)
-        return PreviewScript::transition(*m_project, *m_item, m_settings, frameSize());
+        return m_item ? PreviewScript::transition(*m_project, *m_item, m_settings, frameSize())
+                      : nullptr;
     return PreviewScript::slideshow(*m_project, m_settings, frameSize());
 }
 
@@ -229,14 +230,17 @@ void VideoPlayerWidget::showStopped()
 
 void VideoPlayerWidget::refresh()
 {
+    if (m_initTimer.isActive()) {
+        const Mode mode = m_mode;
+        stop();
+        begin(mode);
+        return;
+    }
     if (m_ui->player->isStopped()) {
-        if (m_initTimer.isActive())
-            stop();
         showStopped();
         return;
     }
-    const bool gone = m_mode == Mode::Transition && (!m_item || !m_item->isShown());
-    const PreviewScript::Pointer script = gone ? nullptr : makeScript();
+    const PreviewScript::Pointer script = makeScript();
     if (!script) {
         stop();
         return;

@@ -184,7 +184,8 @@ void PreviewRendererTest::hiddenTitleIsLeftOut()
     QCOMPARE(PreviewScript::transition(*m_project->project, *photo, settings, kSize)->offset(),
              0.0);
     QVERIFY(render(PreviewScript::still(*m_project->project, *title, settings, kSize)));
-    QVERIFY(m_delivered.first().picture == SlideRenderer::bareFrame(*title, format()));
+    const QImage bare = SlideRenderer::bareFrame(*title, format());
+    QVERIFY(m_delivered.first().picture == SlideRenderer::captionedFrame(bare, *title));
 }
 
 void PreviewRendererTest::unreadablePhotoIsShownAsSuch()

@@ -308,7 +308,8 @@ void PreviewWidgetTest::playsWithMusic()
     m_editor->addAudio({{tone, QString()}}, -1);
     const LogCapture log;
     m_widget->playFull();
-    QTRY_VERIFY_WITH_TIMEOUT(player()->position() > 200, 20000);
+    const bool plays = QTest::qWaitFor([this] { return player()->position() > 200; }, 20000);
+    QVERIFY2(plays, qPrintable(log.lines().join(QLatin1Char('\n'))));
     const auto logged = [&log](const char *text) {
         return log.lines().filter(QLatin1String(text)).size();
     };
