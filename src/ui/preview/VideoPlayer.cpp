@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/preview/VideoPlayer.h"
 
-#include "chrome/Theme.h"
 #include "ui/UiLog.h"
 #include "ui/preview/PreviewRenderer.h"
 #include "ui/preview/Spinner.h"
-
-#include <QMouseEvent>
-#include <QPainter>
 
 #include <algorithm>
 #include <chrono>
@@ -268,6 +264,7 @@ void VideoPlayer::setWaiting(bool waiting)
 {
     m_waiting = waiting;
     updateSpinner();
+    update();
 }
 
 void VideoPlayer::updateSpinner()
@@ -279,64 +276,6 @@ QSize VideoPlayer::frameSize(const QSize &video) const
 {
     const QSize device = size() * devicePixelRatioF();
     return video.scaled(device, Qt::KeepAspectRatio).expandedTo({2, 2});
-}
-
-void VideoPlayer::setEmptyText(const QString &text)
-{
-    m_emptyText = text;
-    update();
-}
-
-void VideoPlayer::resizeEvent(QResizeEvent *)
-{
-    m_spinner->move(rect().center() - m_spinner->rect().center());
-    emit resized();
-}
-
-void VideoPlayer::mouseReleaseEvent(QMouseEvent *event)
-{
-    if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
-        emit clicked();
-}
-
-void VideoPlayer::paintEvent(QPaintEvent *)
-{
-    QPainter painter(this);
-    if (m_picture.isNull()) {
-        paintEmpty(painter);
-        return;
-    }
-    // In device pixels, so that pictures of the right size are copied and not scaled.
-    const qreal ratio = devicePixelRatioF();
-    const QSize device = size() * ratio;
-    painter.scale(1 / ratio, 1 / ratio);
-    painter.fillRect(QRect({0, 0}, device), Qt::black);
-    QRect target({0, 0}, m_picture.size().scaled(device, Qt::KeepAspectRatio));
-    target.moveCenter(QRect({0, 0}, device).center());
-    if (target.size() != m_picture.size())
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(target, m_picture);
-    if (!hasFocus())
-        return;
-    painter.setPen(QPen(QColor(Theme::Accent), 2 * ratio));
-    const int inset = qRound(ratio);
-    painter.drawRect(QRect({0, 0}, device).adjusted(inset, inset, -inset, -inset));
-}
-
-void VideoPlayer::paintEmpty(QPainter &painter) const
-{
-    constexpr int kIcon = 48; // px
-    painter.fillRect(rect(), QColor(Theme::Border));
-    if (m_emptyText.isEmpty())
-        return;
-    const QRect text = painter.boundingRect(rect().adjusted(16, 0, -16, 0),
-                                            Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
-    const int shift = (kIcon + 8) / 2;
-    const QRect icon(rect().center().x() - kIcon / 2, text.top() + shift - kIcon - 8, kIcon, kIcon);
-    Theme::icon(QStringLiteral("film")).paint(&painter, icon);
-    painter.setPen(QColor(Theme::SecondaryText));
-    painter.drawText(rect().adjusted(16, 2 * shift, -16, 0), Qt::AlignCenter | Qt::TextWordWrap,
-                     m_emptyText);
 }
 
 } // namespace velmora

@@ -4,7 +4,6 @@
 #include "ui/preview/FrameBuffer.h"
 #include "ui/preview/FrameSource.h"
 
-#include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
 
@@ -85,6 +84,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void enterEvent(QEvent *event) override;
+    void leaveEvent(QEvent *event) override;
 
 private:
     FrameBuffer &current() { return m_ring.at(static_cast<size_t>(m_current)); }
@@ -98,6 +99,8 @@ private:
     void take(FrameBuffer::Frame &frame);
     void moveToNextBuffer();
     void updateSpinner();
+    void paintPicture(QPainter &painter) const;
+    void paintPlaySign(QPainter &painter) const;
     void paintEmpty(QPainter &painter) const;
 
     const std::unique_ptr<FrameSource> m_source;
@@ -111,6 +114,7 @@ private:
     bool m_paused = false;
     bool m_generating = false;
     bool m_waiting = false;
+    bool m_hovered = false;
     qint64 m_lastTick = 0;
     int m_dropped = 0;
     QTimer m_timer;

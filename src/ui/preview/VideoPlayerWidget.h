@@ -79,6 +79,7 @@ private:
     void setUpControls();
     void connectAll();
     void begin(Mode mode);
+    const ProjectItem *firstShown() const;
     PreviewScript::Pointer makeScript() const;
     QSize frameSize() const;
     void showStopped();
