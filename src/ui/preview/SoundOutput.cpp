@@ -13,8 +13,9 @@ namespace velmora
 namespace
 {
 
-constexpr qint64 kDrift = 200;         // ms that sound and picture may be apart
-constexpr qint64 kSettlingTime = 2000; // ms; a moved sound needs some time to report its place
+constexpr qint64 kDrift = 100;         // ms that sound and picture may be apart
+constexpr qint64 kExact = 20;          // ms; not worth to move the sound for
+constexpr qint64 kSettlingTime = 1000; // ms; a moved sound needs some time to report its place
 
 } // namespace
 
@@ -41,13 +42,32 @@ bool SoundOutput::load(const QString &file)
     return m_player->isAvailable() && m_player->error() == QMediaPlayer::NoError;
 }
 
+bool SoundOutput::isLoaded() const
+{
+    return m_player && !m_player->media().isNull();
+}
+
+void SoundOutput::moveTo(qint64 position)
+{
+    if (qAbs(m_player->position() - position) > kExact)
+        m_player->setPosition(position);
+    m_sinceMove.start();
+}
+
+void SoundOutput::prepare(qint64 position)
+{
+    if (!isLoaded())
+        return;
+    moveTo(position);
+    m_player->pause();
+}
+
 void SoundOutput::play(qint64 position)
 {
-    if (!m_player || m_player->media().isNull())
+    if (!isLoaded())
         return;
-    m_player->setPosition(position);
+    moveTo(position);
     m_player->play();
-    m_sinceMove.start();
 }
 
 void SoundOutput::pause()
@@ -67,9 +87,11 @@ void SoundOutput::follow(qint64 position)
     if (!m_player || m_player->state() != QMediaPlayer::PlayingState ||
         m_sinceMove.elapsed() < kSettlingTime)
         return;
+    const qint64 drift = m_player->position() - position;
     const bool ended = position >= m_player->duration();
-    if (ended || qAbs(m_player->position() - position) <= kDrift)
+    if (ended || qAbs(drift) <= kDrift)
         return;
+    qCDebug(lcUi) << "the sound is ahead of the picture by" << drift << "ms";
     m_player->setPosition(position);
     m_sinceMove.start();
 }

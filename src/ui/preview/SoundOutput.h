@@ -22,6 +22,9 @@ public:
 
     /// Loads a file; empty: none. False when this system cannot play sound.
     bool load(const QString &file);
+    bool isLoaded() const;
+    /// Makes ready to play from @p position ms on, so that play() is heard at once.
+    void prepare(qint64 position);
     void play(qint64 position); ///< ms
     void pause();
     void stop();
@@ -36,6 +39,7 @@ public:
 private:
     void createPlayer();
     void applyVolume();
+    void moveTo(qint64 position);
 
     std::unique_ptr<QMediaPlayer> m_player; ///< Made with the first file: that loads much.
     QElapsedTimer m_sinceMove;

@@ -17,6 +17,7 @@ namespace
 {
 
 constexpr int kLongestWait = 1500; // ms, for the sound
+constexpr int kSoundStart = 200;   // ms that a loaded sound takes to be ready
 constexpr int kResizePause = 120;  // ms
 
 } // namespace
@@ -113,8 +114,11 @@ void VideoPlayerWidget::begin(Mode mode)
     showDuration(script->totalDuration());
     updateTitle();
     requireSound();
+    m_SoundPlayer->prepare(static_cast<qint64>(script->offset()));
     m_ui->player->setWaiting(m_sound.isPending());
-    m_initTimer.start(m_sound.isPending() ? kLongestWait : 0);
+    m_initTimer.start(m_sound.isPending()         ? kLongestWait
+                      : m_SoundPlayer->isLoaded() ? kSoundStart
+                                                  : 0);
     updateControls();
 }
 
@@ -244,10 +248,12 @@ void VideoPlayerWidget::updateAudio()
     }
     m_ui->lblSoundError->setText(m_sound.errorText());
     m_ui->lblSoundError->setVisible(!m_sound.errorText().isEmpty());
-    if (m_initTimer.isActive())
-        onInitTimerElapsed();
-    else if (isAdvancing())
+    if (m_initTimer.isActive()) {
+        m_SoundPlayer->prepare(static_cast<qint64>(m_ui->player->script()->offset()));
+        m_initTimer.start(kSoundStart);
+    } else if (isAdvancing()) {
         playSound();
+    }
 }
 
 void VideoPlayerWidget::playSound()
