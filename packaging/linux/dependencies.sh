@@ -43,6 +43,7 @@ run_packages=(
 )
 
 test_packages=(
+    dbus
     groff-base
     xvfb
 )

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/main/HelpDialog.h"
 
-#include "ui/main/ShortcutKeys.h"
-
+#include <QAction>
 #include <QGridLayout>
+#include <QKeySequence>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
@@ -22,35 +22,26 @@ struct Shortcut {
     QString text;
 };
 
-QVector<Shortcut> windowShortcuts()
+QVector<Shortcut> shortcutsOf(const QList<QAction *> &actions)
 {
-    return {{ShortcutKeys::newProject(), HelpDialog::tr("New slideshow")},
-            {ShortcutKeys::open(), HelpDialog::tr("Open a saved slideshow")},
-            {ShortcutKeys::save(), HelpDialog::tr("Save the slideshow")},
-            {ShortcutKeys::saveAs(), HelpDialog::tr("Save the slideshow under another name")},
-            {ShortcutKeys::title(), HelpDialog::tr("Set the title of the video")},
-            {ShortcutKeys::addPhoto(), HelpDialog::tr("Add photos")},
-            {ShortcutKeys::addFolder(), HelpDialog::tr("Add all photos of a folder")},
-            {ShortcutKeys::history(), HelpDialog::tr("Show the history")},
-            {ShortcutKeys::back(), HelpDialog::tr("Back to the slideshow")},
-            {ShortcutKeys::settings(), HelpDialog::tr("Settings")},
-            {ShortcutKeys::fullScreen(), HelpDialog::tr("Full screen on or off")},
-            {ShortcutKeys::help(), HelpDialog::tr("This help")},
-            {ShortcutKeys::quit(), HelpDialog::tr("Quit")}};
+    QVector<Shortcut> shortcuts;
+    for (const QAction *action : actions) {
+        QString text = action->text();
+        text.remove(QLatin1Char('&')).remove(QLatin1String("..."));
+        if (!action->shortcut().isEmpty() && !text.isEmpty())
+            shortcuts.append({action->shortcut(), text});
+    }
+    return shortcuts;
 }
 
-QVector<Shortcut> editorShortcuts()
+/// Keys of the editor page that are no actions.
+QVector<Shortcut> fixedShortcuts()
 {
-    return {{Qt::CTRL + Qt::Key_Z, HelpDialog::tr("Undo")},
-            {Qt::CTRL + Qt::Key_Y, HelpDialog::tr("Redo")},
-            {Qt::CTRL + Qt::Key_A, HelpDialog::tr("Select all slides")},
-            {Qt::Key_Delete, HelpDialog::tr("Delete the selected slides")},
-            {Qt::ALT + Qt::Key_Up, HelpDialog::tr("Move the selected slides up")},
-            {Qt::ALT + Qt::Key_Down, HelpDialog::tr("Move the selected slides down")},
-            {Qt::CTRL + Qt::Key_R, HelpDialog::tr("Rotate the selected photos")},
-            {Qt::CTRL + Qt::Key_Return, HelpDialog::tr("Save the text or the settings")},
-            {Qt::Key_Escape, HelpDialog::tr("Leave without saving")},
-            {Qt::Key_Space, HelpDialog::tr("Play or pause the preview")}};
+    return {{Qt::CTRL + Qt::Key_Return, HelpDialog::tr("Create the video, or save a text")},
+            {Qt::CTRL + Qt::Key_P, HelpDialog::tr("Preview the whole slideshow")},
+            {Qt::Key_Space, HelpDialog::tr("Play or pause the preview")},
+            {Qt::Key_M, HelpDialog::tr("Mute the preview")},
+            {Qt::Key_Escape, HelpDialog::tr("Leave without saving")}};
 }
 
 void addHeading(QGridLayout *grid, const QString &text)
@@ -74,34 +65,31 @@ void addShortcuts(QGridLayout *grid, const QVector<Shortcut> &shortcuts)
 
 } // namespace
 
-HelpDialog::HelpDialog(bool hasManual, QWidget *parent) : CorDialog(parent)
+HelpDialog::HelpDialog(const QList<QAction *> &windowActions, const QList<QAction *> &editorActions,
+                       bool hasManual, QWidget *parent)
+    : CorDialog(parent)
 {
     setObjectName(QStringLiteral("helpDialog"));
     setWindowTitle(tr("Help"));
-    auto *layout = new QVBoxLayout(content());
-    layout->setContentsMargins(24, 8, 24, 24);
-    layout->setSpacing(16);
-    layout->addWidget(createPage(), 1);
-    layout->addWidget(createButtons(hasManual));
-    resize(640, 640);
-}
-
-QWidget *HelpDialog::createPage()
-{
     auto *page = new QWidget;
-    auto *layout = new QVBoxLayout(page);
-    layout->setContentsMargins(0, 0, 12, 0);
-    layout->setSpacing(16);
-    layout->addWidget(createSteps());
-    layout->addWidget(createShortcuts());
-    layout->addStretch();
+    auto *pageLayout = new QVBoxLayout(page);
+    pageLayout->setContentsMargins(0, 0, 12, 0);
+    pageLayout->setSpacing(16);
+    pageLayout->addWidget(createSteps());
+    pageLayout->addWidget(createShortcuts(windowActions, editorActions));
+    pageLayout->addStretch();
     auto *scroll = new QScrollArea;
     scroll->setObjectName(QStringLiteral("scrollHelp"));
     scroll->setAccessibleName(tr("Help"));
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidget(page);
-    return scroll;
+    auto *layout = new QVBoxLayout(content());
+    layout->setContentsMargins(24, 8, 24, 24);
+    layout->setSpacing(16);
+    layout->addWidget(scroll, 1);
+    layout->addWidget(createButtons(hasManual));
+    resize(680, 640);
 }
 
 QWidget *HelpDialog::createSteps()
@@ -128,7 +116,8 @@ QWidget *HelpDialog::createSteps()
     return card;
 }
 
-QWidget *HelpDialog::createShortcuts()
+QWidget *HelpDialog::createShortcuts(const QList<QAction *> &windowActions,
+                                     const QList<QAction *> &editorActions)
 {
     auto *card = new QFrame;
     card->setProperty("card", true);
@@ -139,9 +128,9 @@ QWidget *HelpDialog::createShortcuts()
     grid->setColumnStretch(1, 1);
     grid->setColumnMinimumWidth(0, 128);
     addHeading(grid, tr("Keyboard shortcuts"));
-    addShortcuts(grid, windowShortcuts());
+    addShortcuts(grid, shortcutsOf(windowActions));
     addHeading(grid, tr("In the editor"));
-    addShortcuts(grid, editorShortcuts());
+    addShortcuts(grid, shortcutsOf(editorActions) + fixedShortcuts());
     return card;
 }
 

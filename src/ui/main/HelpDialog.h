@@ -3,7 +3,9 @@
 
 #include "chrome/CorDialog.h"
 
-class QGridLayout;
+#include <QList>
+
+class QAction;
 
 namespace velmora
 {
@@ -13,16 +15,17 @@ class HelpDialog : public CorDialog
 {
     Q_OBJECT
 public:
-    /// @p hasManual offers the manual's web page.
-    HelpDialog(bool hasManual, QWidget *parent);
+    /// Lists those actions that have keys. @p hasManual offers the manual's web page.
+    HelpDialog(const QList<QAction *> &windowActions, const QList<QAction *> &editorActions,
+               bool hasManual, QWidget *parent);
 
 signals:
     void manualClicked();
 
 private:
-    QWidget *createPage();
-    QWidget *createSteps();
-    QWidget *createShortcuts();
+    static QWidget *createSteps();
+    static QWidget *createShortcuts(const QList<QAction *> &windowActions,
+                                    const QList<QAction *> &editorActions);
     QWidget *createButtons(bool hasManual);
 };
 

@@ -8,6 +8,7 @@
 #include "ui/main/HelpDialog.h"
 #include "ui/main/MainView.h"
 
+#include <QAction>
 #include <QDesktopServices>
 #include <QUrl>
 #include <QWidget>
@@ -28,8 +29,8 @@ void browse(const QString &address, const QString &word)
 
 } // namespace
 
-HelpPages::HelpPages(const ServicesConfig &services, QWidget *window)
-    : QObject(window), m_services(services), m_window(window)
+HelpPages::HelpPages(const ServicesConfig &services, const QWidget &editor, QWidget *window)
+    : QObject(window), m_services(services), m_editor(editor), m_window(window)
 {
 }
 
@@ -58,7 +59,8 @@ void HelpPages::showManual(const QString &place)
 
 void HelpPages::showShortcuts(const QString &place)
 {
-    HelpDialog dialog(m_services.isConfigured(QStringLiteral("site/manual")), m_window);
+    const bool hasManual = m_services.isConfigured(QStringLiteral("site/manual"));
+    HelpDialog dialog(m_window->actions(), m_editor.findChildren<QAction *>(), hasManual, m_window);
     connect(&dialog, &HelpDialog::manualClicked, this, [this, place] { showManual(place); });
     dialog.exec();
 }

@@ -19,8 +19,9 @@ class HelpPages : public QObject
 {
     Q_OBJECT
 public:
-    /// @p services must outlive the object; dialogs are shown above @p window, the parent.
-    HelpPages(const ServicesConfig &services, QWidget *window);
+    /// @p services must outlive the object; dialogs are shown above @p window, the parent, whose
+    /// actions the help lists with those of @p editor.
+    HelpPages(const ServicesConfig &services, const QWidget &editor, QWidget *window);
 
     /// The place that stands for a page of the main window.
     static QString placeOfPage(int page);
@@ -31,6 +32,7 @@ public:
 
 private:
     const ServicesConfig &m_services;
+    const QWidget &m_editor;
     QWidget *m_window;
 };
 

@@ -30,11 +30,11 @@ namespace velmora
 {
 
 MainView::MainView(const Parts &parts)
-    : m_parts(parts), m_menu(new MainMenu(this)), m_help(new HelpPages(parts.services, this)),
-      m_lastVideo(parts.history, parts.fileManager), m_tools(new ToolRow(*m_menu)),
-      m_stack(new QStackedWidget), m_start(new StartPage(*m_menu)),
+    : m_parts(parts), m_menu(new MainMenu(this)), m_lastVideo(parts.history, parts.fileManager),
+      m_tools(new ToolRow(*m_menu)), m_stack(new QStackedWidget), m_start(new StartPage(*m_menu)),
       m_editor(new MainWindowWidget(parts.settings, parts.history)),
       m_history(new HistoryWidget(parts.history, parts.settings)), m_settingsPanel(nullptr),
+      m_help(new HelpPages(parts.services, *m_editor, this)),
       m_document(std::make_unique<ProjectDocument>(*m_editor, parts.settings)),
       m_autosave(std::make_unique<Autosave>(*m_document, m_editor->editor(), Paths::dataFolder(),
                                             Autosave::intervalOf(parts.store))),
@@ -157,7 +157,7 @@ void MainView::leaveHistory()
 
 void MainView::openFiles(const QStringList &files)
 {
-    if (m_generating)
+    if (m_editor->isGenerating())
         return;
     QStringList photos;
     for (const QString &file : files) {
@@ -212,7 +212,7 @@ void MainView::onSettingsHideFinished()
 
 void MainView::onSettingsUpdate()
 {
-    QMetaObject::invokeMethod(m_editor, "updateFromSettings");
+    m_editor->updateFromSettings();
     emit settingsSaved();
 }
 
@@ -244,7 +244,6 @@ void MainView::onFinished(const QString &fileName)
 
 void MainView::onProgressStarted()
 {
-    m_generating = true;
     m_menu->setGenerating(true);
     m_parts.taskbar.setValue(0);
     m_parts.taskbar.setVisible(true);
@@ -254,7 +253,6 @@ void MainView::onProgressStarted()
 void MainView::onProgressFinished()
 {
     qCDebug(lcUi) << "onProgressFinished";
-    m_generating = false;
     m_menu->setGenerating(false);
     m_parts.taskbar.setVisible(false);
 }
@@ -374,7 +372,7 @@ void MainView::tellInBackground(const QString &title, const QString &text)
 
 void MainView::closeEvent(QCloseEvent *event)
 {
-    if (!m_actions->mayClose(m_generating, m_history->isUploading())) {
+    if (!m_actions->mayClose(m_editor->isGenerating(), m_history->isUploading())) {
         event->ignore();
         return;
     }

@@ -115,7 +115,6 @@ private:
 
     Parts m_parts;
     MainMenu *m_menu;
-    HelpPages *m_help;
     LastVideo m_lastVideo;
     ToolRow *m_tools;
     QStackedWidget *m_stack;
@@ -123,11 +122,11 @@ private:
     MainWindowWidget *m_editor;
     HistoryWidget *m_history;
     SettingsWidget *m_settingsPanel;
+    HelpPages *m_help;
     std::unique_ptr<ProjectDocument> m_document;
     std::unique_ptr<Autosave> m_autosave;
     DocumentActions *m_actions;
     QStringList m_dropped; ///< The files of the drop in work.
-    bool m_generating = false;
 };
 
 } // namespace velmora

@@ -30,7 +30,7 @@ QStringList StartMessage::files(const QString &message)
     QStringList paths;
     for (const QString &line : qAsConst(lines)) {
         const QUrl address(line, QUrl::StrictMode);
-        if (address.isLocalFile())
+        if (address.isLocalFile() && !address.path().isEmpty())
             paths.append(address.toLocalFile());
     }
     return paths;

@@ -237,6 +237,14 @@ void SettingsWidget::place()
     update();
 }
 
+bool SettingsWidget::event(QEvent *event)
+{
+    // The window behind must not act on keys that are meant for the panel.
+    if (event->type() == QEvent::ShortcutOverride)
+        event->accept();
+    return QWidget::event(event);
+}
+
 bool SettingsWidget::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == parentWidget() && event->type() == QEvent::Resize && isVisible()) {

@@ -47,6 +47,7 @@ signals:
     void hidden(); ///< Once per open(): the panel has slid out.
 
 protected:
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
