@@ -27,10 +27,7 @@ PreviewWidget::PreviewWidget(ProjectEditor &editor, const AppSettings &settings,
     layout->addWidget(m_player);
     m_changes.setSingleShot(true);
     connect(&m_changes, &QTimer::timeout, m_player, &VideoPlayerWidget::refresh);
-    connect(&editor, &ProjectEditor::projectChanged, this, [this] {
-        m_changes.stop();
-        m_player->setProject(m_editor.project());
-    });
+    connect(&editor, &ProjectEditor::projectChanged, this, &PreviewWidget::takeProject);
     connect(&editor, &ProjectEditor::slidesChanged, this, &PreviewWidget::onSlidesChanged);
     const auto refreshSoon = [this] { m_changes.start(); };
     connect(&editor, &ProjectEditor::slideChanged, this, refreshSoon);
@@ -38,7 +35,8 @@ PreviewWidget::PreviewWidget(ProjectEditor &editor, const AppSettings &settings,
     connect(&editor, &ProjectEditor::audioChanged, this, refreshSoon);
     connect(m_player, &VideoPlayerWidget::clicked, this, &PreviewWidget::previewClicked);
     connect(m_player, &VideoPlayerWidget::fullSizeToggled, this, &PreviewWidget::toggleFullSize);
-    m_player->setProject(editor.project());
+    m_project = editor.project();
+    m_player->setProject(m_project);
 }
 
 PreviewWidget::~PreviewWidget() = default;
@@ -48,8 +46,20 @@ bool PreviewWidget::isPlaying() const
     return m_player->isPlaying();
 }
 
+/// The slide table may hear of another project, and select its first slide, before or after the
+/// preview does.
+void PreviewWidget::takeProject()
+{
+    if (m_project == m_editor.project())
+        return;
+    m_project = m_editor.project();
+    m_changes.stop();
+    m_player->setProject(m_project);
+}
+
 void PreviewWidget::setSlide(ProjectItem *slide)
 {
+    takeProject();
     m_player->setSlide(slide);
 }
 

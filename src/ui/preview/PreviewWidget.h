@@ -9,6 +9,7 @@ namespace velmora
 
 struct AppSettings;
 class ProjectEditor;
+class ProjectFile;
 class ProjectItem;
 class VideoPlayerWidget;
 
@@ -39,12 +40,14 @@ signals:
     void previewClicked();
 
 private:
+    void takeProject();
     void onSlidesChanged();
     void toggleFullSize();
 
     ProjectEditor &m_editor;
     VideoPlayerWidget *m_player;
-    QTimer m_changes; ///< Several changes at once are followed once.
+    ProjectFile *m_project = nullptr; ///< The one that the player has.
+    QTimer m_changes;                 ///< Several changes at once are followed once.
 };
 
 } // namespace velmora
