@@ -88,6 +88,13 @@ public:
     }
     void click(const char *name) const { QTest::mouseClick(child<QWidget>(name), Qt::LeftButton); }
 
+    /// Presses a key in the window, which a closed dialog may have left inactive.
+    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        QApplication::setActiveWindow(view.get());
+        QTest::keyClick(view.get(), static_cast<Qt::Key>(key), modifiers);
+    }
+
     QString makePhoto(const QString &name) const
     {
         QImage image(64, 48, QImage::Format_RGB32);

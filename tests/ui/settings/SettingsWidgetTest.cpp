@@ -251,8 +251,10 @@ private slots:
         PseudoTranslator translator;
         qApp->installTranslator(&translator);
         QTRY_COMPARE(child<QPushButton>("btnSave")->text(), PseudoTranslator::of("SAVE"));
-        QCOMPARE(PseudoTranslator::untranslated(*m_panel, {QStringLiteral("English")}),
-                 QStringList());
+        QCOMPARE(PseudoTranslator::untranslated(
+                     *m_panel, {QStringLiteral("English"), QStringLiteral("1920x1080")})
+                     .join(QLatin1Char('\n')),
+                 QString());
         QCOMPARE(child<QPopupButton>("btnTime")->value().toInt(), 7);
         qApp->removeTranslator(&translator);
         QTRY_COMPARE(child<QPushButton>("btnSave")->text(), QStringLiteral("SAVE"));
