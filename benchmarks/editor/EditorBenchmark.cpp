@@ -19,6 +19,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 #include <QUndoStack>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>

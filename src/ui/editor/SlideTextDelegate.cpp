@@ -144,7 +144,7 @@ void SlideTextDelegate::paintMissing(QPainter &painter, const Layout &layout,
     const QRect above(layout.text.left(), layout.text.top(), layout.text.width(),
                       layout.text.height() / 2);
     painter.setPen(QColor(Theme::Danger));
-    const QString text = tr("%1 is missing").arg(index.data(SlideTableModel::TitleRole).toString());
+    const QString text = tr("Missing: %1").arg(index.data(SlideTableModel::TitleRole).toString());
     painter.drawText(above, Qt::AlignLeft | Qt::AlignBottom,
                      metrics.elidedText(text, Qt::ElideMiddle, above.width()));
     paintButtonFrame(painter, layout.relocate, index, SlideButton::Relocate, false);
