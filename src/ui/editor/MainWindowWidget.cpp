@@ -29,7 +29,7 @@ namespace
 constexpr int kGap = 16;              // px
 constexpr int kSmallestSide = 352;    // px
 constexpr int kWidestSide = 672;      // px
-constexpr double kSideShare = 0.36;   // of the page's width
+constexpr double kSideShare = 0.34;   // of the page's width
 constexpr int kHeightForAll = 860;    // px of the page with room for all groups of settings
 constexpr int kPreviewControls = 104; // px below and above the preview's picture
 

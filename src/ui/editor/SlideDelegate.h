@@ -52,3 +52,5 @@ private:
 };
 
 } // namespace velmora
+
+Q_DECLARE_METATYPE(velmora::SlideButton)

@@ -33,16 +33,16 @@ SlideButton removeButton(const QModelIndex &index)
 
 } // namespace
 
-SlideTextDelegate::Layout SlideTextDelegate::layOut(const QRect &cell,
-                                                    const QModelIndex &index) const
+SlideTextDelegate::Layout SlideTextDelegate::layOut(const QRect &cell, const QModelIndex &index,
+                                                    bool active) const
 {
     Layout layout;
     const int top = cell.top() + (cell.height() - kButton) / 2;
-    layout.remove = QRect(cell.right() + 1 - kMargin - kButton, top, kButton, kButton);
-    layout.caption = layout.remove.translated(-kButton, 0);
-    layout.text =
-        QRect(cell.left() + kMargin, cell.top() + kMargin,
-              layout.caption.left() - kMargin - cell.left() - kMargin, cell.height() - 2 * kMargin);
+    layout.caption = QRect(cell.right() + 1 - kMargin - kButton, top, kButton, kButton);
+    layout.remove = layout.caption.translated(-kButton, 0);
+    const int right = active ? layout.remove.left() : layout.caption.left();
+    layout.text = QRect(cell.left() + kIndent, cell.top() + kMargin,
+                        right - kMargin - cell.left() - kIndent, cell.height() - 2 * kMargin);
     if (index.data(SlideTableModel::MissingRole).toBool()) {
         const QFontMetrics metrics(QApplication::font());
         const int width = metrics.horizontalAdvance(tr("Relocate...")) + 2 * kMargin;
@@ -84,19 +84,19 @@ QString SlideTextDelegate::buttonText(SlideButton button, const QModelIndex &) c
 void SlideTextDelegate::paintCell(QPainter &painter, const QStyleOptionViewItem &option,
                                   const QModelIndex &index) const
 {
-    const Layout layout = layOut(option.rect, index);
+    const bool focused = option.state & QStyle::State_HasFocus;
+    const bool active =
+        isRowHovered(index) || option.state & QStyle::State_Selected || isHiddenTitle(index);
+    const Layout layout = layOut(option.rect, index, active);
     if (layout.relocate.isNull())
         paintTexts(painter, layout.text, index);
     else
         paintMissing(painter, layout, index);
-
-    const bool focused = option.state & QStyle::State_HasFocus;
-    const bool active = isRowHovered(index) || option.state & QStyle::State_Selected;
     paintButtonFrame(painter, layout.caption, index, SlideButton::Caption, focused);
     if (!active)
         painter.setOpacity(painter.opacity() * 0.5);
     paintIcon(painter, layout.caption, QStringLiteral("edit"));
-    if (!active && !isHiddenTitle(index))
+    if (!active)
         return;
     painter.setOpacity(1);
     const SlideButton button = removeButton(index);
@@ -144,7 +144,7 @@ void SlideTextDelegate::paintMissing(QPainter &painter, const Layout &layout,
     const QRect above(layout.text.left(), layout.text.top(), layout.text.width(),
                       layout.text.height() / 2);
     painter.setPen(QColor(Theme::Danger));
-    const QString text = tr("%1 is missing").arg(index.data(SlideTableModel::TitleRole).toString());
+    const QString text = tr("Missing: %1").arg(index.data(SlideTableModel::TitleRole).toString());
     painter.drawText(above, Qt::AlignLeft | Qt::AlignBottom,
                      metrics.elidedText(text, Qt::ElideMiddle, above.width()));
     paintButtonFrame(painter, layout.relocate, index, SlideButton::Relocate, false);

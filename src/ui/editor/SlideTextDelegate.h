@@ -29,7 +29,8 @@ private:
         QRect caption;
         QRect remove; ///< Also the button that shows a hidden title slide again.
     };
-    Layout layOut(const QRect &cell, const QModelIndex &index) const;
+    /// @p active: all buttons are shown; otherwise the text has the room of the last one.
+    Layout layOut(const QRect &cell, const QModelIndex &index, bool active = true) const;
     void paintTexts(QPainter &painter, const QRect &area, const QModelIndex &index) const;
     void paintMissing(QPainter &painter, const Layout &layout, const QModelIndex &index) const;
     void paintIcon(QPainter &painter, const QRect &area, const QString &name) const;

@@ -26,9 +26,11 @@ void WindowGeometry::restore(QWidget *window, const QSettings &store)
     if (window->restoreGeometry(store.value(key()).toByteArray()))
         return;
     constexpr QSize kComfortable(1360, 860);
+    constexpr qreal kShare = 0.75; // of a large screen
     const QScreen *screen = QGuiApplication::primaryScreen();
     const QRect available = screen ? screen->availableGeometry() : QRect({}, kComfortable);
-    const QSize size = kComfortable.boundedTo(available.size());
+    const QSize size =
+        kComfortable.expandedTo(available.size() * kShare).boundedTo(available.size());
     window->setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, available));
 }
 

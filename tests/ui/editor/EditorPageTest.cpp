@@ -205,8 +205,8 @@ private slots:
     {
         emit m->child<QPopupButton>("btnOutResolution")->valueSelected(QSize(1280, 1024));
         emit m->child<QPopupButton>("btnTransitionDuration")->valueSelected(3);
-        m->click("chkScaleToFit");
-        m->click("chkOrigRatio");
+        for (const char *name : {"chkScaleToFit", "chkOrigRatio"})
+            QTest::keyClick(m->child<QCheckBox>(name), Qt::Key_Space);
         QCOMPARE(m->project->resolution(), QSize(1280, 1024));
         QCOMPARE(m->settings.transitionTime, 3);
         QVERIFY(!m->project->scaleToFit());

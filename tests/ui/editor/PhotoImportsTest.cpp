@@ -48,7 +48,7 @@ private slots:
                 write(name + QStringLiteral(".png"), png);
         }
         m->page->addFolder(m->path("drop"));
-        QTRY_COMPARE_WITH_TIMEOUT(m->items().size(), 1 + 4000 - 10, 60000);
+        QTRY_COMPARE_WITH_TIMEOUT(m->items().size(), 1 + 5000 - 999 - 10, 60000);
         QTRY_VERIFY(report());
         QCOMPARE(report()->findChild<QPlainTextEdit *>()->toPlainText().count(QLatin1Char('\n')),
                  9);

@@ -162,25 +162,25 @@ private slots:
     {
         QSignalSpy clicked(&m->table(), &SlideTable::buttonClicked);
         m->select({1, 3});
-        clickAt(button(3, 1));
+        clickAt(button(3, 0));
         QCOMPARE(clicked.size(), 1);
         QCOMPARE(clicked.first().at(0).value<SlideButton>(), SlideButton::Caption);
         QCOMPARE(clicked.first().at(1).toInt(), 3);
         QCOMPARE(m->table().selectionModel()->selectedRows().size(), 2);
-        clickAt(button(2, 0));
+        clickAt(button(2, 1));
         QCOMPARE(letters(), QStringLiteral("acde"));
-        clickAt(button(0, 0));
+        clickAt(button(0, 1));
         QVERIFY(!m->items().first()->isShown());
-        clickAt(button(0, 0));
+        clickAt(button(0, 1));
         QVERIFY(m->items().first()->isShown());
     }
 
     void pressThatLeavesTheButtonDoesNothing()
     {
         QSignalSpy clicked(&m->table(), &SlideTable::buttonClicked);
-        QTest::mouseMove(m->table().viewport(), button(2, 0));
-        QTest::mousePress(m->table().viewport(), Qt::LeftButton, Qt::NoModifier, button(2, 0));
-        QTest::mouseRelease(m->table().viewport(), Qt::LeftButton, Qt::NoModifier, button(4, 0));
+        QTest::mouseMove(m->table().viewport(), button(2, 1));
+        QTest::mousePress(m->table().viewport(), Qt::LeftButton, Qt::NoModifier, button(2, 1));
+        QTest::mouseRelease(m->table().viewport(), Qt::LeftButton, Qt::NoModifier, button(4, 1));
         QCOMPARE(clicked.size(), 0);
         QCOMPARE(letters(), QStringLiteral("abcde"));
     }
