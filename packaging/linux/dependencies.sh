@@ -11,7 +11,9 @@ build_packages=(
     libavformat-dev
     libavutil-dev
     libboost-dev
+    libburn-dev
     libexiv2-dev
+    libisofs-dev
     libjpeg-dev
     libqt5networkauth5-dev
     libqt5svg5-dev
@@ -45,6 +47,7 @@ run_packages=(
 test_packages=(
     dbus
     groff-base
+    xorriso
     xvfb
 )
 
