@@ -5,6 +5,7 @@
 #include "chrome/TitleBar.h"
 #include "platform/DesktopNotification.h"
 #include "platform/TaskbarProgress.h"
+#include "sharing/burning/BurnDialog.h"
 #include "sharing/history/HistoryWidget.h"
 #include "ui/UiLog.h"
 #include "ui/editor/MainWindowWidget.h"
@@ -283,7 +284,7 @@ void MainView::onUploadProgressStarted()
 
 void MainView::onBurnDvd(const QString &diskTitle, const QString &fileName)
 {
-    m_history->onBurnProject(fileName, diskTitle);
+    BurnDialog::run(fileName, diskTitle, this);
 }
 
 void MainView::onPageChanged(int page)
