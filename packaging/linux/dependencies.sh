@@ -24,6 +24,7 @@ build_packages=(
     ninja-build
     pkg-config
     qtbase5-dev
+    qtkeychain-qt5-dev
     qtmultimedia5-dev
     qttools5-dev
     qttools5-dev-tools
@@ -34,7 +35,9 @@ run_packages=(
     fonts-droid-fallback
     fonts-noto-core
     fonts-open-sans
+    gstreamer1.0-alsa
     gstreamer1.0-libav
+    gstreamer1.0-plugins-base
     gstreamer1.0-plugins-good
     libqt5multimedia5-plugins
     libqt5svg5
@@ -42,6 +45,7 @@ run_packages=(
 )
 
 test_packages=(
+    dbus
     groff-base
     xorriso
     xvfb

@@ -1,21 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/editor/MainWindowWidget.h"
 
-#include "app/AppSettings.h"
+#include "chrome/Theme.h"
 #include "project/documents/ProjectFile.h"
 #include "ui/UiLog.h"
 #include "ui/editor/CreatePanel.h"
+#include "ui/editor/PhotoImports.h"
+#include "ui/editor/SettingsTabs.h"
+#include "ui/editor/SlideActions.h"
 #include "ui/editor/SlidesPage.h"
-#include "ui/model/ValueLists.h"
-#include "ui_SettingsFrames.h"
+#include "ui/editor/VideoSettingsFrame.h"
+#include "ui/preview/PreviewWidget.h"
 
-#include <QDir>
+#include <QAction>
 #include <QHBoxLayout>
-#include <QMessageBox>
-#include <QShortcut>
+#include <QResizeEvent>
 #include <QStackedWidget>
 #include <QUndoStack>
-#include <QWhatsThis>
+
+#include <algorithm>
 
 namespace velmora
 {
@@ -23,159 +26,158 @@ namespace velmora
 namespace
 {
 
-constexpr int kGap = 16;        // px
-constexpr int kSideWidth = 360; // px
+constexpr int kGap = 16;              // px
+constexpr int kSmallestSide = 352;    // px
+constexpr int kWidestSide = 672;      // px
+constexpr double kSideShare = 0.34;   // of the page's width
+constexpr int kHeightForAll = 860;    // px of the page with room for all groups of settings
+constexpr int kPreviewControls = 104; // px below and above the preview's picture
 
 } // namespace
 
 MainWindowWidget::MainWindowWidget(AppSettings &settings, HistoryStore &history, QWidget *parent)
     : QWidget(parent), m_settings(settings), m_editor(settings),
-      m_ui(std::make_unique<Ui::SettingsFrames>()), m_frames(new QWidget(this)),
-      m_slides(new SlidesPage(m_editor, settings, this)),
-      m_create(new CreatePanel(m_editor, settings, history, this)),
+      m_undo(m_editor.undoStack()->createUndoAction(this)),
+      m_redo(m_editor.undoStack()->createRedoAction(this)),
+      m_slides(new SlidesPage(m_editor, settings)),
+      m_imports(new PhotoImports(m_editor, m_slides->busyNote(), this)),
+      m_preview(new PreviewWidget(m_editor, settings)),
+      m_video(new VideoSettingsFrame(m_editor, settings)), m_groups(new SettingsTabs),
+      m_create(new CreatePanel(m_editor, settings, history)), m_side(new QWidget(this)),
       m_stack(new QStackedWidget(this))
 {
-    m_ui->setupUi(m_frames);
     setUpLayout();
-    setUpSettings();
-    setUpHelp();
-    connect(m_create, &CreatePanel::progressStarted, this, [this] {
-        m_stack->setEnabled(false);
-        m_frames->setEnabled(false);
-        emit progressStarted();
-    });
-    connect(m_create, &CreatePanel::progressFinished, this, [this] {
-        m_stack->setEnabled(true);
-        m_frames->setEnabled(true);
-        emit progressFinished();
-    });
-    connect(m_create, &CreatePanel::progress, this, &MainWindowWidget::progress);
-    connect(m_create, &CreatePanel::finished, this, &MainWindowWidget::finished);
-    connect(m_slides, &SlidesPage::rotateChanged, this, &MainWindowWidget::rotateChanged);
-    connect(&m_importer, &PhotoImporter::finished, this, &MainWindowWidget::onImported);
-    const auto *undo = new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_Z), this);
-    const auto *redo = new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_Y), this);
-    // An edit during a render would not be in the video; its history entry must match it.
-    connect(undo, &QShortcut::activated, this, [this] {
-        if (m_stack->isEnabled())
-            m_editor.undoStack()->undo();
-    });
-    connect(redo, &QShortcut::activated, this, [this] {
-        if (m_stack->isEnabled())
-            m_editor.undoStack()->redo();
-    });
+    setUpUndo();
+    connectParts();
 }
 
 MainWindowWidget::~MainWindowWidget() = default;
 
 void MainWindowWidget::setUpLayout()
 {
-    auto *textPage = new QWidget;
-    textPage->setObjectName(QStringLiteral("pageText"));
     m_slides->setObjectName(QStringLiteral("pageTable"));
     m_stack->setObjectName(QStringLiteral("slideStack"));
     m_stack->addWidget(m_slides);
-    m_stack->addWidget(textPage);
-    auto *side = new QWidget(this);
-    side->setFixedWidth(kSideWidth);
-    auto *column = new QVBoxLayout(side);
+    m_groups->addGroup(tr("Video"), m_video, 0);
+    connect(m_groups, &SettingsTabs::allShownChanged, m_video,
+            &VideoSettingsFrame::setHeadingVisible);
+    m_video->setHeadingVisible(false);
+    auto *column = new QVBoxLayout(m_side);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(kGap);
-    auto *preview = new QWidget;
-    preview->setObjectName(QStringLiteral("previewHost"));
-    column->addWidget(preview, 1);
-    column->addWidget(m_frames);
+    column->addWidget(m_preview, 1);
+    column->addWidget(m_groups);
     column->addWidget(m_create);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(kGap, kGap, kGap, kGap);
     row->setSpacing(kGap);
     row->addWidget(m_stack, 1);
-    row->addWidget(side);
+    row->addWidget(m_side);
 }
 
-void MainWindowWidget::setUpSettings()
+void MainWindowWidget::setUpUndo()
 {
-    m_ui->btnOutResolution->setValues(ValueLists::resolutions());
-    m_ui->btnTransitionDuration->setValues(ValueLists::transitionLengths());
-    m_ui->btnSetOffset->setValues(ValueLists::offsets());
-    m_ui->btnSetFade->setValues(ValueLists::fades());
-    connect(m_ui->btnOutResolution, &QPopupButton::valueSelected, this,
-            &MainWindowWidget::onResolutionChanged);
-    connect(m_ui->btnTransitionDuration, &QPopupButton::valueSelected, this,
-            &MainWindowWidget::onTransitionDurationChanged);
-    connect(m_ui->btnSetOffset, &QPopupButton::valueSelected, this,
-            &MainWindowWidget::onOffsetChanged);
-    connect(m_ui->btnSetFade, &QPopupButton::valueSelected, this, &MainWindowWidget::onFadeChanged);
-    connect(m_ui->btnLoopAudio, &QPushButton::clicked, this, &MainWindowWidget::onAudioLoopClicked);
-    connect(m_ui->chkOrigRatio, &QCheckBox::clicked, &m_editor, &ProjectEditor::setOrigRatio);
-    connect(m_ui->chkScaleToFit, &QCheckBox::clicked, &m_editor, &ProjectEditor::setScaleToFit);
-    connect(&m_editor, &ProjectEditor::projectChanged, this, &MainWindowWidget::updateSettings);
-    connect(&m_editor, &ProjectEditor::settingsChanged, this, &MainWindowWidget::updateSettings);
-}
-
-void MainWindowWidget::setUpHelp()
-{
-    for (QPushButton *button : {m_ui->btnHelpScale, m_ui->btnHelpRatio, m_ui->btnHelpResolution,
-                                m_ui->btnHelpTransition, m_ui->btnHelpOffset, m_ui->btnHelpFade}) {
-        button->setFixedWidth(32);
-        connect(button, &QPushButton::clicked, button, [button] {
-            QWhatsThis::showText(button->mapToGlobal(button->rect().center()), button->toolTip(),
-                                 button);
-        });
+    m_undo->setObjectName(QStringLiteral("actUndo"));
+    m_redo->setObjectName(QStringLiteral("actRedo"));
+    m_undo->setShortcut(Qt::CTRL + Qt::Key_Z);
+    m_redo->setShortcuts({Qt::CTRL + Qt::Key_Y, Qt::CTRL + Qt::SHIFT + Qt::Key_Z});
+    m_undo->setIcon(Theme::icon(QStringLiteral("undo")));
+    m_redo->setIcon(Theme::icon(QStringLiteral("redo")));
+    for (QAction *action : {m_undo, m_redo}) {
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        addAction(action);
     }
+    connect(m_editor.undoStack(), &QUndoStack::indexChanged, this,
+            &MainWindowWidget::updateUndoTips);
+    updateUndoTips();
+    m_slides->setUndoActions(m_undo, m_redo);
 }
 
-void MainWindowWidget::updateSettings()
+/// "Undo: Move slides (Ctrl+Z)"
+void MainWindowWidget::updateUndoTips()
 {
-    const ProjectFile *project = m_editor.project();
-    if (!project)
-        return;
-    m_ui->btnOutResolution->setValue(project->resolution(),
-                                     resolutionToText(project->resolution()));
-    m_ui->btnTransitionDuration->setValue(m_settings.transitionTime,
-                                          ValueLists::secondsText(m_settings.transitionTime));
-    m_ui->btnSetOffset->setValue(project->audio().offset,
-                                 ValueLists::secondsText(project->audio().offset));
-    m_ui->btnSetFade->setValue(project->audioFade(), ValueLists::secondsText(project->audioFade()));
-    m_ui->btnLoopAudio->setChecked(project->audioLoop());
-    m_ui->chkOrigRatio->setChecked(project->origRatio());
-    m_ui->chkScaleToFit->setChecked(project->scaleToFit());
+    const auto tip = [](QAction *action, const QString &name, const QString &step) {
+        const QString text =
+            step.isEmpty() ? name : tr("%1: %2", "undo or redo, and what").arg(name, step);
+        action->setToolTip(SlideActions::toolTip(text, action->shortcut()));
+    };
+    tip(m_undo, tr("Undo"), m_editor.undoStack()->undoText());
+    tip(m_redo, tr("Redo"), m_editor.undoStack()->redoText());
+}
+
+void MainWindowWidget::connectParts()
+{
+    connect(m_slides, &SlidesPage::filesDropped, this, &MainWindowWidget::onFilesDropped);
+    connect(m_slides, &SlidesPage::currentSlideChanged, m_preview, &PreviewWidget::setSlide);
+    connect(m_slides, &SlidesPage::previewRequested, this, &MainWindowWidget::onPreviewClicked);
+    connect(m_slides, &SlidesPage::rotateChanged, this, &MainWindowWidget::rotateChanged);
+    connect(m_preview, &PreviewWidget::previewClicked, this, &MainWindowWidget::onPreviewClicked);
+    connect(m_create, &CreatePanel::fullPreviewClicked, this, &MainWindowWidget::onFullPreview);
+    connect(m_create, &CreatePanel::progressStarted, this, [this] {
+        setGenerating(true);
+        emit progressStarted();
+    });
+    connect(m_create, &CreatePanel::progressFinished, this, [this] {
+        setGenerating(false);
+        emit progressFinished();
+    });
+    connect(m_create, &CreatePanel::progress, this, &MainWindowWidget::progress);
+    connect(m_create, &CreatePanel::finished, this, &MainWindowWidget::finished);
+}
+
+/// An edit during a render would not be in the video, and its history entry must match it.
+void MainWindowWidget::setGenerating(bool generating)
+{
+    if (generating)
+        m_preview->stop();
+    m_stack->setEnabled(!generating);
+    m_groups->setEnabled(!generating);
+    m_undo->setEnabled(!generating && m_editor.undoStack()->canUndo());
+    m_redo->setEnabled(!generating && m_editor.undoStack()->canRedo());
+}
+
+bool MainWindowWidget::isGenerating() const
+{
+    return m_create->isGenerating();
+}
+
+bool MainWindowWidget::isEditingText() const
+{
+    return m_stack->currentWidget() != m_slides;
+}
+
+void MainWindowWidget::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    const int width = std::min(
+        std::max(static_cast<int>(kSideShare * event->size().width()), kSmallestSide), kWidestSide);
+    m_side->setFixedWidth(width);
+    m_preview->setMaximumHeight(width * 9 / 16 + kPreviewControls);
+    m_groups->setAllShown(event->size().height() >= kHeightForAll);
 }
 
 void MainWindowWidget::setProject(ProjectFile *project)
 {
-    m_importer.cancel();
-    m_waiting.clear();
+    m_imports->cancel();
     m_editor.setProject(project);
+}
+
+void MainWindowWidget::updateFromSettings()
+{
+    m_video->refresh();
+    m_slides->updateFromSettings();
 }
 
 void MainWindowWidget::onFilesDropped(const QStringList &files, int newRow)
 {
     qCDebug(lcUi).noquote()
         << QStringLiteral("NEW ROW:'%1' AFTER:'%2'").arg(newRow + 1).arg(newRow);
-    const int row = newRow < 0 ? -1 : newRow + 1;
-    if (!m_importer.start(files, row))
-        m_waiting.append({files, row});
+    m_imports->add(files, newRow < 0 ? -1 : newRow + 1);
 }
 
-void MainWindowWidget::onImported(const PhotoImport &import)
+void MainWindowWidget::addFolder(const QString &folder)
 {
-    if (!import.cancelled)
-        m_editor.addPhotos(import.photos, import.row);
-    if (!m_waiting.isEmpty()) {
-        const auto next = m_waiting.takeFirst();
-        m_importer.start(next.first, next.second);
-    }
-    if (import.refused.isEmpty() || import.cancelled)
-        return;
-    QStringList lines;
-    for (const PhotoImport::Refused &refused : import.refused)
-        lines.append(tr("%1: %2").arg(QDir::toNativeSeparators(refused.path), refused.reason));
-    auto *box = new QMessageBox(QMessageBox::Information, tr("Adding photos"),
-                                tr("Not all photos have been added"), QMessageBox::Close, this);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setDetailedText(lines.join(QLatin1Char('\n')));
-    box->open();
+    onFilesDropped({folder}, -1);
 }
 
 void MainWindowWidget::onRowsMoved(int from, int after)
@@ -185,29 +187,14 @@ void MainWindowWidget::onRowsMoved(int from, int after)
     m_editor.moveSlides({m_editor.project()->items().at(from)}, after + 1);
 }
 
-void MainWindowWidget::onResolutionChanged(const QVariant &value)
+void MainWindowWidget::onPreviewClicked()
 {
-    m_editor.setResolution(value.toSize());
+    m_preview->previewSlide();
 }
 
-void MainWindowWidget::onTransitionDurationChanged(const QVariant &value)
+void MainWindowWidget::onFullPreview()
 {
-    m_editor.setTransitionSeconds(value.toInt());
-}
-
-void MainWindowWidget::onFadeChanged(const QVariant &value)
-{
-    m_editor.setAudioFade(value.toInt());
-}
-
-void MainWindowWidget::onOffsetChanged(const QVariant &value)
-{
-    m_editor.setAudioOffset(value.toInt());
-}
-
-void MainWindowWidget::onAudioLoopClicked(bool on)
-{
-    m_editor.setAudioLoop(on);
+    m_preview->playFull();
 }
 
 } // namespace velmora
