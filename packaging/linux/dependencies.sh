@@ -32,7 +32,9 @@ run_packages=(
     fonts-droid-fallback
     fonts-noto-core
     fonts-open-sans
+    gstreamer1.0-alsa
     gstreamer1.0-libav
+    gstreamer1.0-plugins-base
     gstreamer1.0-plugins-good
     libqt5multimedia5-plugins
     libqt5svg5

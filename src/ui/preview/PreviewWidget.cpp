@@ -1,37 +1,90 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/preview/PreviewWidget.h"
 
+#include "project/documents/ProjectFile.h"
 #include "ui/model/ProjectEditor.h"
+#include "ui/preview/VideoPlayerWidget.h"
+
+#include <QVBoxLayout>
 
 namespace velmora
 {
 
-PreviewWidget::PreviewWidget(ProjectEditor &, const AppSettings &, QWidget *parent)
-    : QWidget(parent), m_player(nullptr)
+namespace
 {
+
+constexpr int kMargin = 12;         // px
+constexpr int kFullSizeMargin = 16; // px
+
+} // namespace
+
+PreviewWidget::PreviewWidget(ProjectEditor &editor, const AppSettings &settings, QWidget *parent)
+    : QFrame(parent), m_editor(editor), m_player(new VideoPlayerWidget(settings, this))
+{
+    setProperty("card", true);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->addWidget(m_player);
+    m_changes.setSingleShot(true);
+    connect(&m_changes, &QTimer::timeout, m_player, &VideoPlayerWidget::refresh);
+    connect(&editor, &ProjectEditor::projectChanged, this, [this] {
+        m_changes.stop();
+        m_player->setProject(m_editor.project());
+    });
+    connect(&editor, &ProjectEditor::slidesChanged, this, &PreviewWidget::onSlidesChanged);
+    const auto refreshSoon = [this] { m_changes.start(); };
+    connect(&editor, &ProjectEditor::slideChanged, this, refreshSoon);
+    connect(&editor, &ProjectEditor::settingsChanged, this, refreshSoon);
+    connect(&editor, &ProjectEditor::audioChanged, this, refreshSoon);
+    connect(m_player, &VideoPlayerWidget::clicked, this, &PreviewWidget::previewClicked);
+    connect(m_player, &VideoPlayerWidget::fullSizeToggled, this, &PreviewWidget::toggleFullSize);
+    m_player->setProject(editor.project());
 }
 
 PreviewWidget::~PreviewWidget() = default;
 
 bool PreviewWidget::isPlaying() const
 {
-    return false;
+    return m_player->isPlaying();
 }
 
-void PreviewWidget::setSlide(ProjectItem *)
+void PreviewWidget::setSlide(ProjectItem *slide)
 {
+    m_player->setSlide(slide);
 }
 
 void PreviewWidget::previewSlide()
 {
+    m_player->playTransition();
 }
 
 void PreviewWidget::playFull()
 {
+    m_player->playSlideshow();
 }
 
 void PreviewWidget::stop()
 {
+    m_player->stop();
+}
+
+void PreviewWidget::onSlidesChanged()
+{
+    // What plays is no longer the slideshow that is edited.
+    stop();
+    const ProjectFile *project = m_editor.project();
+    if (m_player->slide() && (!project || !project->items().contains(m_player->slide())))
+        m_player->setSlide(nullptr);
+    m_changes.start();
+}
+
+void PreviewWidget::toggleFullSize()
+{
+    const bool full = !m_player->isWindow();
+    const int margin = full ? kFullSizeMargin : 0;
+    m_player->layout()->setContentsMargins(margin, margin, margin, margin);
+    m_player->setWindowFlags(full ? Qt::Window : Qt::Widget);
+    m_player->showFullSize(full);
 }
 
 } // namespace velmora

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QWidget>
+#include <QFrame>
+#include <QTimer>
 
 namespace velmora
 {
@@ -13,7 +14,7 @@ class VideoPlayerWidget;
 
 /// The preview area of the editor: shows the selected slide, plays the transition into it or the
 /// whole slideshow, and follows every edit of the project. GUI thread.
-class PreviewWidget : public QWidget
+class PreviewWidget : public QFrame
 {
     Q_OBJECT
 public:
@@ -38,7 +39,12 @@ signals:
     void previewClicked();
 
 private:
+    void onSlidesChanged();
+    void toggleFullSize();
+
+    ProjectEditor &m_editor;
     VideoPlayerWidget *m_player;
+    QTimer m_changes; ///< Several changes at once are followed once.
 };
 
 } // namespace velmora
