@@ -19,6 +19,7 @@
 #include <QHeaderView>
 #include <QShortcut>
 #include <QStandardPaths>
+#include <QVariant>
 #include <QWhatsThis>
 
 namespace velmora

@@ -72,6 +72,7 @@ private:
     ProjectItem *m_sharedStyle = nullptr; ///< The slide that stands for all; null: one is edited.
     CaptionStyle m_original;
     int m_originalBackground = 0;
+    int m_shownBackground = 0;
     QString m_family;
 };
 
