@@ -387,6 +387,11 @@ void SlidesPage::updateTotals()
     m_ui->btnTotal->setEnabled(shownCount() > 0);
 }
 
+void SlidesPage::focusTable()
+{
+    m_ui->tableView->setFocus();
+}
+
 void SlidesPage::updateFromSettings()
 {
     updateControls();
