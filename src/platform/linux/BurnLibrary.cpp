@@ -26,21 +26,23 @@ char *text(const char *literal)
     return const_cast<char *>(literal);
 }
 
-bool isError(const char *severity)
+constexpr int kWriteThreadEnded = 0x00020178; // Code of a libburn message.
+
+bool reaches(const char *severity, const char *limit)
 {
     int number = 0;
-    int limit = 0;
+    int limitNumber = 0;
     burn_text_to_sev(text(severity), &number, 0);
-    burn_text_to_sev(text("SORRY"), &limit, 0);
-    return number >= limit;
+    burn_text_to_sev(text(limit), &limitNumber, 0);
+    return number >= limitNumber;
 }
 
 bool logMessage(const char *library, const char *severity, const char *message)
 {
-    const bool error = isError(severity);
+    const bool error = reaches(severity, "SORRY");
     if (error)
         qCWarning(lcPlatform).noquote() << library << severity << QString::fromUtf8(message);
-    else
+    else if (reaches(severity, "NOTE"))
         qCDebug(lcPlatform).noquote() << library << severity << QString::fromUtf8(message);
     return error;
 }
@@ -62,7 +64,7 @@ BurnLibrary::BurnLibrary()
     // An unreadable piece of a file ends the image; it is not replaced by zeros.
     iso_set_abort_severity(text("SORRY"));
     iso_set_msgs_severities(text("NOTE"), text("NEVER"), text(""));
-    burn_msgs_set_severities(text("NOTE"), text("NEVER"), text(""));
+    burn_msgs_set_severities(text("DEBUG"), text("NEVER"), text(""));
 }
 
 BurnLibrary::~BurnLibrary()
@@ -75,19 +77,21 @@ BurnLibrary::~BurnLibrary()
     s_mutex.unlock();
 }
 
-bool BurnLibrary::logMessages()
+BurnLibrary::Messages BurnLibrary::logMessages()
 {
-    bool errors = false;
+    Messages messages;
     int code = 0;
     int origin = 0;
     QByteArray message(BURN_MSGS_MESSAGE_LEN, '\0');
     char severity[80];
     static_assert(ISO_MSGS_MESSAGE_LEN <= BURN_MSGS_MESSAGE_LEN, "one buffer serves both");
-    while (burn_msgs_obtain(text("ALL"), &code, message.data(), &origin, severity) > 0)
-        errors |= logMessage("libburn", severity, message.constData());
+    while (burn_msgs_obtain(text("ALL"), &code, message.data(), &origin, severity) > 0) {
+        messages.errors |= logMessage("libburn", severity, message.constData());
+        messages.writeEnded |= code == kWriteThreadEnded;
+    }
     while (iso_obtain_msgs(text("ALL"), &code, &origin, message.data(), severity) > 0)
-        errors |= logMessage("libisofs", severity, message.constData());
-    return errors;
+        messages.errors |= logMessage("libisofs", severity, message.constData());
+    return messages;
 }
 
 } // namespace velmora

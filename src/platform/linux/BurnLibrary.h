@@ -17,8 +17,13 @@ public:
 
     bool isReady() const { return m_ready; }
 
-    /// Logs what both libraries had to say since the last call. True if an error was among it.
-    static bool logMessages();
+    /// What both libraries had to say since the last call.
+    struct Messages {
+        bool errors = false;
+        bool writeEnded = false; ///< The thread that wrote to a drive has come to its end.
+    };
+    /// Logs and forgets it.
+    static Messages logMessages();
 
 private:
     bool m_ready = false;

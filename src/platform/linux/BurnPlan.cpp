@@ -14,6 +14,13 @@ namespace velmora
 
 using namespace burn;
 
+namespace
+{
+
+constexpr int kQuiet = 2; // Flag of burn_write_opts_auto_write_type: no error messages.
+
+} // namespace
+
 BurnPlan::BurnPlan(const BurnDrive &drive, burn_source *source)
     : m_disc(burn_disc_create()), m_session(burn_session_create()), m_track(burn_track_create()),
       m_options(burn_write_opts_new(drive.handle()))
@@ -36,26 +43,24 @@ BurnPlan::~BurnPlan()
 bool BurnPlan::prepare(bool finalize, const DiscContent &content)
 {
     if (content.overwritable) {
-        const bool further = !content.media.blank;
-        const auto start = further ? qint64(content.newSession) * kDiscBlock : 0;
+        const qint64 start = content.media.blank ? 0 : qint64(content.newSession) * kDiscBlock;
         burn_write_opts_set_start_byte(m_options, start);
+        return chooseWriteType(0); // Such discs have no sessions that could stay open.
     }
-    burn_write_opts_set_multi(m_options, finalize ? 0 : 1);
-    if (chooseWriteType())
-        return true;
-    if (finalize)
-        return false;
-    burn_write_opts_set_multi(m_options, 0);
-    if (!chooseWriteType())
-        return false;
-    qCInfo(lcPlatform) << "This disc cannot be left open; it is closed after writing.";
-    return true;
+    if (!finalize) {
+        burn_write_opts_set_multi(m_options, 1);
+        if (chooseWriteType(kQuiet))
+            return true;
+        burn_write_opts_set_multi(m_options, 0);
+        qCInfo(lcPlatform) << "This disc cannot be left open; it is closed after writing.";
+    }
+    return chooseWriteType(0);
 }
 
-bool BurnPlan::chooseWriteType()
+bool BurnPlan::chooseWriteType(int flag)
 {
     QByteArray reasons(BURN_REASONS_LEN, '\0');
-    const auto type = burn_write_opts_auto_write_type(m_options, m_disc, reasons.data(), 0);
+    const auto type = burn_write_opts_auto_write_type(m_options, m_disc, reasons.data(), flag);
     m_reason = QString::fromUtf8(reasons.constData());
     return type != BURN_WRITE_NONE;
 }

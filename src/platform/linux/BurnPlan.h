@@ -37,7 +37,7 @@ public:
     burn::burn_disc *disc() const { return m_disc; }
 
 private:
-    bool chooseWriteType();
+    bool chooseWriteType(int flag);
 
     burn::burn_disc *m_disc;
     burn::burn_session *m_session;

@@ -126,8 +126,7 @@ QByteArray DiscImage::freeName(const QString &name) const
     const QString base = name.left(name.size() - ending.size());
     QByteArray free = shortened(base, kNameBytes - ending.toUtf8().size()) + ending.toUtf8();
     IsoNode *taken = nullptr;
-    for (int i = 2;
-         iso_dir_get_node(iso_image_get_root(m_image), free.constData(), &taken) == 1;
+    for (int i = 2; iso_dir_get_node(iso_image_get_root(m_image), free.constData(), &taken) == 1;
          ++i) {
         const QByteArray number = QStringLiteral(" (%1)%2").arg(i).arg(ending).toUtf8();
         free = shortened(base, kNameBytes - number.size()) + number;

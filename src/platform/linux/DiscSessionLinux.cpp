@@ -9,6 +9,7 @@
 
 #include <libburn/libburn.h>
 
+#include <algorithm>
 #include <chrono>
 #include <thread>
 
@@ -58,23 +59,49 @@ bool DiscSessionLinux::open(const QString &recorderId)
     return true;
 }
 
-/// The end of an operation of the drive; whether it went well.
-bool DiscSessionLinux::wait(const DiscProgress &progress, const std::atomic_bool *cancelled)
+bool DiscSessionLinux::isBusy(burn_progress *state) const
+{
+    return burn_drive_get_status(m_drive->handle(), state) != BURN_DRIVE_IDLE;
+}
+
+bool DiscSessionLinux::waitForErase(const DiscProgress &progress)
 {
     burn_progress state = {};
-    bool stopped = false;
-    while (burn_drive_get_status(m_drive->handle(), &state) != BURN_DRIVE_IDLE) {
+    while (isBusy(&state)) {
         if (state.sectors > 0)
             progress(qBound(0, state.sector, state.sectors), state.sectors);
-        if (cancelled && *cancelled && !stopped) {
+        std::this_thread::sleep_for(kPoll);
+    }
+    return burn_drive_wrote_well(m_drive->handle()) == 1 && !BurnLibrary::logMessages().errors;
+}
+
+/// After a failure the drive can look idle while libburn's thread still uses it and the image, so
+/// the thread's own message is awaited. Without a thread, because libburn refused to start, the
+/// drive never gets busy.
+bool DiscSessionLinux::waitForWrite(const DiscProgress &progress, const std::atomic_bool &cancelled)
+{
+    burn_progress state = {};
+    BurnLibrary::Messages all;
+    bool stopped = false;
+    bool running = isBusy(&state);
+    while (running) {
+        if (state.sectors > 0)
+            progress(qBound(0, state.sector, state.sectors), state.sectors);
+        if (cancelled && !stopped) {
             burn_drive_cancel(m_drive->handle());
             stopped = true;
         }
         std::this_thread::sleep_for(kPoll);
+        const BurnLibrary::Messages messages = BurnLibrary::logMessages();
+        all.errors |= messages.errors;
+        all.writeEnded |= messages.writeEnded;
+        running = !all.writeEnded || isBusy(&state);
     }
-    const bool well = burn_drive_wrote_well(m_drive->handle()) == 1;
-    const bool errors = BurnLibrary::logMessages();
-    return well && !errors && !stopped;
+    all.errors |= BurnLibrary::logMessages().errors;
+    const bool well = burn_drive_wrote_well(m_drive->handle()) == 1 && !all.errors && !stopped;
+    if (well)
+        progress(std::max(state.sectors, 1), std::max(state.sectors, 1));
+    return well;
 }
 
 bool DiscSessionLinux::erase(const DiscProgress &progress)
@@ -85,7 +112,7 @@ bool DiscSessionLinux::erase(const DiscProgress &progress)
         progress(1, 1);
     } else {
         burn_disc_erase(m_drive->handle(), 1);
-        if (!wait(progress, nullptr))
+        if (!waitForErase(progress))
             return fail("EraseMedia", m_content.status);
     }
     m_drive->reassess();
@@ -120,6 +147,9 @@ bool DiscSessionLinux::createImage(const QString &video, const QString &fileName
                                    const QString &volumeName)
 {
     m_image = std::make_unique<DiscImage>();
+    m_video = QFileInfo(video);
+    m_videoSize = m_video.size();
+    m_videoTime = m_video.lastModified();
     const bool made =
         m_image->begin(*m_drive, m_content, volumeName) && m_image->addFile(video, fileName);
     BurnLibrary::logMessages();
@@ -142,6 +172,10 @@ bool DiscSessionLinux::write(bool finalize, const DiscProgress &progress,
                    .arg(cancelled ? QStringLiteral("cancelled") : m_content.status);
         return false;
     }
+    // Where a file ends too soon, libisofs fills up with zeros.
+    m_video.refresh();
+    if (m_video.size() != m_videoSize || m_video.lastModified() != m_videoTime)
+        return fail("Write", QStringLiteral("the video was changed meanwhile"));
     return true;
 }
 
@@ -152,7 +186,7 @@ bool DiscSessionLinux::writeSession(bool finalize, const DiscProgress &progress,
     if (!plan.prepare(finalize, m_content))
         return fail("put_ForceMediaToBeClosed", plan.reason());
     burn_disc_write(plan.options(), plan.disc());
-    return wait(progress, &cancelled);
+    return waitForWrite(progress, cancelled);
 }
 
 bool DiscSessionLinux::writeHead()

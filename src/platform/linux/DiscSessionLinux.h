@@ -7,7 +7,15 @@
 #include "platform/linux/DiscContent.h"
 #include "platform/linux/DiscImage.h"
 
+#include <QDateTime>
+#include <QFileInfo>
+
 #include <memory>
+
+namespace burn
+{
+struct burn_progress;
+}
 
 namespace velmora
 {
@@ -31,7 +39,9 @@ public:
 
 private:
     bool eraseHeads();
-    bool wait(const DiscProgress &progress, const std::atomic_bool *cancelled);
+    bool isBusy(burn::burn_progress *state) const;
+    bool waitForErase(const DiscProgress &progress);
+    bool waitForWrite(const DiscProgress &progress, const std::atomic_bool &cancelled);
     bool writeSession(bool finalize, const DiscProgress &progress,
                       const std::atomic_bool &cancelled);
     bool writeHead();
@@ -40,6 +50,9 @@ private:
     std::unique_ptr<BurnDrive> m_drive;
     DiscContent m_content;
     std::unique_ptr<DiscImage> m_image;
+    QFileInfo m_video;
+    qint64 m_videoSize = 0;
+    QDateTime m_videoTime;
 };
 
 } // namespace velmora
