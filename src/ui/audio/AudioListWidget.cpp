@@ -170,7 +170,7 @@ void AudioListWidget::setUpValues()
 void AudioListWidget::retranslate()
 {
     m_ui->tableAudioFiles->setEmptyState(
-        Theme::icon(QStringLiteral("audio")).pixmap(128, 96),
+        Theme::icon(QStringLiteral("audio")).pixmap(80, 60),
         tr("Drag & drop audio files to create a playlist"));
     m_ui->btnSetOffset->setValues(ValueLists::offsets());
     m_ui->btnSetFade->setValues(ValueLists::fades());

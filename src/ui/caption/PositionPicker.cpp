@@ -19,7 +19,7 @@ namespace
 constexpr int kColumns = 3;
 constexpr int kCount = 9;
 constexpr int kCentre = 4;
-constexpr QSize kPictureSize(192, 108); // px
+constexpr QSize kPictureSize(160, 90); // px
 
 struct Place {
     const char *objectName;

@@ -38,8 +38,8 @@ constexpr double kSideShare = 0.34; // of the page's width
 
 MainWindowWidget::MainWindowWidget(AppSettings &settings, HistoryStore &history, QWidget *parent)
     : QWidget(parent), m_settings(settings), m_editor(settings),
-      m_undo(m_editor.undoStack()->createUndoAction(this)),
-      m_redo(m_editor.undoStack()->createRedoAction(this)),
+      m_undo(new QAction(Theme::icon(QStringLiteral("undo")), tr("Undo"), this)),
+      m_redo(new QAction(Theme::icon(QStringLiteral("redo")), tr("Redo"), this)),
       m_slides(new SlidesPage(m_editor, settings)),
       m_imports(new PhotoImports(m_editor, m_slides->busyNote(), this)),
       m_preview(new PreviewWidget(m_editor, settings)),
@@ -92,28 +92,31 @@ void MainWindowWidget::setUpUndo()
     m_redo->setObjectName(QStringLiteral("actRedo"));
     m_undo->setShortcut(Qt::CTRL + Qt::Key_Z);
     m_redo->setShortcuts({Qt::CTRL + Qt::Key_Y, Qt::CTRL + Qt::SHIFT + Qt::Key_Z});
-    m_undo->setIcon(Theme::icon(QStringLiteral("undo")));
-    m_redo->setIcon(Theme::icon(QStringLiteral("redo")));
+    connect(m_undo, &QAction::triggered, m_editor.undoStack(), &QUndoStack::undo);
+    connect(m_redo, &QAction::triggered, m_editor.undoStack(), &QUndoStack::redo);
     for (QAction *action : {m_undo, m_redo}) {
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         addAction(action);
     }
-    connect(m_editor.undoStack(), &QUndoStack::indexChanged, this,
-            &MainWindowWidget::updateUndoTips);
-    updateUndoTips();
+    connect(m_editor.undoStack(), &QUndoStack::indexChanged, this, &MainWindowWidget::updateUndo);
+    updateUndo();
     m_slides->setUndoActions(m_undo, m_redo);
 }
 
-/// "Undo: Move slides (Ctrl+Z)"
-void MainWindowWidget::updateUndoTips()
+/// "Undo: Move slides (Ctrl+Z)"; not possible while a video is made or a caption is edited.
+void MainWindowWidget::updateUndo()
 {
+    const QUndoStack &stack = *m_editor.undoStack();
+    const bool can = !isGenerating() && !isEditingText();
+    m_undo->setEnabled(can && stack.canUndo());
+    m_redo->setEnabled(can && stack.canRedo());
     const auto tip = [](QAction *action, const QString &name, const QString &step) {
         const QString text =
             step.isEmpty() ? name : tr("%1: %2", "undo or redo, and what").arg(name, step);
         action->setToolTip(SlideActions::toolTip(text, action->shortcut()));
     };
-    tip(m_undo, tr("Undo"), m_editor.undoStack()->undoText());
-    tip(m_redo, tr("Redo"), m_editor.undoStack()->redoText());
+    tip(m_undo, tr("Undo"), stack.undoText());
+    tip(m_redo, tr("Redo"), stack.redoText());
 }
 
 void MainWindowWidget::connectParts()
@@ -148,8 +151,7 @@ void MainWindowWidget::setGenerating(bool generating)
     m_stack->setEnabled(!generating);
     m_video->setEnabled(!generating);
     m_audio->setEnabled(!generating);
-    m_undo->setEnabled(!generating && m_editor.undoStack()->canUndo());
-    m_redo->setEnabled(!generating && m_editor.undoStack()->canRedo());
+    updateUndo();
 }
 
 bool MainWindowWidget::isGenerating() const
@@ -189,7 +191,7 @@ void MainWindowWidget::beginTextEditing()
     m_preview->stop();
     m_stack->setCurrentIndex(1);
     m_side->hide();
-    m_text->setFocus();
+    updateUndo();
     emit textEditingBegan(m_editor.project()->items().size());
 }
 
@@ -200,6 +202,7 @@ void MainWindowWidget::endTextEditing()
     m_stack->setCurrentWidget(m_slides);
     m_side->show();
     m_slides->focusTable();
+    updateUndo();
     emit textEditingFinished();
 }
 

@@ -74,7 +74,7 @@ private:
     void setUpSide();
     void setUpUndo();
     void connectParts();
-    void updateUndoTips();
+    void updateUndo();
     void setGenerating(bool generating);
     void editCaption(ProjectItem *slide);
     void editCaptionOfAll();

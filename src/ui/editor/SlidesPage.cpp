@@ -204,7 +204,7 @@ void SlidesPage::connectEditor()
         m_told = nullptr; // belongs to the project before
         m_ui->tableView->scrollToTop();
         selectSlides({m_model->slideAt(std::min(1, m_model->rowCount() - 1))});
-        updateControls();
+        updateLater(); // other listeners may not know the project yet
     });
 }
 
