@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QPointer>
 #include <QTimer>
+#include <QVector>
 #include <QWidget>
 
 #include <memory>
@@ -20,9 +22,8 @@ namespace velmora
 
 struct AppSettings;
 class HistoryModel;
-class HistoryRowPool;
+class HistoryRemoval;
 class HistoryStore;
-class HistoryUndo;
 class ProjectFile;
 class UploadController;
 
@@ -57,12 +58,17 @@ public:
 public slots:
     /// Reads the list from the history again and keeps the selection where it can.
     void reload();
+    /// Asks, then removes the entry: the selected one if it made that video, else the newest.
     void onDeleteProject(const QString &fileName);
+    /// Brings back what was removed last.
+    void undoRemoval();
     void onBurnProject(const QString &fileName, const QString &diskTitle);
+    void onSignInStarted();
     void onUploadStarted();
     void uploadProgress(int percent);
     void onUploadFinished(const QString &fileId, const QString &fileUrl);
     void onUploadFailed(const QString &error);
+    void onUploadCanceled();
     /// Starts the upload of the selected entry.
     void onStartUpload(const QString &uploadService);
     void onSelectionChanged(const QItemSelection &selected, const QItemSelection &unselected);
@@ -91,6 +97,32 @@ signals:
     void uploadFinished(const QString &videoId, const QString &previewUrl);
     void uploadFailed(const QString &error);
     void progressUpload(int percent);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void setUpList();
+    void setUpPages();
+    void setUpUndoBar();
+    void showSortArrow();
+    void updateButtons();
+    void playVideo(const QString &fileName);
+    void remove(const QVector<const ProjectFile *> &projects, bool trashVideos);
+    void showUndoBar(int count);
+    void tellFailure(const QString &error);
+    void endUpload();
+    void showElapsed();
+
+    HistoryStore &m_history;
+    std::unique_ptr<Ui::HistoryWidget> m_ui;
+    HistoryModel *m_model;
+    std::unique_ptr<HistoryRemoval> m_removal;
+    QPointer<UploadController> m_uploads;
+    QString m_service;      ///< Of the upload that runs; empty without one.
+    bool m_started = false; ///< uploadProgressStarted() was emitted for it.
+    QTimer m_timer;
+    QElapsedTimer m_elapsed;
 };
 
 } // namespace velmora
