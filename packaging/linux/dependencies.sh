@@ -42,7 +42,14 @@ run_packages=(
 
 test_packages=(
     groff-base
+    openssl
+    python3
     xvfb
+)
+
+fake_services_packages=(
+    openssl
+    python3
 )
 
 format_packages=(
