@@ -132,6 +132,12 @@ QJsonArray FakeServices::files()
     return exchange(QStringLiteral("/_log")).value(QLatin1String("files")).toArray();
 }
 
+QStringList FakeServices::secrets()
+{
+    const QJsonValue all = exchange(QStringLiteral("/_log")).value(QLatin1String("secrets"));
+    return all.toVariant().toStringList();
+}
+
 ScriptedBrowser::ScriptedBrowser()
 {
     QDesktopServices::setUrlHandler(QStringLiteral("http"), this, "open");

@@ -105,6 +105,7 @@ void LoopbackServer::answer(QTcpSocket *socket, const Reply &reply)
                   "\r\nX-Content-Type-Options: nosniff\r\nContent-Security-Policy: default-src "
                   "'none'; img-src data:; style-src 'unsafe-inline'\r\n\r\n" +
                   body);
+    socket->flush(); // The sign-in, and this server, may end right now.
     socket->disconnectFromHost();
 }
 

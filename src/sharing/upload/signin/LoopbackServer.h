@@ -30,7 +30,8 @@ public:
 
     /// False when the port is taken.
     bool listen(quint16 port);
-    quint16 port() const { return m_server.serverPort(); }
+    /// Takes no further connections; those that are there get their answers.
+    void close() { m_server.close(); }
 
 private:
     void takeConnections();
