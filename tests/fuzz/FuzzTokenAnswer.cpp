@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 {
     const QByteArray input(reinterpret_cast<const char *>(data), static_cast<int>(size));
     const int end = input.indexOf('\n');
-    const TokenAnswer answer = TokenAnswer::parse(input.left(end), input.mid(end + 1));
+    const TokenAnswer answer = TokenAnswer::parse(input.mid(0, end), input.mid(end + 1));
     for (const QString &token : {answer.accessToken(), answer.refreshToken()}) {
         for (const QChar c : token) {
             if (c.unicode() <= 0x20 || c.unicode() >= 0x7f)

@@ -106,6 +106,9 @@ class Model:
                 "size": digest.size,
                 "sha256": digest.hash.hexdigest(),
             }
+            if service == "dropbox":
+                # Storing a file under a name that exists replaces it.
+                self.files = [file for file in self.files if file["title"] != title]
             self.files.append(entry)
             return entry
 

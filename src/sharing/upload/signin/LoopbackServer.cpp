@@ -38,6 +38,14 @@ LoopbackServer::LoopbackServer(Responder responder, QObject *parent)
     connect(&m_server, &QTcpServer::newConnection, this, &LoopbackServer::takeConnections);
 }
 
+LoopbackServer::~LoopbackServer()
+{
+    // The sockets, children of the server, end with it and would still report that.
+    const auto sockets = m_server.findChildren<QTcpSocket *>();
+    for (QTcpSocket *socket : sockets)
+        socket->disconnect(this);
+}
+
 bool LoopbackServer::listen(quint16 port)
 {
     if (m_server.listen(QHostAddress::LocalHost, port))

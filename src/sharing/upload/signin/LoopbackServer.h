@@ -27,6 +27,7 @@ public:
     using Responder = std::function<Reply(const CallbackRequest &)>;
 
     explicit LoopbackServer(Responder responder, QObject *parent = nullptr);
+    ~LoopbackServer() override;
 
     /// False when the port is taken.
     bool listen(quint16 port);
