@@ -63,4 +63,16 @@ int CacheSweeper::sweep(const QString &cacheFolder)
     return removed;
 }
 
+void CacheSweeper::sweepLocks(const QString &lockFolder)
+{
+    const QDir folder(lockFolder);
+    const QStringList names = folder.entryList({QStringLiteral("*.lock")}, QDir::Files);
+    for (const QString &name : names) {
+        QLockFile lock(folder.filePath(name));
+        lock.setStaleLockTime(0);
+        if (lock.tryLock(0))
+            lock.unlock(); // which removes the file
+    }
+}
+
 } // namespace velmora

@@ -66,6 +66,7 @@ public:
     void check();
     RenderError findFault();
     RenderError checkProject() const;
+    void sweep(const QString &lockFolder) const;
     void onChecked();
     void startGenerator();
     void end(const std::function<void()> &tell);
@@ -102,13 +103,19 @@ RenderError RenderJob::Private::findFault()
     encoder = locateEncoder();
     if (encoder.program.isEmpty())
         return {RenderErrorCode::kEncoder, encoder.error};
-    error = target.prepare(request.project->fileName(), request.project->format(),
-                           Paths::cacheFolder() + QStringLiteral("/locks"));
+    const QString lockFolder = Paths::cacheFolder() + QStringLiteral("/locks");
+    error = target.prepare(request.project->fileName(), request.project->format(), lockFolder);
     if (!error.isSet())
         error = InputCheck::run(*request.project, cancelRequested);
     if (!error.isSet())
-        CacheSweeper::sweep(cacheFolder);
+        sweep(lockFolder);
     return error;
+}
+
+void RenderJob::Private::sweep(const QString &lockFolder) const
+{
+    CacheSweeper::sweep(cacheFolder);
+    CacheSweeper::sweepLocks(lockFolder);
 }
 
 RenderError RenderJob::Private::checkProject() const
