@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/CacheSweeper.h"
 
+#include "app/Paths.h"
 #include "generator/GeneratorLog.h"
 #include "generator/pipeline/OutputTarget.h"
 
@@ -73,6 +74,17 @@ void CacheSweeper::sweepLocks(const QString &lockFolder)
         if (lock.tryLock(0))
             lock.unlock(); // which removes the file
     }
+}
+
+void CacheSweeper::sweepAll(const QString &cacheFolder)
+{
+    sweep(cacheFolder);
+    sweepLocks(lockFolder());
+}
+
+QString CacheSweeper::lockFolder()
+{
+    return Paths::cacheFolder() + QStringLiteral("/locks");
 }
 
 } // namespace velmora

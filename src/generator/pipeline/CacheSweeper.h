@@ -23,6 +23,10 @@ inline const QLatin1String kOutputNote("output.txt");
 int sweep(const QString &cacheFolder);
 /// Removes the locks of dead renders in @p lockFolder, see OutputTarget.
 void sweepLocks(const QString &lockFolder);
+/// Both, with the locks that all renders of the user share.
+void sweepAll(const QString &cacheFolder);
+/// The folder of these locks.
+QString lockFolder();
 
 } // namespace CacheSweeper
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/RenderJob.h"
 
-#include "app/Paths.h"
 #include "generator/GeneratorLog.h"
 #include "generator/encoding/EncoderLocator.h"
 #include "generator/pipeline/CacheSweeper.h"
@@ -66,7 +65,6 @@ public:
     void check();
     RenderError findFault();
     RenderError checkProject() const;
-    void sweep(const QString &lockFolder) const;
     void onChecked();
     void startGenerator();
     void end(const std::function<void()> &tell);
@@ -103,19 +101,13 @@ RenderError RenderJob::Private::findFault()
     encoder = locateEncoder();
     if (encoder.program.isEmpty())
         return {RenderErrorCode::kEncoder, encoder.error};
-    const QString lockFolder = Paths::cacheFolder() + QStringLiteral("/locks");
-    error = target.prepare(request.project->fileName(), request.project->format(), lockFolder);
+    error = target.prepare(request.project->fileName(), request.project->format(),
+                           CacheSweeper::lockFolder());
     if (!error.isSet())
         error = InputCheck::run(*request.project, cancelRequested);
     if (!error.isSet())
-        sweep(lockFolder);
+        CacheSweeper::sweepAll(cacheFolder);
     return error;
-}
-
-void RenderJob::Private::sweep(const QString &lockFolder) const
-{
-    CacheSweeper::sweep(cacheFolder);
-    CacheSweeper::sweepLocks(lockFolder);
 }
 
 RenderError RenderJob::Private::checkProject() const

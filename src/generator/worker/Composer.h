@@ -81,6 +81,7 @@ private:
     void stopHarder();
     void endNow();
     void becomeIdle();
+    static void sweepAfterWorker();
     void take(const WorkerMessage &message);
     void takeProgress(const WorkerMessage &message);
     void reportProgress(int percent);
