@@ -25,6 +25,7 @@ namespace
 constexpr int kLongestName = 255;     // bytes, on all common file systems
 constexpr int kTemporaryReserve = 48; // bytes of the temporary name beyond the video's name
 constexpr int kRandomLetters = 6;
+constexpr int kLockPatience = 200;    // ms; another start may just be looking at the lock
 constexpr int kTrialSize = 64 * 1024; // bytes
 constexpr int kShownName = 60;        // characters of a long name in messages
 
@@ -185,7 +186,7 @@ RenderError OutputTarget::lock(const QString &lockFolder)
     m_lock = std::make_unique<QLockFile>(
         QStringLiteral("%1/%2.lock").arg(lockFolder, QString::fromLatin1(hash)));
     m_lock->setStaleLockTime(0); // a render may take hours; only a dead owner makes a lock stale
-    if (m_lock->tryLock(0))
+    if (m_lock->tryLock(kLockPatience))
         return {};
     const QLockFile::LockError reason = m_lock->error();
     m_lock.reset();
