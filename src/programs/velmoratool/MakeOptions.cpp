@@ -17,7 +17,7 @@ namespace velmora
 namespace
 {
 
-constexpr int kLongestTime = 86'400;    // s
+constexpr int kLongestTime = 86400;     // s
 constexpr int kLongestTransition = 600; // s
 const QLatin1String kPrefix("--");
 
