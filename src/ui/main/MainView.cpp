@@ -29,6 +29,8 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace velmora
 {
 
@@ -61,12 +63,7 @@ MainView::MainView(const Parts &parts)
     WindowGeometry::restore(this, parts.store);
 }
 
-MainView::~MainView()
-{
-    // The document lets go of the editor page, so it has to end first.
-    m_autosave.reset();
-    m_document.reset();
-}
+MainView::~MainView() = default;
 
 void MainView::setUpPages()
 {
@@ -222,9 +219,7 @@ void MainView::onFileDropped(const QString &fileName)
 
 void MainView::onDropEnd()
 {
-    const QStringList files = m_dropped;
-    m_dropped.clear();
-    openFiles(files);
+    openFiles(std::exchange(m_dropped, {}));
 }
 
 void MainView::onFinished(const QString &fileName)
@@ -389,13 +384,11 @@ void MainView::tellInBackground(const QString &title, const QString &text)
 
 void MainView::closeEvent(QCloseEvent *event)
 {
-    if (!m_actions->mayClose(m_editor->isGenerating(), m_history->isUploading())) {
-        event->ignore();
+    event->setAccepted(m_actions->mayClose(m_editor->isGenerating(), m_history->isUploading()));
+    if (!event->isAccepted())
         return;
-    }
     m_autosave->clear();
     WindowGeometry::save(*this, &m_parts.store);
-    event->accept();
 }
 
 void MainView::showEvent(QShowEvent *event)

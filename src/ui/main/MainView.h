@@ -126,6 +126,7 @@ private:
     SettingsWidget *m_settingsPanel;
     HelpPages *m_help;
     UpdateNotice *m_updates;
+    // These end before the pages do, which are children of the window.
     std::unique_ptr<ProjectDocument> m_document;
     std::unique_ptr<Autosave> m_autosave;
     DocumentActions *m_actions;
