@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/audio/AudioFilesController.h"
 #include "app/AppSettings.h"
 #include "helpers/LogCapture.h"
 #include "helpers/MediaSamples.h"
 #include "project/documents/ProjectFile.h"
 #include "services/MetricSender.h"
-#include "ui/audio/AudioFilesController.h"
 #include "ui/model/ProjectEditor.h"
 
 #include <QAbstractItemModelTester>
@@ -243,8 +243,8 @@ void AudioFilesControllerTest::rowsAreMoved_data()
                                 << QStringLiteral("Audio moved: 1>>2");
     QTest::newRow("several up") << QVector<int>{1, 3} << 0 << QStringLiteral("bdac") << QString();
     QTest::newRow("several down") << QVector<int>{0, 2} << 4 << QStringLiteral("bdac") << QString();
-    QTest::newRow("from both sides") << QVector<int>{0, 3} << 2 << QStringLiteral("badc")
-                                     << QString();
+    QTest::newRow("from both sides")
+        << QVector<int>{0, 3} << 2 << QStringLiteral("badc") << QString();
     QTest::newRow("in place") << QVector<int>{1, 2} << 2 << QStringLiteral("abcd") << QString();
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/audio/AudioListWidget.h"
 #include "app/AppSettings.h"
 #include "chrome/MessageDialog.h"
 #include "chrome/QPopupButton.h"
@@ -8,7 +9,6 @@
 #include "helpers/MediaSamples.h"
 #include "project/documents/ProjectFile.h"
 #include "ui/audio/AudioFilesController.h"
-#include "ui/audio/AudioListWidget.h"
 #include "ui/audio/AudioNoFocusRectangleDelegate.h"
 #include "ui/model/ProjectEditor.h"
 
@@ -299,7 +299,8 @@ void AudioListWidgetTest::emptyListInvites()
         QPainter painter(&area);
         painter.drawImage(0, 0, picture);
         painter.end();
-        found = empty.copy(QRect(QPoint(x, y), picture.size())).convertToFormat(area.format()) == area;
+        found =
+            empty.copy(QRect(QPoint(x, y), picture.size())).convertToFormat(area.format()) == area;
     }
     QVERIFY(found);
     QVERIFY(child<QWidget>("btnAddAudio").isVisible());
@@ -311,10 +312,10 @@ void AudioListWidgetTest::withoutProjectNothingIsOffered()
 {
     addThree();
     m_editor->setProject(nullptr);
-    QVERIFY(!m_widget->isEnabled());
+    QVERIFY(!child<QWidget>("btnAddAudio").isEnabled());
     QCOMPARE(table().model()->rowCount(), 0);
     m_editor->setProject(m_project.get());
-    QVERIFY(m_widget->isEnabled());
+    QVERIFY(child<QWidget>("btnAddAudio").isEnabled());
     QCOMPARE(table().model()->rowCount(), 3);
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/caption/CaptionPictureMaker.h"
 #include "project/frames/SlideRenderer.h"
 #include "project/slides/ProjectItemFirst.h"
 #include "project/slides/ProjectItemSimple.h"
-#include "ui/caption/CaptionPictureMaker.h"
 
 #include <QPainter>
 #include <QSignalSpy>

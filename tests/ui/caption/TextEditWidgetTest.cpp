@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/caption/TextEditWidget.h"
 #include "app/AppSettings.h"
 #include "chrome/MessageDialog.h"
 #include "chrome/Theme.h"
@@ -12,7 +13,6 @@
 #include "ui/caption/ColorBox.h"
 #include "ui/caption/PositionPicker.h"
 #include "ui/caption/SelectedColorButtonEffect.h"
-#include "ui/caption/TextEditWidget.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -64,10 +64,7 @@ private:
             qFatal("No widget %s", name);
         return *found;
     }
-    void click(const char *name) const
-    {
-        QTest::mouseClick(&child<QWidget>(name), Qt::LeftButton);
-    }
+    void click(const char *name) const { QTest::mouseClick(&child<QWidget>(name), Qt::LeftButton); }
     /// Chooses an entry as a user does, with the keyboard.
     static void choose(QComboBox &box, const QString &text)
     {
@@ -160,7 +157,7 @@ void TextEditWidgetTest::savingIsOneStep()
     edit(slide(1));
     auto &text = child<QTextEdit>("teProjectItemText");
     QCOMPARE(QApplication::focusWidget(), &text);
-    QTest::keyClicks(&text, QStringLiteral("Rügen"));
+    QTest::keyClicks(&text, QStringLiteral("Sylt"));
     choose(child<QComboBox>("cbColor"), QStringLiteral("Yellow"));
     choose(child<QComboBox>("cbBgColor"), QStringLiteral("None"));
     choose(child<QComboBox>("cbEffect"), QStringLiteral("Zoom In"));
@@ -169,7 +166,7 @@ void TextEditWidgetTest::savingIsOneStep()
     click("butSaveText");
 
     CaptionStyle expected = before;
-    expected.text = QStringLiteral("Rügen");
+    expected.text = QStringLiteral("Sylt");
     expected.textColor = QColor(0xff, 0xf2, 0x00);
     expected.backgroundColor = QColor();
     expected.effect = 19;
@@ -250,9 +247,9 @@ void TextEditWidgetTest::controlEnterSavesTheText()
 void TextEditWidgetTest::positionsAreChosen_data()
 {
     QTest::addColumn<int>("position");
-    const char *const names[] = {"btnLeftTop",      "btnCenterTop",    "btnRightTop",
-                                 "btnLeftCenter",   "btnCenterCenter", "btnRightCenter",
-                                 "btnLeftBottom",   "btnCenterBottom", "btnRightBottom"};
+    const char *const names[] = {"btnLeftTop",    "btnCenterTop",    "btnRightTop",
+                                 "btnLeftCenter", "btnCenterCenter", "btnRightCenter",
+                                 "btnLeftBottom", "btnCenterBottom", "btnRightBottom"};
     for (int i = 0; i < 9; ++i)
         QTest::newRow(names[i]) << i;
 }
