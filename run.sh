@@ -4,6 +4,7 @@
 #   ./run.sh                 makes a video of the bundled photos and music, then opens the editor
 #                            where there is a display
 #   ./run.sh make ARGS...    hands the arguments to velmoratool ("./run.sh --help" lists them)
+#   ./run.sh --fake-services opens the editor with fake upload services; see docs/fake-services.md
 set -euo pipefail
 start_folder=$PWD
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -18,6 +19,15 @@ build=$top/build/release
     [ -f "$build/build.ninja" ] || cmake --preset release
     cmake --build --preset release --target velmora velmoratool transcoder
 } >&2
+
+if [ "${1:-}" = --fake-services ]; then
+    install_packages "${fake_services_packages[@]}" >&2
+    if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
+        exec python3 "$top/tests/fakes/services" --tls "$build/bin/velmora"
+    fi
+    echo "There is no display here, so only the services run, until Ctrl+D." >&2
+    exec python3 "$top/tests/fakes/services" --tls
+fi
 
 if [ $# -gt 0 ]; then
     # Relative names are those of the folder from which the script was called.

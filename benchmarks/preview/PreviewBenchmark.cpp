@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QLoggingCategory>
 #include <QPainter>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -137,6 +138,7 @@ void measurePlaying(const PreviewScript::Pointer &script, const QString &music, 
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
+    QLoggingCategory::setFilterRules(QStringLiteral("velmora.*=false"));
     const QStringList arguments = QApplication::arguments();
     const QSize size(arguments.value(1, QStringLiteral("1280")).toInt(),
                      arguments.value(2, QStringLiteral("720")).toInt());
@@ -160,9 +162,8 @@ int main(int argc, char **argv)
         measurePlaying(script, music, result);
         lost += result.dropped + result.waits;
         std::printf("%-22s %8.2f %8.2f %8.2f %8.2f %7d %7d %6d %5d\n",
-                    qPrintable(transitionName(static_cast<TransitionType>(type))), result.frame,
-                    result.slowest, result.paint, result.slowestPaint, result.frames,
-                    result.dropped, result.waits, result.held);
+                    qPrintable(transitionName(type)), result.frame, result.slowest, result.paint,
+                    result.slowestPaint, result.frames, result.dropped, result.waits, result.held);
         std::fflush(stdout);
     }
     std::printf("dropped frames and waits in all: %d\n", lost);

@@ -47,8 +47,15 @@ run_packages=(
 test_packages=(
     dbus
     groff-base
+    openssl
+    python3
     xorriso
     xvfb
+)
+
+fake_services_packages=(
+    openssl
+    python3
 )
 
 format_packages=(

@@ -67,8 +67,8 @@ ServicesConfig FakeServices::config(const QHash<QString, QString> &extra) const
     {
         QSettings file(name, QSettings::IniFormat);
         for (const char *service : {"youtube", "googledrive", "dropbox"})
-            file.setValue(QLatin1String(service) + QStringLiteral("/port"), freePort());
-        file.setValue(QStringLiteral("network/retry_delay"), 1);
+            file.setValue(QLatin1String(service) + QStringLiteral("/port"), QString::number(freePort()));
+        file.setValue(QStringLiteral("network/retry_delay"), QStringLiteral("1"));
         for (auto value = extra.begin(); value != extra.end(); ++value)
             file.setValue(value.key(), value.value());
     }
@@ -130,6 +130,12 @@ QStringList FakeServices::problems()
 QJsonArray FakeServices::files()
 {
     return exchange(QStringLiteral("/_log")).value(QLatin1String("files")).toArray();
+}
+
+QStringList FakeServices::secrets()
+{
+    const QJsonValue all = exchange(QStringLiteral("/_log")).value(QLatin1String("secrets"));
+    return all.toVariant().toStringList();
 }
 
 ScriptedBrowser::ScriptedBrowser()

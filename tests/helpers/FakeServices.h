@@ -35,6 +35,7 @@ public:
     QStringList steps();    ///< Their kinds.
     QStringList problems(); ///< What was wrong with them.
     QJsonArray files();     ///< That were uploaded.
+    QStringList secrets();  ///< Codes and tokens that were handed out.
 
 private:
     QJsonObject exchange(const QString &path, const QByteArray &body = {});

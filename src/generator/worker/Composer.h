@@ -82,6 +82,7 @@ private:
     void stopHarder();
     void endNow();
     void becomeIdle();
+    static void sweepAfterWorker();
     void take(const WorkerMessage &message);
     void takeProgress(const WorkerMessage &message);
     void reportProgress(int percent);

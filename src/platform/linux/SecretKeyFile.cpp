@@ -8,6 +8,7 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <cstdlib>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -73,9 +74,11 @@ QByteArray SecretKeyFile::create(const QByteArray &key)
 {
     QDir().mkpath(QFileInfo(m_path).absolutePath());
     const QByteArray name = QFile::encodeName(m_path);
-    const QByteArray scratch = name + '.' + QByteArray::number(getpid());
-    if (!writeTo(scratch, key)) {
-        unlink(scratch.constData());
+    QByteArray scratch = name + ".XXXXXX";
+    const int descriptor = mkostemp(scratch.data(), O_CLOEXEC); // Makes it with mode 0600.
+    if (!writeTo(descriptor, key)) {
+        if (descriptor >= 0)
+            unlink(scratch.constData());
         return {};
     }
     // A link, unlike a rename, does not replace what another process has made meanwhile.
@@ -86,14 +89,12 @@ QByteArray SecretKeyFile::create(const QByteArray &key)
     return read();
 }
 
-bool SecretKeyFile::writeTo(const QByteArray &name, const QByteArray &key)
+bool SecretKeyFile::writeTo(int descriptor, const QByteArray &key)
 {
-    unlink(name.constData());
-    const int descriptor =
-        open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kOwnerOnly);
-    bool ok = descriptor >= 0;
-    ok = ok && write(descriptor, key.constData(), static_cast<size_t>(key.size())) == key.size() &&
-         fsync(descriptor) == 0;
+    const bool ok =
+        descriptor >= 0 &&
+        write(descriptor, key.constData(), static_cast<size_t>(key.size())) == key.size() &&
+        fsync(descriptor) == 0;
     if (!ok) {
         m_error = errno;
         qCWarning(lcPlatform).noquote()

@@ -25,7 +25,7 @@ public:
 
 private:
     QByteArray readFrom(int descriptor);
-    bool writeTo(const QByteArray &name, const QByteArray &key);
+    bool writeTo(int descriptor, const QByteArray &key);
 
     const QString m_path;
     const int m_keySize;

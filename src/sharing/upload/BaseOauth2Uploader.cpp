@@ -57,7 +57,7 @@ QUrl BaseOauth2Uploader::authorizationUrl(const LoopbackReplyHandler &handler) c
 
 void BaseOauth2Uploader::authorize()
 {
-    delete m_signIn;
+    endSignIn();
     auto handler = createReplyHandler();
     ServiceSetup changed = setup();
     changed.authorizationUrl = authorizationUrl(*handler);
@@ -89,10 +89,7 @@ void BaseOauth2Uploader::acceptCode(const QString &code)
 
 void BaseOauth2Uploader::onGranted(const QString &accessToken, const QString &refreshToken)
 {
-    // The port is free again from here on. Called out of the sign-in itself, hence not at once.
-    m_signIn->disconnect(this);
-    m_signIn->deleteLater();
-    m_signIn.clear();
+    endSignIn();
     if (!m_ended)
         onToken(accessToken, refreshToken);
 }
@@ -180,12 +177,19 @@ void BaseOauth2Uploader::finish(const QString &fileId, const QString &fileUrl)
 void BaseOauth2Uploader::release()
 {
     m_ended = true;
-    if (m_signIn) {
-        m_signIn->disconnect(this);
-        m_signIn->deleteLater();
-    }
+    endSignIn();
     if (m_reply && m_reply->isRunning())
         m_reply->abort();
+}
+
+// May be called out of the sign-in itself, which hence cannot be deleted here.
+void BaseOauth2Uploader::endSignIn()
+{
+    if (!m_signIn)
+        return;
+    m_signIn->stop();
+    m_signIn->deleteLater();
+    m_signIn.clear();
 }
 
 int uploadPercent(qint64 bytes, qint64 total)

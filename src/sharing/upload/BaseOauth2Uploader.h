@@ -81,6 +81,7 @@ protected:
 private:
     void handleRefreshReply();
     void onGranted(const QString &accessToken, const QString &refreshToken);
+    void endSignIn();
     void release();
 
     UploadContext m_context;

@@ -57,7 +57,7 @@ public:
         const QString configured = text(key);
         const QUrl url(configured, QUrl::StrictMode);
         if (configured.isEmpty() || isUsable(url))
-            return url.adjusted(QUrl::StripTrailingSlash);
+            return url;
         qCWarning(lcSharing).noquote()
             << QStringLiteral("The address of '%1' is not secure or no address").arg(path(key));
         return {};
@@ -131,7 +131,10 @@ QUrl serviceUrl(const QUrl &base, const QString &path, const QString &query)
     if (base.isEmpty())
         return {};
     QUrl url = base;
-    url.setPath(base.path(QUrl::FullyEncoded) + path, QUrl::TolerantMode);
+    QString folder = base.path(QUrl::FullyEncoded);
+    if (folder.endsWith(QLatin1Char('/')))
+        folder.chop(1);
+    url.setPath(folder + path, QUrl::TolerantMode);
     if (!query.isEmpty())
         url.setQuery(query, QUrl::StrictMode);
     return url;

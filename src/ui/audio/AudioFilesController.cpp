@@ -141,8 +141,8 @@ void AudioFilesController::follow()
     while (first < common && m_items.at(first) == after.at(first))
         ++first;
     int same = 0; // at the end
-    while (same < common - first && m_items.at(m_items.size() - 1 - same) ==
-                                        after.at(after.size() - 1 - same))
+    while (same < common - first &&
+           m_items.at(m_items.size() - 1 - same) == after.at(after.size() - 1 - same))
         ++same;
     if (!followMove(first, after))
         replace(first, m_items.size() - first - same,
@@ -215,8 +215,7 @@ void AudioFilesController::onMeasured(const QString &path, qint64 milliseconds)
 void AudioFilesController::addFiles(const QStringList &files, int newRow)
 {
     const int row = newRow < 0 ? -1 : newRow + 1;
-    qCDebug(lcUi).noquote()
-        << QStringLiteral("NEW AUDIO ROW:'%1' AFTER:'%2'").arg(row).arg(newRow);
+    qCDebug(lcUi).noquote() << QStringLiteral("NEW AUDIO ROW:'%1' AFTER:'%2'").arg(row).arg(newRow);
     if (files.isEmpty() || !m_editor.project())
         return;
     m_prober.add(files, row);
@@ -276,7 +275,8 @@ void AudioFilesController::move(const QVector<int> &rows, int before)
         return;
     m_editor.undoStack()->beginMacro(tr("Move audio"));
     for (const auto &step : qAsConst(moves)) {
-        qCDebug(lcUi).noquote() << QStringLiteral("Audio moved: %1>>%2").arg(step.first).arg(step.second);
+        qCDebug(lcUi).noquote()
+            << QStringLiteral("Audio moved: %1>>%2").arg(step.first).arg(step.second);
         m_editor.moveAudio(step.first, step.second);
     }
     m_editor.undoStack()->endMacro();

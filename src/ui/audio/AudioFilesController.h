@@ -58,7 +58,8 @@ public slots:
     void stop();
 
 signals:
-    /// After every change of the list, and when the length of a track became known. @p timeMs in ms.
+    /// After every change of the list, and when the length of a track became known. @p timeMs in
+    /// ms.
     void paramsChanged(int count, qint64 timeMs);
     void audioChanged();
     /// Once per addFiles() of which some files were not added.

@@ -68,9 +68,9 @@ AudioListWidget::AudioListWidget(ProjectEditor &editor, QWidget *parent)
             &AudioListWidget::showErrorThatNotAllAudioAreAdded, Qt::QueuedConnection);
     connect(m_controller, &AudioFilesController::playFailed, this,
             [this](const QString &fileName, const QString &reason) {
-                MessageDialog::inform(this, tr("Listening"),
-                                      tr("%1 cannot be played: %2")
-                                          .arg(QDir::toNativeSeparators(fileName), reason));
+                MessageDialog::inform(
+                    this, tr("Listening"),
+                    tr("%1 cannot be played: %2").arg(QDir::toNativeSeparators(fileName), reason));
             });
     connect(m_controller, &AudioFilesController::playingChanged, this,
             &AudioListWidget::updateActions);
@@ -169,9 +169,8 @@ void AudioListWidget::setUpValues()
 
 void AudioListWidget::retranslate()
 {
-    m_ui->tableAudioFiles->setEmptyState(
-        Theme::icon(QStringLiteral("audio")).pixmap(128, 96),
-        tr("Drag & drop audio files to create a playlist"));
+    m_ui->tableAudioFiles->setEmptyState(Theme::icon(QStringLiteral("audio")).pixmap(80, 60),
+                                         tr("Drag & drop audio files to create a playlist"));
     m_ui->btnSetOffset->setValues(ValueLists::offsets());
     m_ui->btnSetFade->setValues(ValueLists::fades());
     m_stop->setText(tr("Stop"));
@@ -195,7 +194,7 @@ void AudioListWidget::changeEvent(QEvent *event)
 void AudioListWidget::updateValues()
 {
     const ProjectFile *project = m_editor.project();
-    setEnabled(project != nullptr);
+    m_ui->frameAudioSettings->setEnabled(project != nullptr);
     if (!project)
         return;
     const int offset = project->audio().offset;
@@ -228,10 +227,10 @@ void AudioListWidget::updateAdding()
 
 void AudioListWidget::setAudioParams(int count, qint64 duration)
 {
-    m_ui->lblAudioTotal->setText(tr("Total: %1 %2 (%3)")
-                                     .arg(count)
-                                     .arg(count == 0 ? tr("track") : tr("tracks"),
-                                          ValueLists::durationText(duration)));
+    m_ui->lblAudioTotal->setText(
+        tr("Total: %1 %2 (%3)")
+            .arg(count)
+            .arg(count == 0 ? tr("track") : tr("tracks"), ValueLists::durationText(duration)));
     m_ui->lblAudioTotal->setEnabled(count != 0);
 }
 

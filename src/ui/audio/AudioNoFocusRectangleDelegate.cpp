@@ -114,8 +114,8 @@ void AudioNoFocusRectangleDelegate::paintTexts(QPainter &painter,
 
     const QRgb quiet = isBroken ? Theme::Danger : Theme::SecondaryText;
     painter.setPen(QColor(isSelected(option) ? Theme::AccentText : Theme::Text));
-    const QString text = QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideMiddle,
-                                                       name.width());
+    const QString text =
+        QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, name.width());
     painter.drawText(QStyle::visualRect(option.direction, option.rect, name),
                      int(QStyle::visualAlignment(option.direction, Qt::AlignLeft) |
                          Qt::AlignVCenter | Qt::TextSingleLine),

@@ -23,29 +23,6 @@ namespace
 constexpr int kAddPriority = 1;
 constexpr int kMeasurePriority = 0;
 
-/// Music below a folder: folder by folder in natural order.
-QStringList musicBelow(const QString &folder)
-{
-    std::map<QString, QStringList> files; // by folder
-    // Links to folders are not followed, so a search always ends.
-    QDirIterator entries(folder, QDir::Files | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-    while (entries.hasNext()) {
-        const QString path = entries.next();
-        if (isAudioPath(path))
-            files[QFileInfo(path).path()].append(path);
-    }
-    QStringList folders;
-    for (const auto &entry : files)
-        folders.append(entry.first);
-    sortNaturally(&folders);
-    QStringList sorted;
-    for (const QString &name : qAsConst(folders)) {
-        sortNaturally(&files[name]);
-        sorted += files[name];
-    }
-    return sorted;
-}
-
 } // namespace
 
 qint64 soundDuration(const QString &path)
@@ -77,6 +54,30 @@ public:
 private:
     bool isCancelled() const { return m_prober.m_generation != m_generation; }
 
+    /// Music below a folder: folder by folder in natural order.
+    QStringList musicBelow(const QString &folder) const
+    {
+        std::map<QString, QStringList> files; // by folder
+        // Links to folders are not followed, so a search always ends.
+        QDirIterator entries(folder, QDir::Files | QDir::NoDotAndDotDot,
+                             QDirIterator::Subdirectories);
+        while (entries.hasNext() && !isCancelled()) {
+            const QString path = entries.next();
+            if (isAudioPath(path))
+                files[QFileInfo(path).path()].append(path);
+        }
+        QStringList folders;
+        for (const auto &entry : files)
+            folders.append(entry.first);
+        sortNaturally(&folders);
+        QStringList sorted;
+        for (const QString &name : qAsConst(folders)) {
+            sortNaturally(&files[name]);
+            sorted += files[name];
+        }
+        return sorted;
+    }
+
     void lookInto(const QString &given, const QString &folder)
     {
         const QStringList paths = musicBelow(folder);
@@ -102,8 +103,7 @@ private:
             import.tracks.append({QFileInfo(path).absoluteFilePath(), milliseconds});
         }
         const int looked = ++m_looked;
-        m_prober.post(m_generation,
-                      [&prober = m_prober, looked] { emit prober.progress(looked); });
+        m_prober.post(m_generation, [&prober = m_prober, looked] { emit prober.progress(looked); });
     }
 
     AudioProber &m_prober;

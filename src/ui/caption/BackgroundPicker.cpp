@@ -52,9 +52,7 @@ QIcon pictureOf(int index)
 BackgroundPicker::BackgroundPicker(QWidget *parent)
     : QFrame(parent), m_buttons(new QButtonGroup(this))
 {
-    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    policy.setHeightForWidth(true);
-    setSizePolicy(policy);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     for (int i = 0; i < kTitleBackgroundCount; ++i) {
         auto *button = new QPushButton(this);
         button->setObjectName(QStringLiteral("butColor%1").arg(i + 1, 2, 10, QLatin1Char('0')));
@@ -92,11 +90,6 @@ void BackgroundPicker::mark(int index, bool marked)
     m_buttons->button(index)->setGraphicsEffect(marked ? new SelectedColorButtonEffect : nullptr);
 }
 
-int BackgroundPicker::heightForWidth(int width) const
-{
-    return sizeFor(columnsFor(width)).height();
-}
-
 QSize BackgroundPicker::sizeHint() const
 {
     return sizeFor(10);
@@ -111,6 +104,7 @@ void BackgroundPicker::resizeEvent(QResizeEvent *event)
 {
     QFrame::resizeEvent(event);
     const int columns = columnsFor(width());
+    setFixedHeight(sizeFor(columns).height());
     for (int i = 0; i < kTitleBackgroundCount; ++i) {
         const QRect place(QPoint(i % columns * (kButtonSize.width() + kGap),
                                  i / columns * (kButtonSize.height() + kGap)),

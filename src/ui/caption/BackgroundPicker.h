@@ -19,8 +19,6 @@ public:
     /// Marks a background without a signal.
     void setBackground(int index);
 
-    bool hasHeightForWidth() const override { return true; }
-    int heightForWidth(int width) const override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

@@ -22,15 +22,15 @@ namespace velmora
 struct CaptionPictureRequest {
     bool isTitle = false;
     SlideState slide;
-    FrameFormat video; ///< The frame of the video.
-    QSize size;        ///< px; of the picture, in the video's proportions.
-    bool play = false; ///< Let the caption appear with its effect first.
+    FrameFormat video;    ///< The frame of the video.
+    QSize size;           ///< px; of the picture, in the video's proportions.
+    bool play = false;    ///< Let the caption appear with its effect first.
     int milliseconds = 0; ///< How long it takes to appear.
 };
 
 /// Paints pictures of a slide with its caption on a thread of its own, with the code that paints
-/// the video. The newest request wins: older ones that are not begun are dropped, and an effect that
-/// is playing is broken off. GUI thread.
+/// the video. The newest request wins: older ones that are not begun are dropped, and an effect
+/// that is playing is broken off. GUI thread.
 class CaptionPictureMaker : public QObject
 {
     Q_OBJECT

@@ -13,8 +13,8 @@ namespace
 {
 
 constexpr QSize kUsualFrame(16, 9);
-constexpr QSize kUsualSize(480, 270);   // px
-constexpr QSize kLeastSize(240, 100);   // px
+constexpr QSize kUsualSize(480, 270); // px
+constexpr QSize kLeastSize(240, 100); // px
 
 } // namespace
 

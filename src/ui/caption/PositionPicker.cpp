@@ -19,7 +19,7 @@ namespace
 constexpr int kColumns = 3;
 constexpr int kCount = 9;
 constexpr int kCentre = 4;
-constexpr QSize kPictureSize(192, 108); // px
+constexpr QSize kPictureSize(160, 90); // px
 
 struct Place {
     const char *objectName;
@@ -61,9 +61,8 @@ PositionPicker::PositionPicker(QWidget *parent) : QFrame(parent), m_buttons(new 
         button->setAutoDefault(false);
         button->setIconSize({24, 24});
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-        connect(button, &QPushButton::toggled, button, [button, i](bool checked) {
-            button->setIcon(checked ? textIcon(i) : QIcon());
-        });
+        connect(button, &QPushButton::toggled, button,
+                [button, i](bool checked) { button->setIcon(checked ? textIcon(i) : QIcon()); });
         m_buttons->addButton(button, i);
         grid->addWidget(button, i / kColumns, i % kColumns);
     }

@@ -28,7 +28,8 @@ void SelectedColorButtonEffect::draw(QPainter *painter)
     painter->setPen(Qt::NoPen);
     painter->setBrush(QColor(Theme::Primary));
     painter->drawEllipse(tick);
-    painter->setPen(QPen(QColor(Theme::OnPrimary), 1.75, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->setPen(
+        QPen(QColor(Theme::OnPrimary), 1.75, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const QPointF corners[] = {tick.center() + QPointF(-3.5, 0.5), tick.center() + QPointF(-1, 3),
                                tick.center() + QPointF(3.5, -2.5)};
     painter->drawPolyline(corners, 3);

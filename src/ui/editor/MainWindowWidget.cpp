@@ -4,9 +4,11 @@
 #include "chrome/Theme.h"
 #include "project/documents/ProjectFile.h"
 #include "ui/UiLog.h"
+#include "ui/audio/AudioListWidget.h"
+#include "ui/caption/TextEditWidget.h"
 #include "ui/editor/CreatePanel.h"
+#include "ui/editor/EditorSide.h"
 #include "ui/editor/PhotoImports.h"
-#include "ui/editor/SettingsTabs.h"
 #include "ui/editor/SlideActions.h"
 #include "ui/editor/SlidesPage.h"
 #include "ui/editor/VideoSettingsFrame.h"
@@ -17,6 +19,7 @@
 #include <QResizeEvent>
 #include <QStackedWidget>
 #include <QUndoStack>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -26,53 +29,61 @@ namespace velmora
 namespace
 {
 
-constexpr int kGap = 16;              // px
-constexpr int kSmallestSide = 352;    // px
-constexpr int kWidestSide = 672;      // px
-constexpr double kSideShare = 0.34;   // of the page's width
-constexpr int kHeightForAll = 860;    // px of the page with room for all groups of settings
-constexpr int kPreviewControls = 104; // px below and above the preview's picture
+constexpr int kGap = 16;            // px
+constexpr int kSmallestSide = 352;  // px
+constexpr int kWidestSide = 672;    // px
+constexpr double kSideShare = 0.34; // of the page's width
 
 } // namespace
 
 MainWindowWidget::MainWindowWidget(AppSettings &settings, HistoryStore &history, QWidget *parent)
     : QWidget(parent), m_settings(settings), m_editor(settings),
-      m_undo(m_editor.undoStack()->createUndoAction(this)),
-      m_redo(m_editor.undoStack()->createRedoAction(this)),
+      m_undo(new QAction(Theme::icon(QStringLiteral("undo")), tr("Undo"), this)),
+      m_redo(new QAction(Theme::icon(QStringLiteral("redo")), tr("Redo"), this)),
       m_slides(new SlidesPage(m_editor, settings)),
       m_imports(new PhotoImports(m_editor, m_slides->busyNote(), this)),
       m_preview(new PreviewWidget(m_editor, settings)),
-      m_video(new VideoSettingsFrame(m_editor, settings)), m_groups(new SettingsTabs),
-      m_create(new CreatePanel(m_editor, settings, history)), m_side(new QWidget(this)),
-      m_stack(new QStackedWidget(this))
+      m_video(new VideoSettingsFrame(m_editor, settings)), m_audio(new AudioListWidget(m_editor)),
+      m_create(new CreatePanel(m_editor, settings, history)),
+      m_side(new EditorSide(m_preview, m_create)), m_text(new TextEditWidget(m_editor)),
+      m_stack(new QStackedWidget)
 {
-    setUpLayout();
+    setUpSlideStack();
+    setUpSide();
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(kGap, kGap, kGap, kGap);
+    row->setSpacing(kGap);
+    row->addWidget(m_stack, 1);
+    row->addWidget(m_side);
     setUpUndo();
     connectParts();
 }
 
 MainWindowWidget::~MainWindowWidget() = default;
 
-void MainWindowWidget::setUpLayout()
+void MainWindowWidget::setUpSlideStack()
 {
     m_slides->setObjectName(QStringLiteral("pageTable"));
+    auto *textPage = new QWidget;
+    textPage->setObjectName(QStringLiteral("pageText"));
+    auto *column = new QVBoxLayout(textPage);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(m_text);
     m_stack->setObjectName(QStringLiteral("slideStack"));
     m_stack->addWidget(m_slides);
-    m_groups->addGroup(tr("Video"), m_video, 0);
-    connect(m_groups, &SettingsTabs::allShownChanged, m_video,
-            &VideoSettingsFrame::setHeadingVisible);
-    m_video->setHeadingVisible(false);
-    auto *column = new QVBoxLayout(m_side);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(kGap);
-    column->addWidget(m_preview, 1);
-    column->addWidget(m_groups);
-    column->addWidget(m_create);
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(kGap, kGap, kGap, kGap);
-    row->setSpacing(kGap);
-    row->addWidget(m_stack, 1);
-    row->addWidget(m_side);
+    m_stack->addWidget(textPage);
+}
+
+void MainWindowWidget::setUpSide()
+{
+    m_side->setObjectName(QStringLiteral("editorSide"));
+    m_side->addGroup(tr("Video"), m_video, false);
+    m_side->addGroup(tr("Audio"), m_audio, true);
+    const auto showHeading = [this](EditorSide::Mode mode) {
+        m_video->setHeadingVisible(mode == EditorSide::Mode::All);
+    };
+    connect(m_side, &EditorSide::modeChanged, this, showHeading);
+    showHeading(m_side->mode());
 }
 
 void MainWindowWidget::setUpUndo()
@@ -81,28 +92,31 @@ void MainWindowWidget::setUpUndo()
     m_redo->setObjectName(QStringLiteral("actRedo"));
     m_undo->setShortcut(Qt::CTRL + Qt::Key_Z);
     m_redo->setShortcuts({Qt::CTRL + Qt::Key_Y, Qt::CTRL + Qt::SHIFT + Qt::Key_Z});
-    m_undo->setIcon(Theme::icon(QStringLiteral("undo")));
-    m_redo->setIcon(Theme::icon(QStringLiteral("redo")));
+    connect(m_undo, &QAction::triggered, m_editor.undoStack(), &QUndoStack::undo);
+    connect(m_redo, &QAction::triggered, m_editor.undoStack(), &QUndoStack::redo);
     for (QAction *action : {m_undo, m_redo}) {
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         addAction(action);
     }
-    connect(m_editor.undoStack(), &QUndoStack::indexChanged, this,
-            &MainWindowWidget::updateUndoTips);
-    updateUndoTips();
+    connect(m_editor.undoStack(), &QUndoStack::indexChanged, this, &MainWindowWidget::updateUndo);
+    updateUndo();
     m_slides->setUndoActions(m_undo, m_redo);
 }
 
-/// "Undo: Move slides (Ctrl+Z)"
-void MainWindowWidget::updateUndoTips()
+/// "Undo: Move slides (Ctrl+Z)"; not possible while a video is made or a caption is edited.
+void MainWindowWidget::updateUndo()
 {
+    const QUndoStack &stack = *m_editor.undoStack();
+    const bool can = !isGenerating() && !isEditingText();
+    m_undo->setEnabled(can && stack.canUndo());
+    m_redo->setEnabled(can && stack.canRedo());
     const auto tip = [](QAction *action, const QString &name, const QString &step) {
         const QString text =
             step.isEmpty() ? name : tr("%1: %2", "undo or redo, and what").arg(name, step);
         action->setToolTip(SlideActions::toolTip(text, action->shortcut()));
     };
-    tip(m_undo, tr("Undo"), m_editor.undoStack()->undoText());
-    tip(m_redo, tr("Redo"), m_editor.undoStack()->redoText());
+    tip(m_undo, tr("Undo"), stack.undoText());
+    tip(m_redo, tr("Redo"), stack.redoText());
 }
 
 void MainWindowWidget::connectParts()
@@ -110,6 +124,10 @@ void MainWindowWidget::connectParts()
     connect(m_slides, &SlidesPage::filesDropped, this, &MainWindowWidget::onFilesDropped);
     connect(m_slides, &SlidesPage::currentSlideChanged, m_preview, &PreviewWidget::setSlide);
     connect(m_slides, &SlidesPage::previewRequested, this, &MainWindowWidget::onPreviewClicked);
+    connect(m_slides, &SlidesPage::captionRequested, this, &MainWindowWidget::editCaption);
+    connect(m_slides, &SlidesPage::captionOfAllRequested, this,
+            &MainWindowWidget::editCaptionOfAll);
+    connect(m_text, &TextEditWidget::finished, this, &MainWindowWidget::endTextEditing);
     connect(m_slides, &SlidesPage::rotateChanged, this, &MainWindowWidget::rotateChanged);
     connect(m_preview, &PreviewWidget::previewClicked, this, &MainWindowWidget::onPreviewClicked);
     connect(m_create, &CreatePanel::fullPreviewClicked, this, &MainWindowWidget::onFullPreview);
@@ -131,9 +149,9 @@ void MainWindowWidget::setGenerating(bool generating)
     if (generating)
         m_preview->stop();
     m_stack->setEnabled(!generating);
-    m_groups->setEnabled(!generating);
-    m_undo->setEnabled(!generating && m_editor.undoStack()->canUndo());
-    m_redo->setEnabled(!generating && m_editor.undoStack()->canRedo());
+    m_video->setEnabled(!generating);
+    m_audio->setEnabled(!generating);
+    updateUndo();
 }
 
 bool MainWindowWidget::isGenerating() const
@@ -146,19 +164,62 @@ bool MainWindowWidget::isEditingText() const
     return m_stack->currentWidget() != m_slides;
 }
 
+bool MainWindowWidget::hasUnsavedText() const
+{
+    return isEditingText() && m_text->isEdited();
+}
+
+void MainWindowWidget::editCaption(ProjectItem *slide)
+{
+    if (!slide || isGenerating())
+        return;
+    m_text->setItem(slide);
+    beginTextEditing();
+}
+
+void MainWindowWidget::editCaptionOfAll()
+{
+    if (!m_editor.project() || isGenerating())
+        return;
+    m_text->setAllSlides();
+    beginTextEditing();
+}
+
+/// The caption editor has a picture of its own and needs the whole page.
+void MainWindowWidget::beginTextEditing()
+{
+    m_preview->stop();
+    m_stack->setCurrentIndex(1);
+    m_side->hide();
+    updateUndo();
+    emit textEditingBegan(m_editor.project()->items().size());
+}
+
+void MainWindowWidget::endTextEditing()
+{
+    if (!isEditingText())
+        return;
+    m_stack->setCurrentWidget(m_slides);
+    m_side->show();
+    m_slides->focusTable();
+    updateUndo();
+    emit textEditingFinished();
+}
+
 void MainWindowWidget::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     const int width = std::min(
         std::max(static_cast<int>(kSideShare * event->size().width()), kSmallestSide), kWidestSide);
     m_side->setFixedWidth(width);
-    m_preview->setMaximumHeight(width * 9 / 16 + kPreviewControls);
-    m_groups->setAllShown(event->size().height() >= kHeightForAll);
 }
 
 void MainWindowWidget::setProject(ProjectFile *project)
 {
     m_imports->cancel();
+    m_preview->stop();
+    if (isEditingText())
+        m_text->cancel();
     m_editor.setProject(project);
 }
 
@@ -189,11 +250,13 @@ void MainWindowWidget::onRowsMoved(int from, int after)
 
 void MainWindowWidget::onPreviewClicked()
 {
+    m_side->showPreview();
     m_preview->previewSlide();
 }
 
 void MainWindowWidget::onFullPreview()
 {
+    m_side->showPreview();
     m_preview->playFull();
 }
 

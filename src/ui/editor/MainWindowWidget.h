@@ -12,12 +12,14 @@ class QStackedWidget;
 namespace velmora
 {
 
+class AudioListWidget;
 class CreatePanel;
+class EditorSide;
 class HistoryStore;
 class PhotoImports;
 class PreviewWidget;
-class SettingsTabs;
 class SlidesPage;
+class TextEditWidget;
 class VideoSettingsFrame;
 
 /// The editor page: slide table, preview, settings of the slideshow, and the making of the video.
@@ -39,6 +41,8 @@ public:
     bool isGenerating() const;
     /// Whether a caption is being edited; the tool row is of no use meanwhile.
     bool isEditingText() const;
+    /// Whether that caption has changes that are not saved.
+    bool hasUnsavedText() const;
 
 signals:
     void progressStarted();
@@ -66,11 +70,16 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void setUpLayout();
+    void setUpSlideStack();
+    void setUpSide();
     void setUpUndo();
     void connectParts();
-    void updateUndoTips();
+    void updateUndo();
     void setGenerating(bool generating);
+    void editCaption(ProjectItem *slide);
+    void editCaptionOfAll();
+    void beginTextEditing();
+    void endTextEditing();
 
     AppSettings &m_settings;
     ProjectEditor m_editor;
@@ -80,9 +89,10 @@ private:
     PhotoImports *m_imports;
     PreviewWidget *m_preview;
     VideoSettingsFrame *m_video;
-    SettingsTabs *m_groups;
+    AudioListWidget *m_audio;
     CreatePanel *m_create;
-    QWidget *m_side;
+    EditorSide *m_side;
+    TextEditWidget *m_text;
     QStackedWidget *m_stack;
 };
 

@@ -159,8 +159,10 @@ void SlidesPage::setUpButtons()
     connect(m_ui->btnDelete, &QToolButton::clicked, this, &SlidesPage::deleteSelected);
     connect(m_ui->btnTotal, &QPushButton::clicked, this, &SlidesPage::onBtnTotalClicked);
     connect(m_sorter, &SlideSorter::changed, this, &SlidesPage::updateSortButtonStyle);
-    m_ui->btnTotal->setProperty("flat", true);
-    m_ui->btnClear->setProperty("flat", true);
+    for (QPushButton *button : {m_ui->btnTotal, m_ui->btnClear}) {
+        button->setProperty("flat", true);
+        button->setProperty("compact", true);
+    }
     m_ui->btnDefaultTime->setValues(ValueLists::slideTimes());
     m_ui->btnDefaultTransition->setValues(ValueLists::transitions());
     connect(m_ui->btnDefaultTime, &QPopupButton::valueSelected, this,
@@ -204,7 +206,7 @@ void SlidesPage::connectEditor()
         m_told = nullptr; // belongs to the project before
         m_ui->tableView->scrollToTop();
         selectSlides({m_model->slideAt(std::min(1, m_model->rowCount() - 1))});
-        updateControls();
+        updateLater(); // other listeners may not know the project yet
     });
 }
 
@@ -385,6 +387,11 @@ void SlidesPage::updateTotals()
         length = Timeline::ofProject(*m_editor.project(), m_settings.transitionTime).totalLength();
     m_ui->btnTotal->setText(tr("Total: %1").arg(ValueLists::durationText(length)));
     m_ui->btnTotal->setEnabled(shownCount() > 0);
+}
+
+void SlidesPage::focusTable()
+{
+    m_ui->tableView->setFocus();
 }
 
 void SlidesPage::updateFromSettings()

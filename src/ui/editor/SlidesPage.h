@@ -41,6 +41,8 @@ public:
     ProjectItem *currentSlide() const;
     /// The line for work in the background.
     BusyNote &busyNote() { return *m_note; }
+    /// Gives the keys to the table.
+    void focusTable();
     /// Takes over changed settings.
     void updateFromSettings();
     /// Gives the buttons for undo and redo their actions.

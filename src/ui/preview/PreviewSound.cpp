@@ -36,7 +36,7 @@ void PreviewSound::require(const ProjectSound &sound, qint64 length)
 
 bool PreviewSound::isFor(const ProjectSound &sound, qint64 length) const
 {
-    return sound == m_sound && (length == m_length || sound.isEmpty());
+    return sound == m_sound && (length == m_length || sound.isEmpty()) && errorText().isEmpty();
 }
 
 void PreviewSound::retire()
@@ -64,17 +64,17 @@ void PreviewSound::onFinished(SoundPreparation *preparation)
 
 bool PreviewSound::isPending() const
 {
-    return m_current && !m_current->isFinished();
+    return m_current && !m_current->isDone();
 }
 
 QString PreviewSound::track() const
 {
-    return m_current && m_current->isFinished() ? m_current->track() : QString();
+    return m_current ? m_current->track() : QString();
 }
 
 QString PreviewSound::errorText() const
 {
-    return m_current && m_current->isFinished() ? m_current->errorText() : QString();
+    return m_current ? m_current->errorText() : QString();
 }
 
 } // namespace velmora

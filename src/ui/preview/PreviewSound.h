@@ -27,7 +27,8 @@ public:
     /// Asks for the track of a slideshow of @p length ms. Where it is not there yet, changed() says
     /// when it is; an older one is gone with this call.
     void require(const ProjectSound &sound, qint64 length);
-    /// Whether require() was last called with these.
+    /// Whether require() was last called with these, and has not failed: what failed is tried
+    /// again.
     bool isFor(const ProjectSound &sound, qint64 length) const;
     bool isPending() const;
     /// The WAV file; empty when pending, failed, or without music.

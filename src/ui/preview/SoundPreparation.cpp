@@ -22,9 +22,16 @@ SoundPreparation::~SoundPreparation()
 {
     cancel();
     wait();
+    m_done.load(); // what the thread has written is to be destroyed here
 }
 
 void SoundPreparation::run()
+{
+    prepare();
+    m_done = true;
+}
+
+void SoundPreparation::prepare()
 {
     const EncoderLocation encoder = locateEncoder();
     m_cache = std::make_unique<RenderCache>(Paths::cacheFolder());
@@ -33,11 +40,6 @@ void SoundPreparation::run()
         return;
     m_context.encoder = encoder.program;
     m_context.cachePath = m_cache->path();
-    prepare();
-}
-
-void SoundPreparation::prepare()
-{
     VideoUtil util(m_context);
     const QString track = m_sound.prepare(util, m_cache->file(QStringLiteral("audio")), m_length);
     if (m_context.cancelled)

@@ -7,6 +7,9 @@
 
 #include <QThread>
 
+#include <atomic>
+#include <memory>
+
 namespace velmora
 {
 
@@ -23,9 +26,11 @@ public:
 
     void cancel() { m_context.cancelled = true; }
 
-    // After the thread has ended.
-    const QString &track() const { return m_track; } ///< A WAV file; empty on failure.
-    const QString &errorText() const { return m_errorText; }
+    /// The track is there, or cannot be made. Comes before finished().
+    bool isDone() const { return m_done; }
+    // Empty until it is done.
+    QString track() const { return m_done ? m_track : QString(); } ///< A WAV file.
+    QString errorText() const { return m_done ? m_errorText : QString(); }
 
 protected:
     void run() override;
@@ -40,6 +45,7 @@ private:
     std::unique_ptr<RenderCache> m_cache;
     QString m_track;
     QString m_errorText;
+    std::atomic_bool m_done{false}; ///< Hands the members above over to the GUI thread.
 };
 
 } // namespace velmora

@@ -10,6 +10,7 @@
 #include "ui_VideoPlayerWidget.h"
 
 #include <QKeyEvent>
+#include <QScreen>
 
 #include <algorithm>
 #include <limits>
@@ -147,10 +148,12 @@ void VideoPlayerWidget::showFullSize(bool full)
 {
     m_ui->btnFullSize->setIcon(
         Theme::icon(full ? QStringLiteral("fullscreen-exit") : QStringLiteral("fullscreen")));
-    if (full)
+    if (full) {
+        setGeometry(screen()->geometry());
         showFullScreen();
-    else
+    } else {
         show();
+    }
     m_ui->player->setFocus();
 }
 

@@ -97,9 +97,9 @@ void VideoPlayer::paintPlaySign(QPainter &painter) const
 
 void VideoPlayer::paintEmpty(QPainter &painter) const
 {
-    constexpr int kIcon = 48;   // px
+    constexpr QSize kIcon(104, 60);
     constexpr int kMargin = 16; // px
-    constexpr int kGap = 8;     // px
+    constexpr int kGap = 16;    // px
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QColor(Theme::Border));
     painter.setBrush(QColor(hasFocus() ? Theme::AccentFaint : Theme::Window));
@@ -107,10 +107,10 @@ void VideoPlayer::paintEmpty(QPainter &painter) const
                             Theme::Radius);
     const QRect area = rect().adjusted(kMargin, 0, -kMargin, 0);
     QRect text = painter.boundingRect(area, Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
-    text.translate(0, (kIcon + kGap) / 2);
-    Theme::icon(QStringLiteral("film"))
-        .paint(&painter,
-               {rect().center().x() - kIcon / 2, text.top() - kGap - kIcon, kIcon, kIcon});
+    text.translate(0, (kIcon.height() + kGap) / 2);
+    QRect icon({0, 0}, kIcon);
+    icon.moveCenter({text.center().x(), text.top() - kGap - kIcon.height() / 2});
+    Theme::icon(QStringLiteral("photos")).paint(&painter, icon);
     painter.setPen(QColor(Theme::SecondaryText));
     painter.drawText(text, Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
 }

@@ -4,6 +4,7 @@
 import base64
 import hashlib
 import itertools
+import sys
 import threading
 
 CHUNK = 4 * 1024 * 1024
@@ -50,6 +51,7 @@ class Model:
             self.waiting = {}  # number of a page -> query of the sign-in
             self.access = {}  # access token -> service
             self.refresh = {}  # refresh token -> service
+            self.secrets = []  # codes and tokens that were handed out
             self.files = []  # dicts of finished uploads
             self.sessions = {}  # identifier -> Digest
             self.answer = "page"  # to a sign-in: "page", "allow" or "deny"
@@ -59,6 +61,7 @@ class Model:
     def problem(self, text):
         with self.lock:
             self.problems.append(text)
+        print("Fake services: " + text, file=sys.stderr, flush=True)
 
     def next_failure(self, step):
         """The action for this request, or None. {"times": n} serves n requests."""
@@ -77,18 +80,21 @@ class Model:
             # As real ones, it holds characters that need encoding.
             code = "4/0A+%d=&%%x" % next(self.numbers)
             self.sign_ins[code] = query
+            self.secrets.append(code)
             return code
 
     def new_access(self, service):
         with self.lock:
             token = "access-%s-%d-plain/text+token=" % (service, next(self.numbers))
             self.access[token] = service
+            self.secrets.append(token)
             return token
 
     def new_refresh(self, service):
         with self.lock:
             token = "1//refresh-%s-%d+secret=" % (service, next(self.numbers))
             self.refresh[token] = service
+            self.secrets.append(token)
             return token
 
     def store(self, service, title, digest):
@@ -100,6 +106,9 @@ class Model:
                 "size": digest.size,
                 "sha256": digest.hash.hexdigest(),
             }
+            if service == "dropbox":
+                # Storing a file under a name that exists replaces it.
+                self.files = [file for file in self.files if file["title"] != title]
             self.files.append(entry)
             return entry
 

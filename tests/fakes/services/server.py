@@ -120,13 +120,14 @@ class Handler(BaseHTTPRequestHandler):
         elif action.get("hang"):
             self.server.model.stopping.wait()
             self.cut()
-        elif action.get("endless"):
-            self.send_endless()
         else:
             if not action.get("early"):
                 for _ in self.body.pieces():
                     pass
-            self.send_failure(action)
+            if action.get("endless"):
+                self.send_endless()
+            else:
+                self.send_failure(action)
         return False
 
     def send_failure(self, action):
@@ -161,7 +162,7 @@ class Handler(BaseHTTPRequestHandler):
         if self.path == "/_log":
             with model.lock:
                 return as_json(200, {"requests": model.requests, "problems": model.problems,
-                                     "files": model.files})
+                                     "files": model.files, "secrets": model.secrets})
         if self.path == "/_decide":
             query = model.waiting.pop(int(values.get("page", 0)), None)
             if query:

@@ -93,10 +93,10 @@ public:
         m_controller->upload(service, file, title, nullptr);
     }
     /// Waits for the end.
-    const UploadCourse &wait()
+    const UploadCourse &wait(int timeoutMs = 30000)
     {
         QEventLoop loop;
-        QTimer::singleShot(120000, &loop, &QEventLoop::quit);
+        QTimer::singleShot(timeoutMs, &loop, &QEventLoop::quit);
         m_onEnd = [&loop] { loop.quit(); };
         if (course.ends() == 0)
             loop.exec();

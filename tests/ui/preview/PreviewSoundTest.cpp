@@ -41,7 +41,7 @@ private slots:
     void isMadeAgainOnlyForAChange_data();
     void isMadeAgainOnlyForAChange();
     void lastRequestCounts();
-    void unreadableMusicIsNamed();
+    void unreadableMusicIsNamedAndTriedAgain();
     void noMusicNeedsNoTrack();
 
 private:
@@ -188,7 +188,7 @@ void PreviewSoundTest::lastRequestCounts()
     m_sound->require(sound(), kLength); // and one that ends in the middle of its work
 }
 
-void PreviewSoundTest::unreadableMusicIsNamed()
+void PreviewSoundTest::unreadableMusicIsNamedAndTriedAgain()
 {
     ProjectSound wanted = sound();
     wanted.list.items[1].fileName = m_music.filePath(QStringLiteral("gone.mp3"));
@@ -197,6 +197,13 @@ void PreviewSoundTest::unreadableMusicIsNamed()
     QVERIFY(m_sound->track().isEmpty());
     QVERIFY2(m_sound->errorText().contains(QLatin1String("gone.mp3")),
              qPrintable(m_sound->errorText()));
+
+    // Once it is back, the same request succeeds.
+    QVERIFY(MediaSamples::makeTone(wanted.list.items.at(1).fileName, {440, 1, 44100, 2}));
+    m_sound->require(wanted, kLength);
+    QTRY_VERIFY_WITH_TIMEOUT(!m_sound->isPending(), kPatience);
+    QVERIFY2(!m_sound->track().isEmpty(), qPrintable(m_sound->errorText()));
+    QVERIFY(QFile::remove(wanted.list.items.at(1).fileName));
 }
 
 void PreviewSoundTest::noMusicNeedsNoTrack()

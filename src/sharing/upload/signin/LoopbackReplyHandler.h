@@ -21,6 +21,8 @@ public:
 
     /// Begins to listen on 127.0.0.1; false when the port is taken.
     bool open();
+    /// Frees the port.
+    void shut() { m_loopback.close(); }
     /// What the callback's "state" must be.
     void setState(const QString &state) { m_state = state; }
     /// Goes on as if the browser had come back with @p code.

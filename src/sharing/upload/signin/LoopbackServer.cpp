@@ -38,6 +38,14 @@ LoopbackServer::LoopbackServer(Responder responder, QObject *parent)
     connect(&m_server, &QTcpServer::newConnection, this, &LoopbackServer::takeConnections);
 }
 
+LoopbackServer::~LoopbackServer()
+{
+    // The sockets, children of the server, end with it and would still report that.
+    const auto sockets = m_server.findChildren<QTcpSocket *>();
+    for (QTcpSocket *socket : sockets)
+        socket->disconnect(this);
+}
+
 bool LoopbackServer::listen(quint16 port)
 {
     if (m_server.listen(QHostAddress::LocalHost, port))
@@ -105,6 +113,7 @@ void LoopbackServer::answer(QTcpSocket *socket, const Reply &reply)
                   "\r\nX-Content-Type-Options: nosniff\r\nContent-Security-Policy: default-src "
                   "'none'; img-src data:; style-src 'unsafe-inline'\r\n\r\n" +
                   body);
+    socket->flush(); // The sign-in, and this server, may end right now.
     socket->disconnectFromHost();
 }
 

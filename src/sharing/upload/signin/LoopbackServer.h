@@ -27,10 +27,12 @@ public:
     using Responder = std::function<Reply(const CallbackRequest &)>;
 
     explicit LoopbackServer(Responder responder, QObject *parent = nullptr);
+    ~LoopbackServer() override;
 
     /// False when the port is taken.
     bool listen(quint16 port);
-    quint16 port() const { return m_server.serverPort(); }
+    /// Takes no further connections; those that are there get their answers.
+    void close() { m_server.close(); }
 
 private:
     void takeConnections();

@@ -45,12 +45,12 @@ void addChallenge(QVariantMap &parameters, const QByteArray &verifier)
         encode(parameters, QLatin1String(key));
 }
 
-void addVerifier(QVariantMap &parameters, const QByteArray &verifier, const ServiceSetup &setup)
+// What the address has already is not written a second time.
+void removeWritten(QVariantMap &parameters, const QUrl &address)
 {
-    parameters.insert(QStringLiteral("code_verifier"), QString::fromLatin1(verifier));
-    parameters.insert(QStringLiteral("client_id"), queryValue(setup.clientId));
-    parameters.insert(QStringLiteral("client_secret"), queryValue(setup.clientSecret));
-    encode(parameters, QStringLiteral("code"));
+    const auto written = QUrlQuery(address).queryItems();
+    for (const auto &item : written)
+        parameters.remove(item.first);
 }
 
 } // namespace
@@ -60,8 +60,24 @@ SignIn::SignIn(const ServiceSetup &setup, QNetworkAccessManager *network,
     : QObject(parent), m_network(network), m_handler(std::move(handler)),
       m_flow(new QOAuth2AuthorizationCodeFlow(network, this))
 {
+    // Before the flow connects, which then asks for the token's parameters.
+    connect(m_handler.get(), &QAbstractOAuthReplyHandler::callbackReceived, this,
+            [this](const QVariantMap &values) {
+                m_code = values.value(QStringLiteral("code")).toString();
+                m_exchanging = true;
+            });
+    const auto exchanged = [this] { m_exchanging = false; };
+    connect(m_handler.get(), &QAbstractOAuthReplyHandler::tokensReceived, this, exchanged);
+    connect(m_handler.get(), &LoopbackReplyHandler::tokensRefused, this, exchanged);
     configure(setup);
-    connect(m_flow, &QAbstractOAuth::authorizeWithBrowser, this, &SignIn::openPage);
+    connect(m_flow, &QAbstractOAuth::authorizeWithBrowser, this,
+            [this, written = setup.authorizationUrl.query(QUrl::FullyEncoded)](QUrl address) {
+                // The flow replaces a query that the address has already.
+                if (!written.isEmpty())
+                    address.setQuery(written + QLatin1Char('&') +
+                                     address.query(QUrl::FullyEncoded));
+                emit openPage(address);
+            });
     connect(m_flow, &QAbstractOAuth::granted, this,
             [this] { emit granted(m_flow->token(), m_flow->refreshToken()); });
     connect(m_flow, &QAbstractOAuth2::error, this, &SignIn::failed);
@@ -71,6 +87,8 @@ SignIn::SignIn(const ServiceSetup &setup, QNetworkAccessManager *network,
 
 SignIn::~SignIn()
 {
+    if (!m_exchanging)
+        return;
     // The flow's request would go to the handler even after its end.
     const auto replies = m_network->findChildren<QNetworkReply *>();
     for (QNetworkReply *reply : replies) {
@@ -93,18 +111,27 @@ void SignIn::configure(const ServiceSetup &setup)
     m_flow->setScope(setup.scope);
     m_flow->setState(state);
     m_flow->setModifyParametersFunction(
-        [verifier, setup](QAbstractOAuth::Stage stage, QVariantMap *parameters) {
+        [this, verifier, setup](QAbstractOAuth::Stage stage, QVariantMap *parameters) {
             if (stage == QAbstractOAuth::Stage::RequestingAuthorization) {
                 if (setup.scope.isEmpty())
                     parameters->remove(QStringLiteral("scope"));
                 addChallenge(*parameters, verifier);
-                const QUrlQuery written(setup.authorizationUrl);
-                for (const auto &item : written.queryItems())
-                    parameters->remove(item.first);
+                removeWritten(*parameters, setup.authorizationUrl);
             } else if (stage == QAbstractOAuth::Stage::RequestingAccessToken) {
-                addVerifier(*parameters, verifier, setup);
+                *parameters = tokenParameters(setup, QString::fromLatin1(verifier));
             }
         });
+}
+
+// All of them anew: which values the flow has encoded depends on its version.
+QVariantMap SignIn::tokenParameters(const ServiceSetup &setup, const QString &verifier) const
+{
+    return {{QStringLiteral("grant_type"), QStringLiteral("authorization_code")},
+            {QStringLiteral("code"), queryValue(m_code)},
+            {QStringLiteral("redirect_uri"), queryValue(m_handler->callback())},
+            {QStringLiteral("client_id"), queryValue(setup.clientId)},
+            {QStringLiteral("client_secret"), queryValue(setup.clientSecret)},
+            {QStringLiteral("code_verifier"), verifier}};
 }
 
 bool SignIn::start()
@@ -113,6 +140,12 @@ bool SignIn::start()
         return false;
     m_flow->grant();
     return true;
+}
+
+void SignIn::stop()
+{
+    m_handler->shut();
+    disconnect();
 }
 
 void SignIn::acceptCode(const QString &code)

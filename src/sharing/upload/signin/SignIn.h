@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QUrl>
+#include <QVariantMap>
 
 #include <memory>
 
@@ -22,13 +23,15 @@ class SignIn : public QObject
 {
     Q_OBJECT
 public:
-    /// @p network must outlive it, and serves nobody else meanwhile.
+    /// @p network must outlive it, and serves nobody else until the sign-in ends.
     SignIn(const ServiceSetup &setup, QNetworkAccessManager *network,
            std::unique_ptr<LoopbackReplyHandler> handler, QObject *parent = nullptr);
     ~SignIn() override;
 
     /// False when the port for the browser's return is taken; then nothing more comes.
     bool start();
+    /// Frees the port at once; nothing more comes.
+    void stop();
     /// Goes on with a code that came another way than through the browser's return.
     void acceptCode(const QString &code);
 
@@ -40,10 +43,13 @@ signals:
 
 private:
     void configure(const ServiceSetup &setup);
+    QVariantMap tokenParameters(const ServiceSetup &setup, const QString &verifier) const;
 
     QNetworkAccessManager *m_network;
     std::unique_ptr<LoopbackReplyHandler> m_handler;
     QOAuth2AuthorizationCodeFlow *m_flow;
+    QString m_code;            ///< That the browser brought.
+    bool m_exchanging = false; ///< The code, for tokens.
 };
 
 } // namespace velmora

@@ -39,7 +39,7 @@ QVariantMap readQuery(const QByteArray &query)
     for (int i = 0; i < std::min(items.size(), kMostItems); ++i) {
         const QByteArray &item = items.at(i);
         const int equals = item.indexOf('=');
-        const QString key = decoded(item.left(equals));
+        const QString key = decoded(item.mid(0, equals));
         if (!key.isEmpty() && !values.contains(key))
             values.insert(key, equals < 0 ? QString() : decoded(item.mid(equals + 1)));
     }
@@ -59,7 +59,7 @@ std::optional<CallbackRequest> CallbackRequest::parse(const QByteArray &line)
     const int question = target.indexOf('?');
     CallbackRequest request;
     request.method = words.at(0);
-    request.path = QString::fromUtf8(QByteArray::fromPercentEncoding(target.left(question)));
+    request.path = QString::fromUtf8(QByteArray::fromPercentEncoding(target.mid(0, question)));
     if (question >= 0)
         request.values = readQuery(target.mid(question + 1));
     return request;

@@ -58,7 +58,7 @@ bool isSendable(const QString &token)
 
 TokenAnswer TokenAnswer::parse(const QByteArray &contentType, const QByteArray &body)
 {
-    const QByteArray type = contentType.left(contentType.indexOf(';')).trimmed().toLower();
+    const QByteArray type = contentType.mid(0, contentType.indexOf(';')).trimmed().toLower();
     if (type.isEmpty())
         return refused(QStringLiteral("Empty Content-type header"));
     if (body.isEmpty())
