@@ -828,7 +828,7 @@
     </message>
     <message>
         <source>Random</source>
-        <translation>Случайный</translation>
+        <translation>Любой</translation>
     </message>
     <message>
         <source>Pixelate</source>

@@ -216,6 +216,7 @@ void TextEditWidgetTest::escapeAsksOnlyAfterChanges()
     for (const char *button : {"button1", "button0"}) { // keep, then discard
         if (!m_widget->item())
             m_widget->setItem(slide(1));
+        QApplication::setActiveWindow(m_widget->window()); // A closed dialog may leave none active.
         QTest::keyClicks(&text, QStringLiteral("x"));
         QTimer::singleShot(0, this, [&asked, button] {
             QWidget *dialog = QApplication::activeModalWidget();
