@@ -11,6 +11,7 @@
 
 class QAction;
 class QItemSelection;
+class QLabel;
 
 namespace Ui
 {
@@ -84,6 +85,7 @@ private:
     void setUpTable();
     void setUpActions();
     void setUpButtons();
+    void retranslate();
     void connectEditor();
     void keepSelection();
     void restoreSelection();
