@@ -98,7 +98,8 @@ QString UpdateChecker::newerVersion(const QByteArray &answer, const QString &own
 {
     if (answer.size() > kMaximumAnswer)
         return {};
-    const auto offered = ProgramVersion::parse(QString::fromUtf8(answer));
+    const auto offered =
+        ProgramVersion::parse(QString::fromUtf8(answer.constData(), answer.size()));
     const auto own = ProgramVersion::parse(ownVersion);
     return offered && own && *own < *offered ? offered->toString() : QString();
 }

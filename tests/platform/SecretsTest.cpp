@@ -45,6 +45,7 @@ private slots:
     void unprotectMakesNoKey();
     void unwritableFolderFails();
     void oneKeyOfMany();
+    void desktopKeyRing();
 };
 
 void SecretsTest::comesBack_data()
@@ -175,6 +176,23 @@ void SecretsTest::oneKeyOfMany()
         thread.join();
     for (const QByteArray &each : sealed)
         QCOMPARE(secretsIn(folder)->unprotect(each), std::optional<QByteArray>("token"));
+}
+
+// With VELMORA_TEST_KEY_RING set this uses the session's Secret Service, which should then be one
+// for the test alone; otherwise there is none, and a key file stands in for it.
+void SecretsTest::desktopKeyRing()
+{
+    const bool keyRing = qEnvironmentVariableIsSet("VELMORA_TEST_KEY_RING");
+    if (!keyRing)
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
+    const QTemporaryDir folder;
+    const auto sealed = createSecrets(folder.path())->protect("token");
+    QVERIFY(sealed);
+    QCOMPARE(QDir(folder.path()).isEmpty(), keyRing);
+    QCOMPARE(createSecrets(folder.path())->unprotect(*sealed), std::optional<QByteArray>("token"));
+    // A second token does not replace the key of the first.
+    QVERIFY(createSecrets(folder.path())->protect("another"));
+    QCOMPARE(createSecrets(folder.path())->unprotect(*sealed), std::optional<QByteArray>("token"));
 }
 
 QTEST_GUILESS_MAIN(SecretsTest)

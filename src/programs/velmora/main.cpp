@@ -81,6 +81,7 @@ int runProgram(velmora::Application &application, const QStringList &files)
     QTimer::singleShot(0, &window, [&window, &early, files] {
         window.offerRestore();
         window.openFiles(files);
+        window.runUpdateChecker();
         for (const QString &text : qAsConst(early))
             window.onMessageReceived(text);
     });

@@ -20,6 +20,8 @@ namespace velmora
 namespace
 {
 
+constexpr int kPictures = 200; ///< Kept in memory.
+
 /// The first photo of a slideshow, which stands for it.
 QString firstPhoto(const ProjectFile &project)
 {
@@ -55,6 +57,7 @@ void HistoryListView::setHistory(HistoryModel *model)
     m_history = model;
     setModel(model);
     connect(model, &QAbstractItemModel::modelReset, this, &HistoryListView::updateRows);
+    connect(model, &QAbstractItemModel::layoutChanged, this, &HistoryListView::updateRows);
     connect(model, &QAbstractItemModel::dataChanged, this,
             [this](const QModelIndex &first, const QModelIndex &last) {
                 refreshRows(first.row(), last.row());
@@ -71,6 +74,10 @@ void HistoryListView::updateRows()
     if (!m_history || !isVisible())
         return;
     executeDelayedItemsLayout();
+    if (m_requests.size() > kPictures) {
+        m_pictures->clear();
+        m_requests.clear();
+    }
     const int height = HistoryColumns::RowHeight;
     const int first = verticalScrollBar()->value() / height;
     const int last = std::min(first + viewport()->height() / height + 1, m_history->rowCount() - 1);

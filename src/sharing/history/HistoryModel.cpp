@@ -62,6 +62,11 @@ void HistoryModel::reload()
     m_prober->look(files);
 }
 
+const ProjectFile *HistoryModel::project(int row) const
+{
+    return row >= 0 && row < m_order.size() ? m_entries.at(m_order.at(row)).project : nullptr;
+}
+
 HistoryEntry HistoryModel::entry(int row) const
 {
     if (row < 0 || row >= m_order.size())
@@ -94,11 +99,9 @@ int HistoryModel::rowOf(const QString &fileName) const
 
 void HistoryModel::sortBy(Key key)
 {
-    beginResetModel();
     m_ascending = key == m_key ? !m_ascending : key == Key::FileName;
     m_key = key;
-    sort();
-    endResetModel();
+    sortRows();
 }
 
 /// The history is in the order of production; a video that is gone stands where it was made.
@@ -113,6 +116,20 @@ QVector<qint64> HistoryModel::dateKeys() const
         keys.append(before);
     }
     return keys;
+}
+
+/// Sorts what is shown, so that selection and widgets move with their rows.
+void HistoryModel::sortRows()
+{
+    const QVector<int> before = m_order;
+    emit layoutAboutToBeChanged();
+    sort();
+    const QModelIndexList from = persistentIndexList();
+    QModelIndexList to;
+    for (const QModelIndex &index : from)
+        to.append(this->index(m_order.indexOf(before.at(index.row()))));
+    changePersistentIndexList(from, to);
+    emit layoutChanged();
 }
 
 void HistoryModel::sort()
@@ -146,16 +163,9 @@ void HistoryModel::onLooked(const QHash<QString, VideoFacts> &facts)
         if (found != facts.constEnd())
             entry.facts = *found;
     }
-    const QVector<int> before = m_order;
-    sort();
-    if (m_order != before) {
-        m_order = before;
-        beginResetModel();
-        sort();
-        endResetModel();
-    } else if (!m_order.isEmpty()) {
+    sortRows();
+    if (!m_order.isEmpty())
         emit dataChanged(index(0), index(m_order.size() - 1));
-    }
 }
 
 void HistoryModel::probe(int row)

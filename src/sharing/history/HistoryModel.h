@@ -36,9 +36,10 @@ public:
     /// The file's name for display, the full path as tool tip.
     QVariant data(const QModelIndex &index, int role) const override;
 
-    /// Reads the list from the history again. Between a change of the history and this call the
-    /// model must not be used.
+    /// Reads the list from the history again. Between a change of the history and this call only
+    /// project() may be used, for comparing.
     void reload();
+    const ProjectFile *project(int row) const; ///< Null where there is no such row.
     /// A copy, so that it can be kept over changes of the model.
     HistoryEntry entry(int row) const;
     /// The row of an entry; -1 when it is not listed.
@@ -58,6 +59,7 @@ private:
     void onLooked(const QHash<QString, VideoFacts> &facts);
     void onProbed(const QString &fileName);
     void sort();
+    void sortRows();
     QVector<qint64> dateKeys() const;
 
     const HistoryStore &m_history;

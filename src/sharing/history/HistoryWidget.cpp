@@ -98,7 +98,7 @@ void HistoryWidget::setUploads(UploadController *uploads)
 const ProjectFile *HistoryWidget::selectedProject() const
 {
     const QModelIndexList selected = m_ui->listHistory->selectionModel()->selectedIndexes();
-    return selected.isEmpty() ? nullptr : m_model->entry(selected.first().row()).project;
+    return selected.isEmpty() ? nullptr : m_model->project(selected.first().row());
 }
 
 QString HistoryWidget::selectedFile() const
@@ -120,7 +120,7 @@ bool HistoryWidget::select(const ProjectFile *entry)
 
 bool HistoryWidget::select(const QString &fileName)
 {
-    return select(m_model->entry(m_model->rowOf(fileName)).project);
+    return select(m_model->project(m_model->rowOf(fileName)));
 }
 
 void HistoryWidget::reload()
@@ -129,7 +129,7 @@ void HistoryWidget::reload()
     const ProjectFile *selected = selectedProject();
     m_model->reload();
     if (!select(selected) && m_model->rowCount() > 0)
-        select(m_model->entry(qBound(0, current.row(), m_model->rowCount() - 1)).project);
+        select(m_model->project(qBound(0, current.row(), m_model->rowCount() - 1)));
     showSortArrow();
     updateButtons();
 }
@@ -158,17 +158,13 @@ void HistoryWidget::updateButtons()
 
 void HistoryWidget::onBtnDateClicked()
 {
-    const ProjectFile *selected = selectedProject();
     m_model->sortBy(HistoryModel::Key::Date);
-    select(selected);
     showSortArrow();
 }
 
 void HistoryWidget::onBtnFileNameClicked()
 {
-    const ProjectFile *selected = selectedProject();
     m_model->sortBy(HistoryModel::Key::FileName);
-    select(selected);
     showSortArrow();
 }
 
@@ -204,7 +200,7 @@ void HistoryWidget::onDeleteProject(const QString &fileName)
 {
     const ProjectFile *project = selectedProject();
     if (!project || project->fileName() != fileName)
-        project = m_model->entry(m_model->rowOf(fileName)).project;
+        project = m_model->project(m_model->rowOf(fileName));
     if (!project)
         return;
     MessageDialog::Message message;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sharing/upload/UploadFailWindow.h"
 
+#include "services/MetricSender.h"
 #include "ui_UploadFailWindow.h"
 
 namespace velmora
@@ -17,6 +18,7 @@ UploadFailWindow::UploadFailWindow(const QString &error, QWidget *parent) : CorD
     form.lblError->setText(error);
     form.lblError->setVisible(!error.isEmpty());
     connect(form.btnClose, &QPushButton::clicked, this, &QDialog::reject);
+    MetricSender::instance().record(QStringLiteral("upld"), QStringLiteral("failed"));
     form.btnClose->setDefault(true);
     form.btnClose->setFocus();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sharing/upload/UploadSuccessWindow.h"
 
+#include "services/MetricSender.h"
 #include "sharing/SharingLog.h"
 #include "sharing/upload/UploadServices.h"
 #include "ui_UploadSuccessWindow.h"
@@ -37,6 +38,8 @@ UploadSuccessWindow::UploadSuccessWindow(const QString &serviceKey, const QStrin
     form.lblPicture->setPixmap(QIcon(QStringLiteral(":/images/images/done.png")).pixmap(40, 40));
     form.lblText->setText(form.lblText->text().arg(service ? service->successName : serviceKey));
     setAccessibleDescription(form.lblText->text());
+
+    MetricSender::instance().record(QStringLiteral("upld"), QStringLiteral("ok"));
 
     const QUrl address = webAddress(fileUrl);
     form.btnOpen->setProperty("service", serviceKey);

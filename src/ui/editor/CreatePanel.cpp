@@ -30,6 +30,7 @@ namespace
 {
 
 constexpr int kProgressInterval = 500; // ms
+constexpr int kRoundButton = 52;       // px of a button with a picture only
 constexpr int kFinalPercent = 99;      // the frames are done, the file is put together
 
 } // namespace
@@ -59,7 +60,8 @@ void CreatePanel::setUpPages()
 {
     setProperty("card", true);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    for (QPushButton *button : {m_ui->btnCreate, m_ui->btnFullPreview, m_ui->btnPauseResume})
+    for (QPushButton *button :
+         {m_ui->btnCreate, m_ui->btnFullPreview, m_ui->btnPauseResume, m_ui->btnCancel})
         button->setIconSize({20, 20});
     const QKeySequence create(Qt::CTRL + Qt::Key_Return);
     const QKeySequence preview(Qt::CTRL + Qt::Key_P);
@@ -76,7 +78,11 @@ void CreatePanel::setUpPages()
     m_ui->lblElapsedTime->setProperty("secondary", true);
     m_ui->lblRemTime->setProperty("secondary", true);
     m_ui->progressBar->setTextVisible(false);
-    m_ui->btnCancel->setToolTip(tr("Stop making the video"));
+    m_ui->btnCancel->setIcon(Theme::icon(QStringLiteral("close")));
+    m_ui->btnCancel->setAccessibleName(tr("Cancel"));
+    m_ui->btnCancel->setToolTip(tr("Cancel"));
+    for (QPushButton *button : {m_ui->btnPauseResume, m_ui->btnCancel})
+        button->setFixedWidth(kRoundButton);
     for (const auto &format : ValueLists::formats())
         m_ui->cbxFormat->addItem(format.first, format.second);
     connect(m_ui->cbxFormat, QOverload<int>::of(&QComboBox::activated), this,

@@ -22,7 +22,8 @@ constexpr int kLeastPreview = 264;    // px that are worth a preview beside the 
 
 EditorSide::EditorSide(QWidget *preview, QWidget *create, QWidget *parent)
     : QWidget(parent), m_preview(preview), m_create(create), m_bar(new QTabBar(this)),
-      m_box(new QWidget(this)), m_column(new QVBoxLayout(this)), m_boxColumn(new QVBoxLayout(m_box))
+      m_box(new QWidget(this)), m_rest(new QWidget(this)), m_column(new QVBoxLayout(this)),
+      m_boxColumn(new QVBoxLayout(m_box))
 {
     m_bar->setObjectName(QStringLiteral("sideTabs"));
     m_bar->setAccessibleName(tr("Preview and settings"));
@@ -32,12 +33,13 @@ EditorSide::EditorSide(QWidget *preview, QWidget *create, QWidget *parent)
     m_boxColumn->setContentsMargins(0, 0, 0, 0);
     m_boxColumn->setSpacing(kGap);
     m_column->setContentsMargins(0, 0, 0, 0);
-    m_column->setSpacing(0);
-    m_column->addWidget(m_preview, 1);
+    m_column->setSpacing(kTabGap);
+    m_rest->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    m_column->addWidget(m_preview, 1000); // up to its greatest height
     m_column->addWidget(m_bar);
-    m_column->addSpacing(kTabGap);
-    m_column->addWidget(m_box);
-    m_column->addSpacing(kGap);
+    m_column->addWidget(m_box, 1);
+    m_column->addWidget(m_rest, 1);
+    m_column->addSpacing(kGap - kTabGap);
     m_column->addWidget(m_create);
     connect(m_bar, &QTabBar::currentChanged, this, &EditorSide::showParts);
 }
@@ -54,6 +56,14 @@ void EditorSide::showPreview()
 {
     if (m_mode == Mode::Tabs)
         m_bar->setCurrentIndex(0);
+}
+
+QSize EditorSide::minimumSizeHint() const
+{
+    const int part = std::max(m_preview->minimumSizeHint().height(), tallestGroup() + kTabGap);
+    const int height =
+        m_bar->sizeHint().height() + part + kGap + m_create->minimumSizeHint().height();
+    return {m_column->minimumSize().width(), height};
 }
 
 bool EditorSide::event(QEvent *event)
@@ -113,15 +123,19 @@ void EditorSide::setMode(Mode mode)
 
 void EditorSide::showParts()
 {
+    const bool alone = m_mode == Mode::Tabs;
     // Without the preview's own tab, the first one stands for the first group.
-    m_bar->setTabVisible(0, m_mode == Mode::Tabs);
-    const bool tabs = m_mode != Mode::All && !m_groups.isEmpty();
-    m_bar->setVisible(tabs);
+    if (!alone && m_bar->currentIndex() == 0)
+        m_bar->setCurrentIndex(1);
+    m_bar->setTabVisible(0, alone);
+    m_bar->setVisible(m_mode != Mode::All);
     const int shown = m_bar->currentIndex();
-    m_preview->setVisible(m_mode != Mode::Tabs || shown == 0);
-    m_box->setVisible(m_mode != Mode::Tabs || shown > 0);
+    const bool previewAlone = alone && shown == 0;
+    m_preview->setVisible(!alone || previewAlone);
+    m_rest->setVisible(previewAlone);
+    m_box->setVisible(!previewAlone);
+    m_boxColumn->setContentsMargins(0, m_mode == Mode::All ? kGap - kTabGap : 0, 0, 0);
     m_box->setMinimumHeight(m_mode == Mode::PreviewAndTabs ? tallestGroup() : 0);
-    m_column->setStretchFactor(m_box, m_mode == Mode::PreviewAndTabs ? 0 : 1);
     for (int i = 0; i < m_groups.size(); ++i)
         m_groups.at(i)->setVisible(m_mode == Mode::All || i + 1 == std::max(1, shown));
 }

@@ -28,6 +28,9 @@ public:
     /// Brings the preview to sight.
     void showPreview();
 
+    /// What the tabs need, whatever is shown now: a window can always become smaller again.
+    QSize minimumSizeHint() const override;
+
 signals:
     void modeChanged(velmora::EditorSide::Mode mode);
 
@@ -46,7 +49,8 @@ private:
     QWidget *m_preview;
     QWidget *m_create;
     QTabBar *m_bar;
-    QWidget *m_box; ///< Holds the groups.
+    QWidget *m_box;  ///< Holds the groups.
+    QWidget *m_rest; ///< Takes the height that a preview by itself leaves.
     QVBoxLayout *m_column;
     QVBoxLayout *m_boxColumn;
     QVector<QWidget *> m_groups;

@@ -159,8 +159,10 @@ void SlidesPage::setUpButtons()
     connect(m_ui->btnDelete, &QToolButton::clicked, this, &SlidesPage::deleteSelected);
     connect(m_ui->btnTotal, &QPushButton::clicked, this, &SlidesPage::onBtnTotalClicked);
     connect(m_sorter, &SlideSorter::changed, this, &SlidesPage::updateSortButtonStyle);
-    m_ui->btnTotal->setProperty("flat", true);
-    m_ui->btnClear->setProperty("flat", true);
+    for (QPushButton *button : {m_ui->btnTotal, m_ui->btnClear}) {
+        button->setProperty("flat", true);
+        button->setProperty("compact", true);
+    }
     m_ui->btnDefaultTime->setValues(ValueLists::slideTimes());
     m_ui->btnDefaultTransition->setValues(ValueLists::transitions());
     connect(m_ui->btnDefaultTime, &QPopupButton::valueSelected, this,

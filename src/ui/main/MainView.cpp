@@ -6,6 +6,7 @@
 #include "platform/DesktopNotification.h"
 #include "platform/TaskbarProgress.h"
 #include "sharing/burning/BurnDialog.h"
+#include "sharing/history/FinalWindow.h"
 #include "sharing/history/HistoryWidget.h"
 #include "ui/UiLog.h"
 #include "ui/editor/MainWindowWidget.h"
@@ -19,6 +20,7 @@
 #include "ui/main/StartMessage.h"
 #include "ui/main/StartPage.h"
 #include "ui/main/ToolRow.h"
+#include "ui/main/UpdateNotice.h"
 #include "ui/main/WindowGeometry.h"
 #include "ui/settings/SettingsWidget.h"
 
@@ -26,6 +28,8 @@
 #include <QFileInfo>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace velmora
 {
@@ -36,6 +40,7 @@ MainView::MainView(const Parts &parts)
       m_editor(new MainWindowWidget(parts.settings, parts.history)),
       m_history(new HistoryWidget(parts.history, parts.settings)), m_settingsPanel(nullptr),
       m_help(new HelpPages(parts.services, *m_editor, this)),
+      m_updates(new UpdateNotice(parts.services, parts.store, this)),
       m_document(std::make_unique<ProjectDocument>(*m_editor, parts.settings)),
       m_autosave(std::make_unique<Autosave>(*m_document, m_editor->editor(), Paths::dataFolder(),
                                             Autosave::intervalOf(parts.store))),
@@ -48,19 +53,17 @@ MainView::MainView(const Parts &parts)
     connectStartPage();
     connectEditor();
     connectHistory();
-    connect(m_actions, &DocumentActions::opened, this, [this] { showPage(Editor); });
-    connect(m_actions, &DocumentActions::closed, this, [this] { showPage(Start); });
+    connect(m_updates, &UpdateNotice::newVersion, this, &MainView::onNewVersion);
+    connect(&parts.notification, &DesktopNotification::activated, this, &CorWindow::bringToFront);
+    connect(m_actions, &DocumentActions::opened, this,
+            [this] { m_stack->setCurrentIndex(Editor); });
+    connect(m_actions, &DocumentActions::closed, this, [this] { m_stack->setCurrentIndex(Start); });
     onPageChanged(Start);
     updateLastVideo();
     WindowGeometry::restore(this, parts.store);
 }
 
-MainView::~MainView()
-{
-    // The document lets go of the editor page, so it has to end first.
-    m_autosave.reset();
-    m_document.reset();
-}
+MainView::~MainView() = default;
 
 void MainView::setUpPages()
 {
@@ -145,15 +148,10 @@ MainView::Page MainView::page() const
     return static_cast<Page>(m_stack->currentIndex());
 }
 
-void MainView::showPage(Page page)
-{
-    m_stack->setCurrentIndex(page);
-}
-
 void MainView::leaveHistory()
 {
     if (page() == History)
-        showPage(m_document->project() ? Editor : Start);
+        m_stack->setCurrentIndex(m_document->project() ? Editor : Start);
 }
 
 void MainView::openFiles(const QStringList &files)
@@ -177,7 +175,7 @@ void MainView::addFiles(const QStringList &files)
     if (!m_document->project())
         m_document->begin();
     m_editor->onFilesDropped(files, -1);
-    showPage(Editor);
+    m_stack->setCurrentIndex(Editor);
     raise();
 }
 
@@ -191,14 +189,6 @@ void MainView::onMessageReceived(const QString &message)
     qCInfo(lcUi).noquote() << QStringLiteral("Message received:'%1'").arg(message);
     bringToFront();
     openFiles(StartMessage::files(message));
-}
-
-void MainView::bringToFront()
-{
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
 }
 
 void MainView::onSettingsHide()
@@ -229,9 +219,7 @@ void MainView::onFileDropped(const QString &fileName)
 
 void MainView::onDropEnd()
 {
-    const QStringList files = m_dropped;
-    m_dropped.clear();
-    openFiles(files);
+    openFiles(std::exchange(m_dropped, {}));
 }
 
 void MainView::onFinished(const QString &fileName)
@@ -241,14 +229,39 @@ void MainView::onFinished(const QString &fileName)
     onBtnHistoryClicked();
     m_history->select(fileName);
     tellInBackground(tr("The video is ready"), QFileInfo(fileName).fileName());
+    offerNextSteps(fileName);
+}
+
+void MainView::offerNextSteps(const QString &video)
+{
+    auto *window = new FinalWindow(video, m_parts.fileManager, this);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    connect(window, &FinalWindow::uploadService, this, &MainView::onUploadClicked);
+    connect(window, &FinalWindow::burnDvd, m_history, &HistoryWidget::on_btnBurn_clicked);
+    window->open();
+}
+
+void MainView::runUpdateChecker()
+{
+    m_updates->check();
+}
+
+void MainView::onNewVersion(const QString &version)
+{
+    m_updates->show(version);
+}
+
+void MainView::showTaskbarProgress()
+{
+    m_parts.taskbar.setValue(0);
+    m_parts.taskbar.setVisible(true);
+    m_parts.taskbar.setPaused(false);
 }
 
 void MainView::onProgressStarted()
 {
     m_menu->setGenerating(true);
-    m_parts.taskbar.setValue(0);
-    m_parts.taskbar.setVisible(true);
-    m_parts.taskbar.setPaused(false);
+    showTaskbarProgress();
 }
 
 void MainView::onProgressFinished()
@@ -260,7 +273,7 @@ void MainView::onProgressFinished()
 
 void MainView::onUploadClicked(const QString &uploadService)
 {
-    showPage(History);
+    m_stack->setCurrentIndex(History);
     m_history->onStartUpload(uploadService);
 }
 
@@ -277,9 +290,7 @@ void MainView::onUploadFinished(const QString &videoId, const QString &previewUr
 
 void MainView::onUploadProgressStarted()
 {
-    m_parts.taskbar.setValue(0);
-    m_parts.taskbar.setVisible(true);
-    m_parts.taskbar.setPaused(false);
+    showTaskbarProgress();
 }
 
 void MainView::onBurnDvd(const QString &diskTitle, const QString &fileName)
@@ -303,7 +314,7 @@ void MainView::onBtnAddPhotoClicked()
     if (page() == History) {
         if (!m_document->project())
             m_document->begin();
-        showPage(Editor);
+        m_stack->setCurrentIndex(Editor);
     }
     addFiles(PhotoDialogs::askForPhotos(this, &m_parts.store));
 }
@@ -325,7 +336,7 @@ void MainView::onBtnSettingsClicked()
 
 void MainView::onBtnHistoryClicked()
 {
-    showPage(History);
+    m_stack->setCurrentIndex(History);
     m_history->reload();
 }
 
@@ -373,27 +384,17 @@ void MainView::tellInBackground(const QString &title, const QString &text)
 
 void MainView::closeEvent(QCloseEvent *event)
 {
-    if (!m_actions->mayClose(m_editor->isGenerating(), m_history->isUploading())) {
-        event->ignore();
+    event->setAccepted(m_actions->mayClose(m_editor->isGenerating(), m_history->isUploading()));
+    if (!event->isAccepted())
         return;
-    }
     m_autosave->clear();
     WindowGeometry::save(*this, &m_parts.store);
-    event->accept();
 }
 
 void MainView::showEvent(QShowEvent *event)
 {
     CorWindow::showEvent(event);
     m_parts.taskbar.setWindow(windowHandle());
-}
-
-void MainView::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Escape && isFullScreen())
-        toggleFullScreen();
-    else
-        CorWindow::keyPressEvent(event);
 }
 
 } // namespace velmora

@@ -30,6 +30,7 @@ class SettingsWidget;
 class StartPage;
 class TaskbarProgress;
 class ToolRow;
+class UpdateNotice;
 class UploadController;
 
 /// The program's one window: decides which page is shown, and connects the pages with each other,
@@ -88,6 +89,8 @@ public slots:
     void onBtnHelpClicked();
     void onBtnSiteClicked();
     void onLblLastProjectClicked();
+    void runUpdateChecker();
+    void onNewVersion(const QString &version);
     void onTextEditingBegan(int totalSlide);
     void onTextEditingFinished();
     void onToggleFullScreen();
@@ -97,7 +100,6 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
@@ -106,11 +108,11 @@ private:
     void connectStartPage();
     void connectEditor();
     void connectHistory();
-    void showPage(Page page);
     void leaveHistory();
     void addFiles(const QStringList &files);
-    void bringToFront();
+    void showTaskbarProgress();
     void updateLastVideo();
+    void offerNextSteps(const QString &video);
     void tellInBackground(const QString &title, const QString &text);
 
     Parts m_parts;
@@ -123,6 +125,8 @@ private:
     HistoryWidget *m_history;
     SettingsWidget *m_settingsPanel;
     HelpPages *m_help;
+    UpdateNotice *m_updates;
+    // These end before the pages do, which are children of the window.
     std::unique_ptr<ProjectDocument> m_document;
     std::unique_ptr<Autosave> m_autosave;
     DocumentActions *m_actions;

@@ -50,7 +50,7 @@ void VideoPlayerWidget::connectAll()
     connect(player, &VideoPlayer::generatingFinished, this, &VideoPlayerWidget::onGenerateFinished);
     connect(player, &VideoPlayer::resized, this, [this] { m_resizeTimer.start(kResizePause); });
     connect(player, &VideoPlayer::clicked, this, [this] {
-        if (isPlaying())
+        if (isPlaying() || isWindow())
             on_btnPlay_clicked();
         else
             emit clicked();

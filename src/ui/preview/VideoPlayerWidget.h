@@ -47,7 +47,7 @@ public:
     bool isPlaying() const;
 
 signals:
-    void clicked(); ///< On the picture, while nothing plays.
+    void clicked(); ///< On the picture in its place, while nothing plays.
     void fullSizeToggled();
 
 public slots:

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QSignalSpy>
+#include <QTextEdit>
 #include <QToolButton>
 #include <QUndoStack>
 
@@ -227,6 +228,47 @@ private slots:
         QCOMPARE(m->items().at(1)->time(), 15);
         QCOMPARE(m->items().at(2)->time(), 1);
         QCOMPARE(m->items().at(3)->time(), 15);
+    }
+
+    void captionIsEditedOnItsOwnPage()
+    {
+        m->addPhotos(QStringLiteral("ab"));
+        QSignalSpy began(m->page.get(), &MainWindowWidget::textEditingBegan);
+        QSignalSpy ended(m->page.get(), &MainWindowWidget::textEditingFinished);
+        m->select({2});
+        QTest::keyClick(&m->table(), Qt::Key_F2);
+        QCOMPARE(began.size(), 1);
+        QCOMPARE(began.first().first().toInt(), 3);
+        QVERIFY(m->child<QWidget>("pageText")->isVisible());
+        QVERIFY(!m->child<QWidget>("editorSide")->isVisible());
+        QVERIFY(!action("actUndo")->isEnabled());
+        m->child<QTextEdit>("teProjectItemText")->setPlainText(QStringLiteral("Hello"));
+        QVERIFY(m->page->hasUnsavedText());
+        m->click("butSaveText");
+        QCOMPARE(ended.size(), 1);
+        QCOMPARE(m->items().at(2)->caption().text, QStringLiteral("Hello"));
+        QVERIFY(m->table().isVisible());
+        QVERIFY(m->table().hasFocus());
+        QCOMPARE(m->table().model()->index(2, SlideTableModel::TextColumn).data().toString(),
+                 QStringLiteral("Hello"));
+        m->click("btnUndo");
+        QVERIFY(m->items().at(2)->caption().text.isEmpty());
+    }
+
+    void cancelledCaptionChangesNothing()
+    {
+        m->addPhotos(QStringLiteral("a"));
+        m->select({1});
+        const int steps = m->page->editor().undoStack()->count();
+        action("actCaption")->trigger();
+        m->child<QTextEdit>("teProjectItemText")->setPlainText(QStringLiteral("Hello"));
+        m->click("butCancelText");
+        QVERIFY(!m->page->isEditingText());
+        QCOMPARE(m->page->editor().undoStack()->count(), steps);
+        action("actCaptionOfAll")->trigger();
+        QVERIFY(m->page->isEditingText());
+        m->page->setProject(nullptr);
+        QVERIFY(!m->page->isEditingText());
     }
 
     void missingPhotosAreRelocatedTogether()

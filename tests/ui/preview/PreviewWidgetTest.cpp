@@ -40,6 +40,7 @@ private slots:
     void editsWhilePlaying();
     void removedSlideIsForgotten();
     void withoutAProjectNothingPlays();
+    void fullSizeKeepsPlaying();
     void volumeIsRemembered();
     void playsWithMusic();
     void endsWhilePlaying();
@@ -281,6 +282,22 @@ void PreviewWidgetTest::withoutAProjectNothingPlays()
     QTest::keyClick(player(), Qt::Key_Space);
     QTest::keyClick(player(), Qt::Key_Right);
     QVERIFY(!m_widget->isPlaying());
+}
+
+void PreviewWidgetTest::fullSizeKeepsPlaying()
+{
+    m_widget->playFull();
+    QTRY_VERIFY(player()->position() > 0);
+    const QSize small = player()->size();
+    click("btnFullSize");
+    QTRY_VERIFY(player()->window()->isFullScreen());
+    QTRY_COMPARE(player()->script()->format().size, player()->frameSize({1280, 720}));
+    QVERIFY(player()->width() > small.width());
+    QVERIFY(m_widget->isPlaying());
+    QTest::keyClick(player(), Qt::Key_Escape);
+    QTRY_COMPARE(player()->window(), m_widget.get());
+    QTRY_COMPARE(player()->size(), small);
+    QVERIFY(m_widget->isPlaying());
 }
 
 void PreviewWidgetTest::volumeIsRemembered()
