@@ -44,18 +44,23 @@ if [ -z "$folder" ] || [ "$folder" = "${HOME:-}" ] || [ "$folder" = "${HOME:-}/"
 fi
 video="$folder/Velmora sample.mp4"
 
-"$build/bin/velmoratool" make \
-    --photos "$top/examples/photos" \
-    --music "$top/examples/music" \
-    --output "$video" \
-    --title "A day outdoors" \
-    --captions-from-names --sort date \
-    --time 2 --transition-length 1 \
-    --fade 2 \
-    --parallel \
+slideshow=(
+    --photos "$top/examples/photos"
+    --music "$top/examples/music"
+    --output "$video"
+    --title "A day outdoors"
+    --captions-from-names --sort date
+    --time 2 --transition-length 1
+    --fade 2
+    --parallel
     --profile everywhere
+)
+"$build/bin/velmoratool" make "${slideshow[@]}"
 
 if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
-    exec "$build/bin/velmora"
+    # The same slideshow as a document, so that it can be changed and made again.
+    document="$top/build/A day outdoors.json"
+    "$build/bin/velmoratool" make "${slideshow[@]}" --dump-project "$document"
+    exec "$build/bin/velmora" "$document"
 fi
 echo "There is no display here, so the editor is not opened."

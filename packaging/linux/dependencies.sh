@@ -11,7 +11,9 @@ build_packages=(
     libavformat-dev
     libavutil-dev
     libboost-dev
+    libburn-dev
     libexiv2-dev
+    libisofs-dev
     libjpeg-dev
     libqt5networkauth5-dev
     libqt5svg5-dev
@@ -33,7 +35,9 @@ run_packages=(
     fonts-droid-fallback
     fonts-noto-core
     fonts-open-sans
+    gstreamer1.0-alsa
     gstreamer1.0-libav
+    gstreamer1.0-plugins-base
     gstreamer1.0-plugins-good
     libqt5multimedia5-plugins
     libqt5svg5
@@ -41,9 +45,11 @@ run_packages=(
 )
 
 test_packages=(
+    dbus
     groff-base
     openssl
     python3
+    xorriso
     xvfb
 )
 

@@ -5,6 +5,7 @@
 #include "app/AppSettings.h"
 #include "generator/encoding/EncoderOptions.h"
 #include "generator/transitions/Transition.h"
+#include "helpers/VideoProbe.h"
 #include "project/documents/ProjectFile.h"
 #include "project/documents/Timeline.h"
 #include "project/frames/SlideRenderer.h"
@@ -18,7 +19,6 @@
 #include <QTextStream>
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace
 {
@@ -46,25 +46,7 @@ QImage videoFrame(const QString &video, qint64 number, const QSize &size)
         return {};
     return QImage(reinterpret_cast<const uchar *>(data.constData()), size.width(), size.height(),
                   size.width() * 3, QImage::Format_RGB888)
-        .copy();
-}
-
-/// The largest of the three channels' mean differences.
-double meanDifference(const QImage &a, const QImage &b)
-{
-    const QImage first = a.convertToFormat(QImage::Format_RGB888);
-    const QImage second = b.convertToFormat(QImage::Format_RGB888);
-    if (first.size() != second.size())
-        return 255;
-    double sums[3] = {0, 0, 0};
-    for (int y = 0; y < first.height(); ++y) {
-        const uchar *p = first.constScanLine(y);
-        const uchar *q = second.constScanLine(y);
-        for (int x = 0; x < first.width() * 3; ++x)
-            sums[x % 3] += std::abs(p[x] - q[x]);
-    }
-    const double pixels = static_cast<double>(first.width()) * first.height();
-    return *std::max_element(sums, sums + 3) / pixels;
+        .convertToFormat(QImage::Format_RGB32);
 }
 
 /// The best match among the effects that the stage may show ("Random" may be any of 24).
@@ -81,7 +63,7 @@ double bestTransitionMatch(int stored, const QImage &from, const QImage &to,
     QImage frame;
     for (int type = first; type <= last; ++type) {
         renderTransitionFrame(transitionFromInt(type), from, to, position, frame);
-        best = std::min(best, meanDifference(frame, shown));
+        best = std::min(best, VideoProbe::meanDifference(frame, shown));
     }
     return best;
 }
@@ -106,7 +88,7 @@ public:
         switch (stage.kind) {
         case Timeline::StageKind::Still:
             m_previous = captioned;
-            return meanDifference(captioned, shown);
+            return VideoProbe::meanDifference(captioned, shown);
         case Timeline::StageKind::Caption:
             return bestTransitionMatch(item.caption().effect, bare, captioned, position, shown);
         case Timeline::StageKind::Picture:

@@ -8,6 +8,7 @@
 #include "generator/worker/WorkerMain.h"
 #include "generator/worker/WorkerProtocol.h"
 #include "platform/FileNames.h"
+#include "platform/StandardOutput.h"
 #include "programs/velmoratool/HelpText.h"
 #include "programs/velmoratool/MakeCommand.h"
 #include "project/frames/CaptionFont.h"
@@ -53,6 +54,7 @@ int dispatch(const QStringList &arguments, const velmora::AppSettings &settings)
 
 int main(int argc, char *argv[])
 {
+    velmora::StandardOutput::ensureOpen();
     velmora::FileNames::allowAllLetters();
     velmora::applyIdentity();
     velmora::Log::install(QStringLiteral("log_tool"));

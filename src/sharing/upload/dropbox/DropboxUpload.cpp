@@ -3,6 +3,7 @@
 
 #include "sharing/upload/dropbox/client/DropboxUploader.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -31,8 +32,10 @@ DropboxUpload::DropboxUpload(const QString &fileName, const ServiceSetup &setup,
     connect(m_uploader, &Client::failed, this,
             [this] { emit uploaderFailed(m_uploader->errorText()); });
     connect(m_uploader, &Client::unauthorized, this, &DropboxUpload::onUnauthorized);
-    connect(m_uploader, &Client::operationAborted, this,
-            [this] { emit uploaderFailed(tr("Operation was canceled")); });
+    connect(m_uploader, &Client::operationAborted, this, [this] {
+        emit uploaderFailed(
+            QCoreApplication::translate("velmora::DropboxUpload", "Operation was canceled"));
+    });
 }
 
 void DropboxUpload::abort()

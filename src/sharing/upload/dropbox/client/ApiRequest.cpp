@@ -5,6 +5,7 @@
 #include "sharing/upload/net/ServiceNetwork.h"
 #include "sharing/upload/wire/DropboxMessages.h"
 
+#include <QCoreApplication>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 
@@ -65,8 +66,11 @@ void ApiRequest::onFinished(QNetworkReply *reply)
     }
     if (m_answer.kind == HttpAnswer::Kind::Answered) {
         const QString message = DropboxMessages::parse(m_answer.body).message;
-        emit signal_errorOccurred(m_answer.status,
-                                  message.isEmpty() ? tr("Unknown error") : message);
+        emit signal_errorOccurred(
+            m_answer.status,
+            message.isEmpty()
+                ? QCoreApplication::translate("velmora::DropboxClient::ApiRequest", "Unknown error")
+                : message);
         return;
     }
     qCWarning(lcSharing).noquote() << m_answer.errorString;

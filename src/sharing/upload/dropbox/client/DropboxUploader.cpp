@@ -5,6 +5,8 @@
 #include "sharing/upload/ServiceSetup.h"
 #include "sharing/upload/wire/DropboxMessages.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace velmora
@@ -36,10 +38,12 @@ DropboxUploader::DropboxUploader(ServiceNetwork &network, const QUrl &content,
 bool DropboxUploader::upload(const QString &source, const QString &target)
 {
     if (!QFile::exists(source))
-        return fail(tr("source file not found"));
+        return fail(QCoreApplication::translate("velmora::DropboxClient::DropboxUploader",
+                                                "source file not found"));
     m_file.setFileName(source);
     if (!m_file.open(QIODevice::ReadOnly))
-        return fail(tr("can't open source file for reading"));
+        return fail(QCoreApplication::translate("velmora::DropboxClient::DropboxUploader",
+                                                "can't open source file for reading"));
     m_target = target;
     m_size = m_file.size();
     m_active = true;
@@ -74,7 +78,8 @@ bool DropboxUploader::readChunk()
 void DropboxUploader::send()
 {
     if (!readChunk()) {
-        fail(tr("can't open source file for reading"));
+        fail(QCoreApplication::translate("velmora::DropboxClient::DropboxUploader",
+                                         "can't open source file for reading"));
         return;
     }
     m_step = nextStep();
@@ -105,7 +110,8 @@ void DropboxUploader::onAnswered(const QByteArray &body)
     if (m_step == Step::Start) {
         m_sessionId = DropboxMessages::parse(body).sessionId;
         if (m_sessionId.isEmpty()) {
-            fail(tr("The answer of the service cannot be understood."));
+            fail(QCoreApplication::translate("velmora::DropboxClient::DropboxUploader",
+                                             "The answer of the service cannot be understood."));
             return;
         }
     }
