@@ -3,10 +3,12 @@
 
 #include <QtTest>
 
+#include <algorithm>
 #include <array>
 #include <fcntl.h>
 #include <thread>
 #include <unistd.h>
+#include <vector>
 
 using namespace velmora;
 
@@ -50,9 +52,9 @@ public:
     }
     QByteArray read(int size) const
     {
-        QByteArray data(size, '\0');
-        const ssize_t got = ::read(m_readEnd, data.data(), static_cast<size_t>(size));
-        return data.left(static_cast<int>(got));
+        std::vector<char> data(static_cast<size_t>(size));
+        const ssize_t got = ::read(m_readEnd, data.data(), data.size());
+        return {data.data(), static_cast<int>(std::max<ssize_t>(got, 0))};
     }
 
 private:
