@@ -20,7 +20,8 @@ public:
     DialogDriver()
     {
         connect(&m_timer, &QTimer::timeout, this, &DialogDriver::look);
-        m_timer.start(10);
+        m_timer.setSingleShot(true);
+        m_timer.start(kInterval);
     }
 
     void expect(const Act &act) { m_acts.append(act); }
@@ -51,13 +52,19 @@ public:
     }
 
 private:
+    static constexpr int kInterval = 10; // ms
+
     void look()
     {
+        // An act may open a dialog of its own, and a timer does not meet itself.
+        m_timer.start(kInterval);
         auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
         if (!dialog || !dialog->isVisible())
             return;
         m_title = dialog->windowTitle();
         const auto *label = dialog->findChild<QLabel *>(QStringLiteral("lblText"));
+        if (!label)
+            label = dialog->findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
         m_text = label ? label->text() : QString();
         if (m_acts.isEmpty()) {
             m_failure = QStringLiteral("Unexpected dialog \"%1\": %2").arg(m_title, m_text);
