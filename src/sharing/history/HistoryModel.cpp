@@ -141,7 +141,9 @@ void HistoryModel::sort()
         std::stable_sort(m_order.begin(), m_order.end(),
                          [&keys](int a, int b) { return keys.at(a) < keys.at(b); });
     } else {
-        QCollator collator;
+        // The locale "C" knows neither upper and lower case nor numbers.
+        const QLocale locale;
+        QCollator collator(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
         collator.setCaseSensitivity(Qt::CaseInsensitive);
         collator.setNumericMode(true);
         std::vector<QCollatorSortKey> keys;
