@@ -54,7 +54,7 @@ MainWindowWidget::MainWindowWidget(AppSettings &settings, HistoryStore &history,
     row->setContentsMargins(kGap, kGap, kGap, kGap);
     row->setSpacing(kGap);
     row->addWidget(m_stack, 1);
-    row->addWidget(m_side);
+    row->addWidget(m_side, 1);
     setUpUndo();
     connectParts();
 }
@@ -226,7 +226,9 @@ void MainWindowWidget::resizeEvent(QResizeEvent *event)
     QWidget::resizeEvent(event);
     const int width = std::min(
         std::max(static_cast<int>(kSideShare * event->size().width()), kSmallestSide), kWidestSide);
-    m_side->setFixedWidth(width);
+    // Not fixed: a wide side must not keep the window from becoming small at once.
+    m_side->setMinimumWidth(kSmallestSide);
+    m_side->setMaximumWidth(width);
 }
 
 void MainWindowWidget::setProject(ProjectFile *project)
