@@ -67,9 +67,6 @@ void CreatePanel::setUpPages()
     m_ui->btnCreate->setProperty("primary", true);
     m_ui->btnCreate->setIcon(Theme::icon(QStringLiteral("film-white")));
     m_ui->btnFullPreview->setIcon(Theme::icon(QStringLiteral("preview")));
-    m_ui->btnFullPreview->setShortcut(preview);
-    m_ui->btnFullPreview->setToolTip(
-        SlideActions::toolTip(tr("Play the whole slideshow"), preview));
     m_ui->lblPercent->setProperty("heading", true);
     m_ui->lblSpeed->setProperty("heading", true);
     m_ui->lblElapsedTime->setProperty("secondary", true);
