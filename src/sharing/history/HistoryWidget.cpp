@@ -34,6 +34,7 @@ HistoryWidget::HistoryWidget(HistoryStore &history, const AppSettings &settings,
     m_timer.setInterval(1000);
     connect(&m_timer, &QTimer::timeout, this, &HistoryWidget::showElapsed);
     reload();
+    m_ui->listHistory->setFocus();
 }
 
 HistoryWidget::~HistoryWidget() = default;
