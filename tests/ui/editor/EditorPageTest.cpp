@@ -242,7 +242,7 @@ private slots:
         QVERIFY(m->child<QWidget>("pageText")->isVisible());
         QVERIFY(!m->child<QWidget>("editorSide")->isVisible());
         QVERIFY(!action("actUndo")->isEnabled());
-        m->child<QTextEdit>("teProjectItemText")->setPlainText(QStringLiteral("Hello"));
+        QTest::keyClicks(m->child<QTextEdit>("teProjectItemText"), QStringLiteral("Hello"));
         QVERIFY(m->page->hasUnsavedText());
         m->click("butSaveText");
         QCOMPARE(ended.size(), 1);

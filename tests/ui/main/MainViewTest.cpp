@@ -6,11 +6,13 @@
 
 #include <QAction>
 #include <QDesktopServices>
+#include <QDialogButtonBox>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPushButton>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QStackedWidget>
@@ -58,7 +60,11 @@ private:
                 quoted.append(QLatin1Char('"') + file + QLatin1Char('"'));
             auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
             name->setText(quoted.size() == 1 ? files.first() : quoted.join(QLatin1Char(' ')));
-            QTest::keyClick(name, Qt::Key_Return);
+            const auto *buttons = dialog->findChild<QDialogButtonBox *>();
+            const auto accept = fileDialog->acceptMode() == QFileDialog::AcceptSave
+                                    ? QDialogButtonBox::Save
+                                    : QDialogButtonBox::Open;
+            QTest::mouseClick(buttons->button(accept), Qt::LeftButton);
         });
     }
 
