@@ -59,7 +59,14 @@ private:
             for (const QString &file : files)
                 quoted.append(QLatin1Char('"') + file + QLatin1Char('"'));
             auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-            name->setText(quoted.size() == 1 ? files.first() : quoted.join(QLatin1Char(' ')));
+            const QString text = quoted.size() == 1 ? files.first() : quoted.join(QLatin1Char(' '));
+            if (fileDialog->acceptMode() == QFileDialog::AcceptSave) {
+                // Only typed text takes the place of the name that is proposed.
+                name->selectAll();
+                QTest::keyClicks(name, text);
+            } else {
+                name->setText(text);
+            }
             const auto *buttons = dialog->findChild<QDialogButtonBox *>();
             const auto accept = fileDialog->acceptMode() == QFileDialog::AcceptSave
                                     ? QDialogButtonBox::Save
