@@ -2,11 +2,11 @@
 #include "sharing/history/HistoryModel.h"
 
 #include "app/AppSettings.h"
+#include "project/documents/MediaSuffixes.h"
 #include "project/documents/HistoryStore.h"
 #include "project/documents/Timeline.h"
 #include "sharing/history/VideoProber.h"
 
-#include <QCollator>
 #include <QDir>
 #include <QFileInfo>
 
@@ -141,9 +141,7 @@ void HistoryModel::sort()
         std::stable_sort(m_order.begin(), m_order.end(),
                          [&keys](int a, int b) { return keys.at(a) < keys.at(b); });
     } else {
-        QCollator collator;
-        collator.setCaseSensitivity(Qt::CaseInsensitive);
-        collator.setNumericMode(true);
+        const QCollator collator = naturalCollator();
         std::vector<QCollatorSortKey> keys;
         keys.reserve(static_cast<size_t>(m_entries.size()));
         for (const HistoryEntry &entry : qAsConst(m_entries))

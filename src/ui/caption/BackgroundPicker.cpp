@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/caption/BackgroundPicker.h"
 
+#include "chrome/Theme.h"
 #include "project/slides/TitleBackground.h"
 #include "ui/caption/SelectedColorButtonEffect.h"
 
 #include <QButtonGroup>
 #include <QEvent>
+#include <QPainter>
 #include <QPushButton>
 #include <QStyle>
 
@@ -36,12 +38,23 @@ QSize sizeFor(int columns)
             rows * (kButtonSize.height() + kGap) - kGap};
 }
 
+/// A fine line that sets pale pictures off from the window.
+void paintEdge(QImage &picture)
+{
+    QColor line(Theme::Text);
+    line.setAlphaF(0.25);
+    QPainter painter(&picture);
+    painter.setPen(line);
+    painter.drawRect(QRect(QPoint(0, 0), kButtonSize).adjusted(0, 0, -1, -1));
+}
+
 QIcon pictureOf(int index)
 {
     QIcon icon;
     for (const int scale : {1, 2}) {
-        QImage picture = titleBackground(index, kButtonSize * scale, true);
+        QImage picture = titleBackground(index, kButtonSize * scale, false);
         picture.setDevicePixelRatio(scale);
+        paintEdge(picture);
         icon.addPixmap(QPixmap::fromImage(picture));
     }
     return icon;

@@ -153,6 +153,7 @@ void TextEditWidget::fill()
         const QSignalBlocker textBlocker(m_ui->teProjectItemText);
         m_ui->teProjectItemText->setPlainText(m_original.text);
         m_ui->teProjectItemText->document()->setModified(false);
+        m_ui->teProjectItemText->moveCursor(QTextCursor::End);
     }
     {
         // A family that is not installed is kept, and named.
