@@ -78,7 +78,7 @@ private slots:
         QTest::addColumn<QSize>("size");
         for (const auto type : {TransitionType::CrossFade, TransitionType::FadeToBlack,
                                 TransitionType::FadeToWhite}) {
-            for (const QSize &size : {QSize(160, 96), QSize(158, 90), QSize(2, 2)})
+            for (const QSize &size : {QSize(160, 96), QSize(158, 90), QSize(10, 6)})
                 QTest::addRow("%d at %dx%d", int(type), size.width(), size.height())
                     << int(type) << size;
         }
