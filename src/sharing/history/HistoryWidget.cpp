@@ -15,6 +15,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QUrl>
 
@@ -27,7 +28,6 @@ HistoryWidget::HistoryWidget(HistoryStore &history, const AppSettings &settings,
       m_removal(std::make_unique<HistoryRemoval>(history))
 {
     m_ui->setupUi(this);
-    setFocusProxy(m_ui->listHistory);
     setUpList();
     setUpPages();
     setUpUndoBar();
@@ -181,6 +181,12 @@ void HistoryWidget::playVideo(const QString &fileName)
     else if (!QDesktopServices::openUrl(QUrl::fromLocalFile(fileName)))
         MessageDialog::inform(this, tr("Open file Error"),
                               tr("There is no program to play the file '%1'.").arg(path));
+}
+
+void HistoryWidget::focusInEvent(QFocusEvent *event)
+{
+    // Not a focus proxy: Tab would then go to the list past the headings that stand before it.
+    m_ui->listHistory->setFocus(event->reason());
 }
 
 void HistoryWidget::keyPressEvent(QKeyEvent *event)

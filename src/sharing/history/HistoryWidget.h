@@ -102,6 +102,7 @@ signals:
     void progressUpload(int percent);
 
 protected:
+    void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
