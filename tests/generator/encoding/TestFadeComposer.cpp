@@ -102,9 +102,7 @@ private slots:
             QImage painted;
             renderTransitionFrame(effect, from, to, {frame, count}, painted);
             const Difference off = difference(folder.written(*made), folder.written(painted));
-            // One rounded coefficient weighs more in the smallest pictures.
-            QVERIFY2(off.mean < (size.width() < 8 ? 2.0 : 1.2),
-                     qPrintable(QString::number(off.mean)));
+            QVERIFY2(off.mean < 1.2, qPrintable(QString::number(off.mean)));
             QVERIFY2(off.largest <= 9, qPrintable(QString::number(off.largest)));
         }
     }
