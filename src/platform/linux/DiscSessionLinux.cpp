@@ -81,12 +81,17 @@ bool DiscSessionLinux::waitForErase(const DiscProgress &progress)
 bool DiscSessionLinux::waitForWrite(const DiscProgress &progress, const std::atomic_bool &cancelled)
 {
     burn_progress state = {};
+    int current = 0;
+    int total = 1;
     BurnLibrary::Messages all;
     bool stopped = false;
     bool running = isBusy(&state);
     while (running) {
+        // At start and end of its work libburn counts other things for a moment.
+        total = std::max(total, state.sectors);
+        current = qBound(current, state.sector, total);
         if (state.sectors > 0)
-            progress(qBound(0, state.sector, state.sectors), state.sectors);
+            progress(current, total);
         if (cancelled && !stopped) {
             burn_drive_cancel(m_drive->handle());
             stopped = true;
@@ -100,7 +105,7 @@ bool DiscSessionLinux::waitForWrite(const DiscProgress &progress, const std::ato
     all.errors |= BurnLibrary::logMessages().errors;
     const bool well = burn_drive_wrote_well(m_drive->handle()) == 1 && !all.errors && !stopped;
     if (well)
-        progress(std::max(state.sectors, 1), std::max(state.sectors, 1));
+        progress(total, total);
     return well;
 }
 
