@@ -1704,10 +1704,6 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <source>Preview and settings</source>
         <translation>Vorschau und Einstellungen</translation>
     </message>
-    <message>
-        <source>Preview</source>
-        <translation>Vorschau</translation>
-    </message>
 </context>
 <context>
     <name>velmora::EncoderLocator</name>
@@ -2109,12 +2105,8 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
 <context>
     <name>velmora::MainWindowWidget</name>
     <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Wiederherstellen</translation>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>Video</source>
@@ -2123,6 +2115,14 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
     <message>
         <source>Audio</source>
         <translation>Ton</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -2709,6 +2709,13 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
     <message>
         <source>Shuffle photos</source>
         <translation>Fotos mischen</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SlideTable</name>
+    <message>
+        <source>Drag &amp; drop photos and folders to add them here</source>
+        <translation>Ziehen Sie Fotos und Ordner hierher, um sie hinzuzufügen</translation>
     </message>
 </context>
 <context>

@@ -1704,10 +1704,6 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <source>Preview and settings</source>
         <translation>Vista previa y ajustes</translation>
     </message>
-    <message>
-        <source>Preview</source>
-        <translation>Vista previa</translation>
-    </message>
 </context>
 <context>
     <name>velmora::EncoderLocator</name>
@@ -2109,12 +2105,8 @@ Pulse «Cancelar» para cancelar la operación.</translation>
 <context>
     <name>velmora::MainWindowWidget</name>
     <message>
-        <source>Undo</source>
-        <translation>Deshacer</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Rehacer</translation>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>Video</source>
@@ -2123,6 +2115,14 @@ Pulse «Cancelar» para cancelar la operación.</translation>
     <message>
         <source>Audio</source>
         <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -2709,6 +2709,13 @@ Pulse «Cancelar» para cancelar la operación.</translation>
     <message>
         <source>Shuffle photos</source>
         <translation>Mezclar fotos</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SlideTable</name>
+    <message>
+        <source>Drag &amp; drop photos and folders to add them here</source>
+        <translation>Arrastre aquí fotos y carpetas para añadirlas</translation>
     </message>
 </context>
 <context>

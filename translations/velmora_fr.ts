@@ -1704,10 +1704,6 @@ Press "Cancel" to cancel the operation.</source>
         <source>Preview and settings</source>
         <translation>Aperçu et paramètres</translation>
     </message>
-    <message>
-        <source>Preview</source>
-        <translation>Aperçu</translation>
-    </message>
 </context>
 <context>
     <name>velmora::EncoderLocator</name>
@@ -2109,12 +2105,8 @@ Press "Cancel" to cancel the operation.</source>
 <context>
     <name>velmora::MainWindowWidget</name>
     <message>
-        <source>Undo</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Rétablir</translation>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
     </message>
     <message>
         <source>Video</source>
@@ -2123,6 +2115,14 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Audio</source>
         <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -2709,6 +2709,13 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Shuffle photos</source>
         <translation>Mélanger les photos</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SlideTable</name>
+    <message>
+        <source>Drag &amp; drop photos and folders to add them here</source>
+        <translation>Glissez-déposez ici des photos et des dossiers pour les ajouter</translation>
     </message>
 </context>
 <context>

@@ -1704,10 +1704,6 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <source>Preview and settings</source>
         <translation>Anteprima e impostazioni</translation>
     </message>
-    <message>
-        <source>Preview</source>
-        <translation>Anteprima</translation>
-    </message>
 </context>
 <context>
     <name>velmora::EncoderLocator</name>
@@ -2109,12 +2105,8 @@ Premere "Annulla" per annullare l'operazione.</translation>
 <context>
     <name>velmora::MainWindowWidget</name>
     <message>
-        <source>Undo</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Ripeti</translation>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
     </message>
     <message>
         <source>Video</source>
@@ -2123,6 +2115,14 @@ Premere "Annulla" per annullare l'operazione.</translation>
     <message>
         <source>Audio</source>
         <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ripeti</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -2709,6 +2709,13 @@ Premere "Annulla" per annullare l'operazione.</translation>
     <message>
         <source>Shuffle photos</source>
         <translation>Mescola foto</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SlideTable</name>
+    <message>
+        <source>Drag &amp; drop photos and folders to add them here</source>
+        <translation>Trascinare qui foto e cartelle per aggiungerle</translation>
     </message>
 </context>
 <context>

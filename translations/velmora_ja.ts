@@ -1704,10 +1704,6 @@ Press "Cancel" to cancel the operation.</source>
         <source>Preview and settings</source>
         <translation>プレビューと設定</translation>
     </message>
-    <message>
-        <source>Preview</source>
-        <translation>プレビュー</translation>
-    </message>
 </context>
 <context>
     <name>velmora::EncoderLocator</name>
@@ -2109,12 +2105,8 @@ Press "Cancel" to cancel the operation.</source>
 <context>
     <name>velmora::MainWindowWidget</name>
     <message>
-        <source>Undo</source>
-        <translation>元に戻す</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>やり直す</translation>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
     </message>
     <message>
         <source>Video</source>
@@ -2123,6 +2115,14 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Audio</source>
         <translation>音声</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -2709,6 +2709,13 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Shuffle photos</source>
         <translation>写真をシャッフル</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SlideTable</name>
+    <message>
+        <source>Drag &amp; drop photos and folders to add them here</source>
+        <translation>写真やフォルダーをここにドラッグ＆ドロップして追加</translation>
     </message>
 </context>
 <context>

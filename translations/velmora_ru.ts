@@ -828,7 +828,7 @@
     </message>
     <message>
         <source>Random</source>
-        <translation>Случайный</translation>
+        <translation>Любой</translation>
     </message>
     <message>
         <source>Pixelate</source>
@@ -1704,10 +1704,6 @@ Press "Cancel" to cancel the operation.</source>
         <source>Preview and settings</source>
         <translation>Просмотр и настройки</translation>
     </message>
-    <message>
-        <source>Preview</source>
-        <translation>Просмотр</translation>
-    </message>
 </context>
 <context>
     <name>velmora::EncoderLocator</name>
@@ -1850,7 +1846,7 @@ Press "Cancel" to cancel the operation.</source>
     </message>
     <message>
         <source>Duration</source>
-        <translation>Длительность</translation>
+        <translation>Длина</translation>
     </message>
     <message>
         <source>Size</source>
@@ -2109,12 +2105,8 @@ Press "Cancel" to cancel the operation.</source>
 <context>
     <name>velmora::MainWindowWidget</name>
     <message>
-        <source>Undo</source>
-        <translation>Отменить</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Вернуть</translation>
+        <source>Preview</source>
+        <translation>Просмотр</translation>
     </message>
     <message>
         <source>Video</source>
@@ -2123,6 +2115,14 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Audio</source>
         <translation>Звук</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Вернуть</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -2709,6 +2709,13 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Shuffle photos</source>
         <translation>Перемешать фото</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SlideTable</name>
+    <message>
+        <source>Drag &amp; drop photos and folders to add them here</source>
+        <translation>Перетащите сюда фото и папки, чтобы добавить их</translation>
     </message>
 </context>
 <context>

@@ -1704,10 +1704,6 @@ Press "Cancel" to cancel the operation.</source>
         <source>Preview and settings</source>
         <translation>预览和设置</translation>
     </message>
-    <message>
-        <source>Preview</source>
-        <translation>预览</translation>
-    </message>
 </context>
 <context>
     <name>velmora::EncoderLocator</name>
@@ -2109,12 +2105,8 @@ Press "Cancel" to cancel the operation.</source>
 <context>
     <name>velmora::MainWindowWidget</name>
     <message>
-        <source>Undo</source>
-        <translation>撤消</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>重做</translation>
+        <source>Preview</source>
+        <translation>预览</translation>
     </message>
     <message>
         <source>Video</source>
@@ -2123,6 +2115,14 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Audio</source>
         <translation>音频</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤消</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -2709,6 +2709,13 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Shuffle photos</source>
         <translation>随机排列照片</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SlideTable</name>
+    <message>
+        <source>Drag &amp; drop photos and folders to add them here</source>
+        <translation>将照片和文件夹拖放到这里添加</translation>
     </message>
 </context>
 <context>

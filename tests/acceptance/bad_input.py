@@ -228,7 +228,7 @@ def folders(world):
     world.mount("readonly", "size=1m,ro")
     yield (Case("output disk read-only", 1, "readonly", "ead-only", out="readonly"),
            lambda: make(world, ["good.jpg"], output="readonly/a.mp4"))
-    world.mount("full", "size=8m,mode=777")
+    world.mount("full", "size=2m,mode=777")
     yield (Case("output disk too small", 1, "full", "is full", out="full"),
            lambda: run(world, ["make", "--photos", "noise1.png", "noise2.png", "--output",
                                "full/a.mp4", "--size", "1280x720", "--time", "2",

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -20,7 +21,8 @@ public:
     DialogDriver()
     {
         connect(&m_timer, &QTimer::timeout, this, &DialogDriver::look);
-        m_timer.start(10);
+        m_timer.setSingleShot(true);
+        m_timer.start(kInterval);
     }
 
     void expect(const Act &act) { m_acts.append(act); }
@@ -51,13 +53,19 @@ public:
     }
 
 private:
+    static constexpr int kInterval = 10; // ms
+
     void look()
     {
+        // An act may open a dialog of its own, and a timer does not meet itself.
+        m_timer.start(kInterval);
         auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (!dialog || !dialog->isVisible())
+        if (!dialog || !dialog->isVisible() || dialog == m_inWork)
             return;
         m_title = dialog->windowTitle();
         const auto *label = dialog->findChild<QLabel *>(QStringLiteral("lblText"));
+        if (!label)
+            label = dialog->findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
         m_text = label ? label->text() : QString();
         if (m_acts.isEmpty()) {
             m_failure = QStringLiteral("Unexpected dialog \"%1\": %2").arg(m_title, m_text);
@@ -65,11 +73,15 @@ private:
             return;
         }
         const Act act = m_acts.takeFirst();
+        const QPointer<QDialog> outer = m_inWork;
+        m_inWork = dialog;
         act(dialog);
+        m_inWork = outer;
     }
 
     QTimer m_timer;
     QVector<Act> m_acts;
+    QPointer<QDialog> m_inWork; ///< The act may process events.
     QString m_title;
     QString m_text;
     QString m_failure;

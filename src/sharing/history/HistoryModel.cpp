@@ -3,10 +3,10 @@
 
 #include "app/AppSettings.h"
 #include "project/documents/HistoryStore.h"
+#include "project/documents/MediaSuffixes.h"
 #include "project/documents/Timeline.h"
 #include "sharing/history/VideoProber.h"
 
-#include <QCollator>
 #include <QDir>
 #include <QFileInfo>
 
@@ -73,7 +73,7 @@ HistoryEntry HistoryModel::entry(int row) const
         return {};
     HistoryEntry entry = m_entries.at(m_order.at(row));
     entry.facts.duration = m_prober->duration(entry.fileName, entry.facts);
-    if (entry.facts.duration < 0)
+    if (entry.facts.duration <= 0) // Not opened yet, or it does not say.
         entry.facts.duration =
             Timeline::ofProject(*entry.project, m_settings.transitionTime).totalLength();
     return entry;
@@ -141,9 +141,7 @@ void HistoryModel::sort()
         std::stable_sort(m_order.begin(), m_order.end(),
                          [&keys](int a, int b) { return keys.at(a) < keys.at(b); });
     } else {
-        QCollator collator;
-        collator.setCaseSensitivity(Qt::CaseInsensitive);
-        collator.setNumericMode(true);
+        const QCollator collator = naturalCollator();
         std::vector<QCollatorSortKey> keys;
         keys.reserve(static_cast<size_t>(m_entries.size()));
         for (const HistoryEntry &entry : qAsConst(m_entries))

@@ -75,7 +75,7 @@ AudioListWidget::AudioListWidget(ProjectEditor &editor, QWidget *parent)
     connect(m_controller, &AudioFilesController::playingChanged, this,
             &AudioListWidget::updateActions);
     retranslate();
-    updateValues();
+    initProjectAudio();
     updateAdding();
     setAudioParams(m_controller->rowCount(), m_controller->totalTime());
 }
@@ -150,13 +150,12 @@ void AudioListWidget::setUpActions()
 void AudioListWidget::setUpValues()
 {
     connect(m_ui->btnAddAudio, &QPushButton::clicked, this, &AudioListWidget::onBtnAddAudioClicked);
-    connect(m_ui->btnLoopAudio, &QPushButton::clicked, &m_editor, &ProjectEditor::setAudioLoop);
+    connect(m_ui->btnLoopAudio, &QPushButton::clicked, this, &AudioListWidget::onAudioLoopClicked);
     connect(m_ui->btnSetOffset, &QPopupButton::valueSelected, this,
-            [this](const QVariant &value) { m_editor.setAudioOffset(value.toInt()); });
-    connect(m_ui->btnSetFade, &QPopupButton::valueSelected, this,
-            [this](const QVariant &value) { m_editor.setAudioFade(value.toInt()); });
-    connect(&m_editor, &ProjectEditor::projectChanged, this, &AudioListWidget::updateValues);
-    connect(&m_editor, &ProjectEditor::settingsChanged, this, &AudioListWidget::updateValues);
+            &AudioListWidget::onOffsetChanged);
+    connect(m_ui->btnSetFade, &QPopupButton::valueSelected, this, &AudioListWidget::onFadeChanged);
+    connect(&m_editor, &ProjectEditor::projectChanged, this, &AudioListWidget::initProjectAudio);
+    connect(&m_editor, &ProjectEditor::settingsChanged, this, &AudioListWidget::initProjectAudio);
     for (QToolButton *button : {m_ui->btnHelpLoop, m_ui->btnHelpOffset, m_ui->btnHelpFade}) {
         button->setProperty("help", true);
         button->setIcon(Theme::icon(QStringLiteral("help")));
@@ -165,6 +164,21 @@ void AudioListWidget::setUpValues()
                                  button);
         });
     }
+}
+
+void AudioListWidget::onOffsetChanged(const QVariant &value)
+{
+    m_editor.setAudioOffset(value.toInt());
+}
+
+void AudioListWidget::onFadeChanged(const QVariant &value)
+{
+    m_editor.setAudioFade(value.toInt());
+}
+
+void AudioListWidget::onAudioLoopClicked(bool on)
+{
+    m_editor.setAudioLoop(on);
 }
 
 void AudioListWidget::retranslate()
@@ -187,11 +201,11 @@ void AudioListWidget::changeEvent(QEvent *event)
         return;
     m_ui->retranslateUi(this);
     retranslate();
-    updateValues();
+    initProjectAudio();
     setAudioParams(m_controller->rowCount(), m_controller->totalTime());
 }
 
-void AudioListWidget::updateValues()
+void AudioListWidget::initProjectAudio()
 {
     const ProjectFile *project = m_editor.project();
     m_ui->frameAudioSettings->setEnabled(project != nullptr);

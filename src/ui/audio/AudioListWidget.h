@@ -3,6 +3,7 @@
 
 #include <QStringList>
 #include <QTimer>
+#include <QVariant>
 #include <QVector>
 #include <QWidget>
 
@@ -39,6 +40,11 @@ public slots:
     void onAudioFilesDropped(const QStringList &files, int newRow);
     /// Shows the number of tracks and their time in ms.
     void setAudioParams(int count, qint64 duration);
+    void onOffsetChanged(const QVariant &value);
+    void onFadeChanged(const QVariant &value);
+    void onAudioLoopClicked(bool on);
+    /// Shows loop, offset and fade of the project; its playlist is the controller's.
+    void initProjectAudio();
     void showErrorThatNotAllAudioAreAdded(const QStringList &files);
 
 protected:
@@ -50,7 +56,6 @@ private:
     void setUpValues();
     QAction *addAction(const QKeySequence &keys, void (AudioListWidget::*slot)());
     void retranslate();
-    void updateValues();
     void updateActions();
     void updateAdding();
     void deleteSelected();

@@ -26,11 +26,6 @@ QRect buttonArea(const QRect &cell)
 
 } // namespace
 
-ComboBoxItemDelegate::ComboBoxItemDelegate(const QPopupButton::Values &values, QObject *parent)
-    : SlideDelegate(parent), m_values(values)
-{
-}
-
 QWidget *ComboBoxItemDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &,
                                             const QModelIndex &index) const
 {

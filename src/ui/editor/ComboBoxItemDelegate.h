@@ -13,7 +13,9 @@ class ComboBoxItemDelegate : public SlideDelegate
 {
     Q_OBJECT
 public:
-    explicit ComboBoxItemDelegate(const QPopupButton::Values &values, QObject *parent = nullptr);
+    using SlideDelegate::SlideDelegate;
+
+    void setValues(const QPopupButton::Values &values) { m_values = values; }
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;

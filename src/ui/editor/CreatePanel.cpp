@@ -18,6 +18,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
 #include <QTemporaryFile>
 
@@ -63,31 +64,47 @@ void CreatePanel::setUpPages()
     for (QPushButton *button :
          {m_ui->btnCreate, m_ui->btnFullPreview, m_ui->btnPauseResume, m_ui->btnCancel})
         button->setIconSize({20, 20});
-    const QKeySequence create(Qt::CTRL + Qt::Key_Return);
-    const QKeySequence preview(Qt::CTRL + Qt::Key_P);
     m_ui->btnCreate->setProperty("primary", true);
     m_ui->btnCreate->setIcon(Theme::icon(QStringLiteral("film-white")));
-    m_ui->btnCreate->setShortcut(create);
-    m_ui->btnCreate->setToolTip(SlideActions::toolTip(tr("Make the video"), create));
     m_ui->btnFullPreview->setIcon(Theme::icon(QStringLiteral("preview")));
-    m_ui->btnFullPreview->setShortcut(preview);
-    m_ui->btnFullPreview->setToolTip(
-        SlideActions::toolTip(tr("Play the whole slideshow"), preview));
     m_ui->lblPercent->setProperty("heading", true);
     m_ui->lblSpeed->setProperty("heading", true);
     m_ui->lblElapsedTime->setProperty("secondary", true);
     m_ui->lblRemTime->setProperty("secondary", true);
     m_ui->progressBar->setTextVisible(false);
     m_ui->btnCancel->setIcon(Theme::icon(QStringLiteral("close")));
-    m_ui->btnCancel->setAccessibleName(tr("Cancel"));
-    m_ui->btnCancel->setToolTip(tr("Cancel"));
     for (QPushButton *button : {m_ui->btnPauseResume, m_ui->btnCancel})
         button->setFixedWidth(kRoundButton);
     for (const auto &format : ValueLists::formats())
         m_ui->cbxFormat->addItem(format.first, format.second);
     connect(m_ui->cbxFormat, QOverload<int>::of(&QComboBox::activated), this,
             &CreatePanel::onChangeVideoFormat);
+    retranslate();
     connect(m_ui->txtProjName, &QLineEdit::returnPressed, m_ui->btnCreate, &QPushButton::click);
+}
+
+void CreatePanel::retranslate()
+{
+    // A change of a button's text takes its shortcut away.
+    const QKeySequence create(Qt::CTRL + Qt::Key_Return);
+    const QKeySequence preview(Qt::CTRL + Qt::Key_P);
+    m_ui->btnCreate->setShortcut(create);
+    m_ui->btnCreate->setToolTip(SlideActions::toolTip(tr("Make the video"), create));
+    m_ui->btnFullPreview->setShortcut(preview);
+    m_ui->btnFullPreview->setToolTip(
+        SlideActions::toolTip(tr("Play the whole slideshow"), preview));
+    m_ui->btnCancel->setAccessibleName(tr("Cancel"));
+    m_ui->btnCancel->setToolTip(tr("Cancel"));
+    showPauseButton(m_composer.isPaused());
+}
+
+void CreatePanel::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        m_ui->retranslateUi(this);
+        retranslate();
+    }
+    QFrame::changeEvent(event);
 }
 
 void CreatePanel::connectComposer()

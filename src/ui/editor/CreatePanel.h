@@ -51,8 +51,12 @@ public slots:
     void onCancelled();
     void onChangeVideoFormat(int index);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void setUpPages();
+    void retranslate();
     void connectComposer();
     void setDefaultName();
     QString outputPath() const;

@@ -26,10 +26,9 @@ EditorSide::EditorSide(QWidget *preview, QWidget *create, QWidget *parent)
       m_boxColumn(new QVBoxLayout(m_box))
 {
     m_bar->setObjectName(QStringLiteral("sideTabs"));
-    m_bar->setAccessibleName(tr("Preview and settings"));
     m_bar->setDrawBase(false);
     m_bar->setExpanding(false);
-    m_bar->addTab(tr("Preview"));
+    m_bar->addTab(QString());
     m_boxColumn->setContentsMargins(0, 0, 0, 0);
     m_boxColumn->setSpacing(kGap);
     m_column->setContentsMargins(0, 0, 0, 0);
@@ -44,12 +43,19 @@ EditorSide::EditorSide(QWidget *preview, QWidget *create, QWidget *parent)
     connect(m_bar, &QTabBar::currentChanged, this, &EditorSide::showParts);
 }
 
-void EditorSide::addGroup(const QString &title, QWidget *group, bool grows)
+void EditorSide::addGroup(QWidget *group, bool grows)
 {
     m_groups.append(group);
     m_boxColumn->addWidget(group, grows ? 1 : 0);
-    m_bar->addTab(title);
+    m_bar->addTab(QString());
     arrange();
+}
+
+void EditorSide::setTitles(const QStringList &titles)
+{
+    for (int i = 0; i < titles.size(); ++i)
+        m_bar->setTabText(i, titles.at(i));
+    m_bar->setAccessibleName(tr("Preview and settings"));
 }
 
 void EditorSide::showPreview()

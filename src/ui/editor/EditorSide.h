@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QStringList>
 #include <QVector>
 #include <QWidget>
 
@@ -23,7 +24,9 @@ public:
     EditorSide(QWidget *preview, QWidget *create, QWidget *parent = nullptr);
 
     /// @p grows: it takes spare height.
-    void addGroup(const QString &title, QWidget *group, bool grows);
+    void addGroup(QWidget *group, bool grows);
+    /// The texts of the tabs: of the preview, and of the groups in their order.
+    void setTitles(const QStringList &titles);
     Mode mode() const { return m_mode; }
     /// Brings the preview to sight.
     void showPreview();

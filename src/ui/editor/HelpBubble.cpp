@@ -11,22 +11,27 @@
 namespace velmora
 {
 
-HelpBubble::HelpBubble(QWidget *control, QAbstractButton *help, const QString &name)
-    : QObject(help), m_text(control->toolTip())
+HelpBubble::HelpBubble(QWidget *control, QAbstractButton *help)
+    : QObject(help), m_control(control), m_help(help)
 {
     help->setProperty("help", true);
     help->setIcon(Theme::icon(QStringLiteral("help")));
     help->setIconSize({20, 20});
     help->setFixedSize(24, 24);
     help->setFocusPolicy(Qt::TabFocus);
-    help->setToolTip(m_text);
-    help->setAccessibleName(tr("Help for %1").arg(name));
-    help->setAccessibleDescription(m_text);
-    control->setAccessibleDescription(m_text);
     control->installEventFilter(this);
     help->installEventFilter(this);
     connect(help, &QAbstractButton::clicked, this,
-            [this, help] { show(help->mapToGlobal(help->rect().bottomLeft()), help); });
+            [this] { show(m_help->mapToGlobal(m_help->rect().bottomLeft()), m_help); });
+}
+
+void HelpBubble::setTexts(const QString &name)
+{
+    const QString text = m_control->toolTip();
+    m_control->setAccessibleDescription(text);
+    m_help->setToolTip(text);
+    m_help->setAccessibleName(tr("Help for %1").arg(name));
+    m_help->setAccessibleDescription(text);
 }
 
 bool HelpBubble::eventFilter(QObject *watched, QEvent *event)
@@ -40,7 +45,8 @@ bool HelpBubble::eventFilter(QObject *watched, QEvent *event)
 void HelpBubble::show(const QPoint &position, QWidget *widget) const
 {
     // Only rich text is broken into lines.
-    QToolTip::showText(position, QStringLiteral("<p>%1</p>").arg(m_text.toHtmlEscaped()), widget);
+    QToolTip::showText(
+        position, QStringLiteral("<p>%1</p>").arg(m_control->toolTip().toHtmlEscaped()), widget);
 }
 
 } // namespace velmora

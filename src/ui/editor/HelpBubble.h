@@ -15,9 +15,11 @@ class HelpBubble : public QObject
 {
     Q_OBJECT
 public:
-    /// @p help takes its tooltip from @p control, and its accessible name from @p name, the label
-    /// of the control.
-    HelpBubble(QWidget *control, QAbstractButton *help, const QString &name);
+    HelpBubble(QWidget *control, QAbstractButton *help);
+
+    /// @p help takes its tooltip from the control, and its accessible name from @p name, the
+    /// control's label. To be called again after a change of the language.
+    void setTexts(const QString &name);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -25,7 +27,8 @@ protected:
 private:
     void show(const QPoint &position, QWidget *widget) const;
 
-    QString m_text;
+    QWidget *m_control;
+    QAbstractButton *m_help;
 };
 
 } // namespace velmora

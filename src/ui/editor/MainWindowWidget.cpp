@@ -38,8 +38,8 @@ constexpr double kSideShare = 0.34; // of the page's width
 
 MainWindowWidget::MainWindowWidget(AppSettings &settings, HistoryStore &history, QWidget *parent)
     : QWidget(parent), m_settings(settings), m_editor(settings),
-      m_undo(new QAction(Theme::icon(QStringLiteral("undo")), tr("Undo"), this)),
-      m_redo(new QAction(Theme::icon(QStringLiteral("redo")), tr("Redo"), this)),
+      m_undo(new QAction(Theme::icon(QStringLiteral("undo")), QString(), this)),
+      m_redo(new QAction(Theme::icon(QStringLiteral("redo")), QString(), this)),
       m_slides(new SlidesPage(m_editor, settings)),
       m_imports(new PhotoImports(m_editor, m_slides->busyNote(), this)),
       m_preview(new PreviewWidget(m_editor, settings)),
@@ -54,7 +54,7 @@ MainWindowWidget::MainWindowWidget(AppSettings &settings, HistoryStore &history,
     row->setContentsMargins(kGap, kGap, kGap, kGap);
     row->setSpacing(kGap);
     row->addWidget(m_stack, 1);
-    row->addWidget(m_side);
+    row->addWidget(m_side, 1000); // up to its greatest width
     setUpUndo();
     connectParts();
 }
@@ -77,8 +77,9 @@ void MainWindowWidget::setUpSlideStack()
 void MainWindowWidget::setUpSide()
 {
     m_side->setObjectName(QStringLiteral("editorSide"));
-    m_side->addGroup(tr("Video"), m_video, false);
-    m_side->addGroup(tr("Audio"), m_audio, true);
+    m_side->setMinimumWidth(kSmallestSide);
+    m_side->addGroup(m_video, false);
+    m_side->addGroup(m_audio, true);
     const auto showHeading = [this](EditorSide::Mode mode) {
         m_video->setHeadingVisible(mode == EditorSide::Mode::All);
     };
@@ -99,8 +100,23 @@ void MainWindowWidget::setUpUndo()
         addAction(action);
     }
     connect(m_editor.undoStack(), &QUndoStack::indexChanged, this, &MainWindowWidget::updateUndo);
-    updateUndo();
+    retranslate();
     m_slides->setUndoActions(m_undo, m_redo);
+}
+
+void MainWindowWidget::retranslate()
+{
+    m_side->setTitles({tr("Preview"), tr("Video"), tr("Audio")});
+    m_undo->setText(tr("Undo"));
+    m_redo->setText(tr("Redo"));
+    updateUndo();
+}
+
+void MainWindowWidget::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QWidget::changeEvent(event);
 }
 
 /// "Undo: Move slides (Ctrl+Z)"; not possible while a video is made or a caption is edited.
@@ -140,7 +156,7 @@ void MainWindowWidget::connectParts()
         emit progressFinished();
     });
     connect(m_create, &CreatePanel::progress, this, &MainWindowWidget::progress);
-    connect(m_create, &CreatePanel::finished, this, &MainWindowWidget::finished);
+    connect(m_create, &CreatePanel::finished, this, &MainWindowWidget::onFullVideoGenerated);
 }
 
 /// An edit during a render would not be in the video, and its history entry must match it.
@@ -211,7 +227,7 @@ void MainWindowWidget::resizeEvent(QResizeEvent *event)
     QWidget::resizeEvent(event);
     const int width = std::min(
         std::max(static_cast<int>(kSideShare * event->size().width()), kSmallestSide), kWidestSide);
-    m_side->setFixedWidth(width);
+    m_side->setMaximumWidth(width);
 }
 
 void MainWindowWidget::setProject(ProjectFile *project)
@@ -258,6 +274,12 @@ void MainWindowWidget::onFullPreview()
 {
     m_side->showPreview();
     m_preview->playFull();
+}
+
+void MainWindowWidget::onFullVideoGenerated(const QString &fileName)
+{
+    m_preview->stop();
+    emit finished(fileName);
 }
 
 } // namespace velmora

@@ -63,16 +63,20 @@ public slots:
     void onRowsMoved(int from, int after);
     void onPreviewClicked();
     void onFullPreview();
+    /// The whole video was made.
+    void onFullVideoGenerated(const QString &fileName);
     /// Takes over changed settings.
     void updateFromSettings();
 
 protected:
+    void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     void setUpSlideStack();
     void setUpSide();
     void setUpUndo();
+    void retranslate();
     void connectParts();
     void updateUndo();
     void setGenerating(bool generating);

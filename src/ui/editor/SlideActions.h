@@ -4,6 +4,8 @@
 #include <QAction>
 #include <QKeySequence>
 #include <QObject>
+#include <QPair>
+#include <QVector>
 
 class QAbstractButton;
 class QMenu;
@@ -20,8 +22,10 @@ public:
     /// The keys work in @p page and what it holds.
     explicit SlideActions(QWidget *page);
 
-    /// Gives a button the icon and the tooltip of an action, which its click triggers.
+    /// Gives a button the icon of an action, and lets its texts and its state follow the action.
     static void bind(QAbstractButton *button, QAction *action);
+    /// Takes the texts from the language that is set now.
+    void retranslate();
     /// "Text (Key)"
     static QString toolTip(const QString &text, const QKeySequence &key);
     /// @p times and @p transitions are the menus of values that stand for those actions.
@@ -45,10 +49,10 @@ public:
     QAction *clear;
 
 private:
-    QAction *add(const char *name, const QString &text, const QString &icon,
-                 const QKeySequence &key);
+    QAction *add(const char *name, const char *text, const QString &icon, const QKeySequence &key);
 
     QWidget *m_page;
+    QVector<QPair<QAction *, const char *>> m_texts; ///< With their untranslated texts.
 };
 
 } // namespace velmora

@@ -30,7 +30,9 @@ constexpr int kStep = 40;             // px that a step of the scroll bar moves
 
 } // namespace
 
-SlideTable::SlideTable(QWidget *parent) : QTableViewEx(parent)
+SlideTable::SlideTable(QWidget *parent)
+    : QTableViewEx(parent), m_times(new ComboBoxItemDelegate(this)),
+      m_transitions(new ComboBoxItemDelegate(this))
 {
     setEditTriggers(NoEditTriggers);
     setMouseTracking(true);
@@ -51,21 +53,30 @@ void SlideTable::setSlides(SlideTableModel *model)
     setColumnWidth(SlideTableModel::NumberColumn, SlideNumberDelegate::width());
     setColumnWidth(SlideTableModel::TimeColumn, kTimeWidth);
     setColumnWidth(SlideTableModel::TransitionColumn, kTransitionWidth);
-    auto *times = new ComboBoxItemDelegate(ValueLists::slideTimes(), this);
-    auto *transitions = new ComboBoxItemDelegate(ValueLists::transitions(), this);
-    connect(times, &ComboBoxItemDelegate::valueChosen, this,
+    connect(m_times, &ComboBoxItemDelegate::valueChosen, this,
             [this](const QModelIndex &index, const QVariant &value) {
                 emit timeChosen(index.row(), value.toInt());
             });
-    connect(transitions, &ComboBoxItemDelegate::valueChosen, this,
+    connect(m_transitions, &ComboBoxItemDelegate::valueChosen, this,
             [this](const QModelIndex &index, const QVariant &value) {
                 emit transitionChosen(index.row(), value.toInt());
             });
     addDelegate(SlideTableModel::NumberColumn, new SlideNumberDelegate(this));
-    addDelegate(SlideTableModel::TimeColumn, times);
-    addDelegate(SlideTableModel::TransitionColumn, transitions);
+    addDelegate(SlideTableModel::TimeColumn, m_times);
+    addDelegate(SlideTableModel::TransitionColumn, m_transitions);
     addDelegate(SlideTableModel::TextColumn, new SlideTextDelegate(this));
+    retranslate();
     connect(model, &QAbstractItemModel::modelReset, this, &SlideTable::tellVisibleRows);
+}
+
+void SlideTable::retranslate()
+{
+    m_times->setValues(ValueLists::slideTimes());
+    m_transitions->setValues(ValueLists::transitions());
+    setEmptyState(Theme::icon(QStringLiteral("photos")).pixmap(208, 120),
+                  tr("Drag & drop photos and folders to add them here"));
+    horizontalHeader()->viewport()->update();
+    viewport()->update();
 }
 
 void SlideTable::addDelegate(int column, SlideDelegate *delegate)

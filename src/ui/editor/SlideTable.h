@@ -9,6 +9,7 @@ class QHelpEvent;
 namespace velmora
 {
 
+class ComboBoxItemDelegate;
 class SlideTableModel;
 
 /// The table of slides: its columns, the buttons painted into its cells, its keys. It only tells
@@ -22,6 +23,8 @@ public:
     /// Instead of setModel().
     void setSlides(SlideTableModel *model);
     SlideTableModel *slides() const { return m_slides; }
+    /// Takes the texts from the language that is set now.
+    void retranslate();
     /// Opens the list of values of a cell in @p column of the current row.
     void openValues(int column);
 
@@ -52,6 +55,8 @@ private:
     void tellVisibleRows();
 
     SlideTableModel *m_slides = nullptr;
+    ComboBoxItemDelegate *m_times;
+    ComboBoxItemDelegate *m_transitions;
     SlidePointer m_pointer;
 };
 

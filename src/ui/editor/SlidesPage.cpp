@@ -31,7 +31,7 @@ namespace
 constexpr int kToolSize = 40; // px
 constexpr int kToolIcon = 24; // px
 
-QWidget *createHint(QWidget *parent)
+QWidget *createHint(QLabel *text, QWidget *parent)
 {
     auto *hint = new QWidget(parent);
     hint->setObjectName(QStringLiteral("emptyHint"));
@@ -39,7 +39,6 @@ QWidget *createHint(QWidget *parent)
     auto *picture = new QLabel;
     picture->setPixmap(Theme::icon(QStringLiteral("photos")).pixmap(208, 120));
     picture->setAlignment(Qt::AlignCenter);
-    auto *text = new QLabel(SlidesPage::tr("Drag & drop photos and folders to add them here"));
     text->setAlignment(Qt::AlignCenter);
     text->setWordWrap(true);
     text->setProperty("secondary", true);
@@ -76,7 +75,8 @@ SlidesPage::SlidesPage(ProjectEditor &editor, const AppSettings &settings, QWidg
 {
     m_ui->setupUi(this);
     m_ui->pageLayout->insertWidget(1, m_note);
-    m_hint = createHint(m_ui->tableView->viewport());
+    m_hintText = new QLabel;
+    m_hint = createHint(m_hintText, m_ui->tableView->viewport());
     m_update.setSingleShot(true);
     connect(&m_update, &QTimer::timeout, this, &SlidesPage::updateControls);
     setUpTable();
@@ -92,8 +92,6 @@ void SlidesPage::setUpTable()
 {
     SlideTable &table = *m_ui->tableView;
     table.setSlides(m_model);
-    table.setEmptyState(Theme::icon(QStringLiteral("photos")).pixmap(208, 120),
-                        tr("Drag & drop photos and folders to add them here"));
     table.setContextMenuPolicy(Qt::CustomContextMenu);
     table.viewport()->installEventFilter(this);
     connect(&table, &QWidget::customContextMenuRequested, this, &SlidesPage::showContextMenu);
@@ -141,15 +139,13 @@ void SlidesPage::setUpButtons()
     SlideActions::bind(m_ui->btnUp, m_actions->up);
     SlideActions::bind(m_ui->btnDown, m_actions->down);
     SlideActions::bind(m_ui->btnShufle, m_actions->shuffle);
-    SlideActions::bind(m_ui->btnSort, m_actions->sortByName);
+    connect(m_actions->sortByName, &QAction::changed, m_ui->btnSort,
+            [this] { m_ui->btnSort->setEnabled(m_actions->sortByName->isEnabled()); });
     SlideActions::bind(m_ui->m_btnRotate, m_actions->rotate);
     SlideActions::bind(m_ui->btnRotateBack, m_actions->rotateBack);
     SlideActions::bind(m_ui->btnDelete, m_actions->remove);
     SlideActions::bind(m_ui->btnRestore, m_actions->restore);
     SlideActions::bind(m_ui->btnClear, m_actions->clear);
-    m_ui->btnSort->setToolTip(
-        SlideActions::toolTip(tr("Sort photos"), m_actions->sortByName->shortcut()));
-    m_ui->btnSort->setAccessibleName(tr("Sort photos"));
     auto *menu = new QMenu(m_ui->btnSort);
     menu->addActions({m_actions->sortByName, m_actions->sortByDate});
     m_ui->btnSort->setMenu(menu);
@@ -163,8 +159,6 @@ void SlidesPage::setUpButtons()
         button->setProperty("flat", true);
         button->setProperty("compact", true);
     }
-    m_ui->btnDefaultTime->setValues(ValueLists::slideTimes());
-    m_ui->btnDefaultTransition->setValues(ValueLists::transitions());
     connect(m_ui->btnDefaultTime, &QPopupButton::valueSelected, this,
             &SlidesPage::onDefTimeChanged);
     connect(m_ui->btnDefaultTransition, &QPopupButton::valueSelected, this,
@@ -181,6 +175,19 @@ void SlidesPage::setUpButtons()
         line->setProperty("separator", true);
     }
     updateSortButtonStyle();
+    retranslate();
+}
+
+void SlidesPage::retranslate()
+{
+    m_actions->retranslate();
+    m_ui->tableView->retranslate();
+    m_hintText->setText(tr("Drag & drop photos and folders to add them here"));
+    m_ui->btnSort->setToolTip(
+        SlideActions::toolTip(tr("Sort photos"), m_actions->sortByName->shortcut()));
+    m_ui->btnSort->setAccessibleName(tr("Sort photos"));
+    m_ui->btnDefaultTime->setValues(ValueLists::slideTimes());
+    m_ui->btnDefaultTransition->setValues(ValueLists::transitions());
 }
 
 void SlidesPage::setUndoActions(QAction *undo, QAction *redo)
@@ -188,8 +195,6 @@ void SlidesPage::setUndoActions(QAction *undo, QAction *redo)
     const auto bind = [](QToolButton *button, QAction *action) {
         SlideActions::bind(button, action);
         connect(button, &QToolButton::clicked, action, &QAction::trigger);
-        connect(action, &QAction::changed, button,
-                [button, action] { button->setToolTip(action->toolTip()); });
     };
     bind(m_ui->btnUndo, undo);
     bind(m_ui->btnRedo, redo);
@@ -293,6 +298,11 @@ void SlidesPage::changeEvent(QEvent *event)
     // Photos may have been moved or brought back in another program.
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         m_model->checkFiles();
+    if (event->type() == QEvent::LanguageChange) {
+        m_ui->retranslateUi(this);
+        retranslate();
+        updateControls();
+    }
     QWidget::changeEvent(event);
 }
 

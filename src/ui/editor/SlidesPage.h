@@ -11,6 +11,7 @@
 
 class QAction;
 class QItemSelection;
+class QLabel;
 
 namespace Ui
 {
@@ -84,6 +85,7 @@ private:
     void setUpTable();
     void setUpActions();
     void setUpButtons();
+    void retranslate();
     void connectEditor();
     void keepSelection();
     void restoreSelection();
@@ -108,7 +110,8 @@ private:
     BusyNote *m_note;
     SlideActions *m_actions;
     SlideSorter *m_sorter;
-    QWidget *m_hint;                  ///< Invites while there are no photos.
+    QWidget *m_hint; ///< Invites while there are no photos.
+    QLabel *m_hintText;
     QTimer m_update;                  ///< Many changes at once update the controls once.
     ProjectEditor::Slides m_kept;     ///< The selection while the rows change.
     ProjectEditor::Slides m_keptRows; ///< All slides before the change.

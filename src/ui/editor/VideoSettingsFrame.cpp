@@ -8,6 +8,8 @@
 #include "ui/model/ValueLists.h"
 #include "ui_VideoSettings.h"
 
+#include <QEvent>
+
 namespace velmora
 {
 
@@ -19,13 +21,11 @@ VideoSettingsFrame::VideoSettingsFrame(ProjectEditor &editor, const AppSettings 
     m_ui->setupUi(this);
     setProperty("card", true);
     m_ui->lblVideo->setProperty("heading", true);
-    m_ui->btnOutResolution->setValues(ValueLists::resolutions());
-    m_ui->btnTransitionDuration->setValues(ValueLists::transitionLengths());
-    new HelpBubble(m_ui->btnOutResolution, m_ui->btnHelpResolution, m_ui->lblResolution->text());
-    new HelpBubble(m_ui->btnTransitionDuration, m_ui->btnHelpTransition,
-                   m_ui->lblTransitionDuration->text());
-    new HelpBubble(m_ui->chkScaleToFit, m_ui->btnHelpScale, m_ui->chkScaleToFit->text());
-    new HelpBubble(m_ui->chkOrigRatio, m_ui->btnHelpRatio, m_ui->chkOrigRatio->text());
+    m_resolutionHelp = new HelpBubble(m_ui->btnOutResolution, m_ui->btnHelpResolution);
+    m_transitionHelp = new HelpBubble(m_ui->btnTransitionDuration, m_ui->btnHelpTransition);
+    m_scaleHelp = new HelpBubble(m_ui->chkScaleToFit, m_ui->btnHelpScale);
+    m_ratioHelp = new HelpBubble(m_ui->chkOrigRatio, m_ui->btnHelpRatio);
+    retranslate();
     connect(m_ui->btnOutResolution, &QPopupButton::valueSelected, this,
             &VideoSettingsFrame::onResolutionChanged);
     connect(m_ui->btnTransitionDuration, &QPopupButton::valueSelected, this,
@@ -35,6 +35,25 @@ VideoSettingsFrame::VideoSettingsFrame(ProjectEditor &editor, const AppSettings 
 }
 
 VideoSettingsFrame::~VideoSettingsFrame() = default;
+
+void VideoSettingsFrame::retranslate()
+{
+    m_ui->btnOutResolution->setValues(ValueLists::resolutions());
+    m_ui->btnTransitionDuration->setValues(ValueLists::transitionLengths());
+    m_resolutionHelp->setTexts(m_ui->lblResolution->text());
+    m_transitionHelp->setTexts(m_ui->lblTransitionDuration->text());
+    m_scaleHelp->setTexts(m_ui->chkScaleToFit->text());
+    m_ratioHelp->setTexts(m_ui->chkOrigRatio->text());
+}
+
+void VideoSettingsFrame::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        m_ui->retranslateUi(this);
+        retranslate();
+    }
+    QFrame::changeEvent(event);
+}
 
 void VideoSettingsFrame::setHeadingVisible(bool visible)
 {

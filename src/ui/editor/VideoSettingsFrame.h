@@ -15,6 +15,7 @@ namespace velmora
 {
 
 struct AppSettings;
+class HelpBubble;
 class ProjectEditor;
 
 /// The settings of the whole slideshow's picture. GUI thread.
@@ -36,10 +37,19 @@ public slots:
     void on_chkOrigRatio_clicked(bool on);
     void on_chkScaleToFit_clicked(bool on);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void retranslate();
+
     ProjectEditor &m_editor;
     const AppSettings &m_settings;
     std::unique_ptr<Ui::VideoSettings> m_ui;
+    HelpBubble *m_resolutionHelp;
+    HelpBubble *m_transitionHelp;
+    HelpBubble *m_scaleHelp;
+    HelpBubble *m_ratioHelp;
 };
 
 } // namespace velmora

@@ -67,10 +67,13 @@ def main():
         tls, ca_file = make_certificate(folder) if options.tls else (None, "")
         model = Model()
         server = Server(options.port, model, tls)
-        sections = server.services.configuration(ca_file)
+        # The update check trusts the system's certificates only.
+        plain = Server(0, model, None) if tls else server
+        sections = server.services.configuration(ca_file, plain.base)
         if options.config:
             write_config(options.config, sections)
-        threading.Thread(target=server.serve_forever, daemon=True).start()
+        for each in {server, plain}:
+            threading.Thread(target=each.serve_forever, daemon=True).start()
         print(json.dumps({"url": server.base, "ca_file": ca_file, "config": sections}), flush=True)
         result = 0
         try:

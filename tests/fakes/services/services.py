@@ -241,7 +241,7 @@ class Services:
         require(re.fullmatch(r"[0-9a-f]{32}", values["h"]), "the digest is " + values["h"])
         return 200, {"Content-Type": "text/plain"}, self.model.version.encode()
 
-    def configuration(self, ca_file):
+    def configuration(self, ca_file, update_base):
         """services.ini that points the program here."""
         section = {"accounts": self.base, "api": self.base, "upload": self.base,
                    "content": self.base, "web": self.base}
@@ -249,6 +249,7 @@ class Services:
         for service, (client, secret) in CLIENTS.items():
             result[service] = dict(section, client_id=client, client_secret=secret)
         result["dropbox"]["folder"] = FOLDER
-        result["update"] = {"address": self.base + "/update"}
+        result["update"] = {"address": update_base + "/update", "product": "fake",
+                            "download": update_base + "/", "notes": update_base + "/"}
         result["network"] = {"ca_file": ca_file} if ca_file else {}
         return result

@@ -270,7 +270,9 @@ void UploadControllerTest::uploadFails()
         user.configure({{QStringLiteral("network/timeout"), QStringLiteral("1")}});
         user.grant(service.key(), service.value());
         m_services.fail(QStringLiteral("upload"), failure, 9);
-        const UploadCourse course = user.run(service.key(), user.video(8000000), kTitle);
+        const UploadCourse course = user.run(
+            service.key(), user.video(failure.contains(QLatin1String("drop")) ? 3000000 : 100000),
+            kTitle);
         QCOMPARE(course.ends(), 1);
         QCOMPARE(course.failed.size(), 1);
         const QString prefix = QStringLiteral("Error uploading video:");
@@ -336,7 +338,7 @@ void UploadControllerTest::cancelEndsEachStep()
     if (step != QLatin1String("token"))
         user.grant(service, key);
     m_services.fail(step, action(R"({"hang": true})"), 9);
-    user.start(service, user.video(9000000), kTitle);
+    user.start(service, user.video(service == QLatin1String("dropbox") ? 9000000 : 100000), kTitle);
     QTRY_VERIFY(m_services.steps().contains(step));
     QCOMPARE(user.course.ends(), 0);
     user.controller().cancel();

@@ -129,7 +129,7 @@ private slots:
             QTest::keyClick(child<QCheckBox>(name), Qt::Key_Space);
         child<QLineEdit>("txtFolder")->setText(QStringLiteral("/no/such/folder"));
         auto *languages = child<QComboBox>("cbxLanguage");
-        QCOMPARE(languages->count(), 2);
+        QVERIFY(languages->count() >= 2); // also those that are installed with the program
         QCOMPARE(languages->itemText(1), QStringLiteral("Deutsch"));
         QTest::keyClick(languages, Qt::Key_Down);
         QTest::mouseClick(child<QPushButton>("btnSave"), Qt::LeftButton);
