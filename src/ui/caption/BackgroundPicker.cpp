@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QStyle>
+#include <QVariant>
 
 namespace velmora
 {
@@ -69,6 +70,7 @@ BackgroundPicker::BackgroundPicker(QWidget *parent)
     for (int i = 0; i < kTitleBackgroundCount; ++i) {
         auto *button = new QPushButton(this);
         button->setObjectName(QStringLiteral("butColor%1").arg(i + 1, 2, 10, QLatin1Char('0')));
+        button->setProperty("swatch", true);
         button->setStyleSheet(QStringLiteral("border: none"));
         button->setCheckable(true);
         button->setAutoDefault(false);

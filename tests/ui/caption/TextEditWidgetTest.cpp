@@ -216,7 +216,9 @@ void TextEditWidgetTest::escapeAsksOnlyAfterChanges()
     for (const char *button : {"button1", "button0"}) { // keep, then discard
         if (!m_widget->item())
             m_widget->setItem(slide(1));
-        QApplication::setActiveWindow(m_widget->window()); // A closed dialog may leave none active.
+        // A closed dialog may leave no window active.
+        QApplication::setActiveWindow(m_widget.get());
+        QVERIFY(QTest::qWaitForWindowActive(m_widget.get()));
         QTest::keyClicks(&text, QStringLiteral("x"));
         QTimer::singleShot(0, this, [&asked, button] {
             QWidget *dialog = QApplication::activeModalWidget();
@@ -288,6 +290,7 @@ void TextEditWidgetTest::backgroundsAreShownAsTheyAre()
     for (int i = 0; i < kTitleBackgroundCount; ++i) {
         const QString name = QStringLiteral("butColor%1").arg(i + 1, 2, 10, QLatin1Char('0'));
         auto &button = child<QPushButton>(name.toLatin1().constData());
+        QCOMPARE(button.size(), QSize(44, 28));
         const bool chosen = button.isChecked();
         QCOMPARE(chosen, i == 22);
         QCOMPARE(qobject_cast<SelectedColorButtonEffect *>(button.graphicsEffect()) != nullptr,
