@@ -8,6 +8,7 @@
 #include "generator/worker/WorkerMain.h"
 #include "generator/worker/WorkerProtocol.h"
 #include "platform/FileNames.h"
+#include "platform/ImageFormats.h"
 #include "programs/velmoratool/HelpText.h"
 #include "programs/velmoratool/MakeCommand.h"
 #include "project/frames/CaptionFont.h"
@@ -55,6 +56,7 @@ int main(int argc, char *argv[])
 {
     velmora::FileNames::allowAllLetters();
     velmora::applyIdentity();
+    velmora::installImageFormats();
     velmora::Log::install(QStringLiteral("log_tool"));
     qputenv("QT_QPA_PLATFORM",
             QByteArrayLiteral("offscreen")); // pictures and fonts, but never a window
