@@ -11,7 +11,9 @@ build_packages=(
     libavformat-dev
     libavutil-dev
     libboost-dev
+    libburn-dev
     libexiv2-dev
+    libisofs-dev
     libjpeg-dev
     libqt5networkauth5-dev
     libqt5svg5-dev
@@ -22,6 +24,7 @@ build_packages=(
     ninja-build
     pkg-config
     qtbase5-dev
+    qtkeychain-qt5-dev
     qtmultimedia5-dev
     qttools5-dev
     qttools5-dev-tools
@@ -32,7 +35,9 @@ run_packages=(
     fonts-droid-fallback
     fonts-noto-core
     fonts-open-sans
+    gstreamer1.0-alsa
     gstreamer1.0-libav
+    gstreamer1.0-plugins-base
     gstreamer1.0-plugins-good
     libqt5multimedia5-plugins
     libqt5svg5
@@ -40,8 +45,17 @@ run_packages=(
 )
 
 test_packages=(
+    dbus
     groff-base
+    openssl
+    python3
+    xorriso
     xvfb
+)
+
+fake_services_packages=(
+    openssl
+    python3
 )
 
 format_packages=(

@@ -95,6 +95,7 @@ void AppSettings::load(const QSettings &store, const QSize &screen)
     folder = readFolder(store);
     locale = readLocale(store);
     autoUpdates = readBool(store, "autoUpdates", defaults.autoUpdates);
+    sendStatistics = readBool(store, "sendStatistics", defaults.sendStatistics);
     outputProfile = readProfile(store);
 }
 
@@ -112,6 +113,7 @@ bool AppSettings::save(QSettings &store) const
     store.setValue(QStringLiteral("folder"), folder);
     store.setValue(QStringLiteral("locale"), locale);
     store.setValue(QStringLiteral("autoUpdates"), autoUpdates);
+    store.setValue(QStringLiteral("sendStatistics"), sendStatistics);
     store.setValue(QStringLiteral("outputProfile"), outputProfile);
     store.sync();
     if (store.status() == QSettings::NoError)

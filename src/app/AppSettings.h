@@ -26,7 +26,8 @@ struct AppSettings {
     QString folder; ///< Where projects and videos are written.
     QString locale; ///< Two-letter language code.
     bool autoUpdates = true;
-    QString outputProfile; ///< "original" (the default) or "everywhere".
+    bool sendStatistics = false; ///< Anonymous usage events may be sent.
+    QString outputProfile;       ///< "original" (the default) or "everywhere".
 
     /// Reads every key; missing and unusable values (not a number, out of range, no size, no
     /// language code, unknown profile) take their defaults: "resolution" follows the screen,

@@ -11,6 +11,11 @@ QString programVersion()
     return QStringLiteral(VELMORA_VERSION);
 }
 
+QString buildLabel()
+{
+    return QStringLiteral(VELMORA_BUILD);
+}
+
 void applyIdentity()
 {
     QCoreApplication::setOrganizationName(QStringLiteral("Corvel"));

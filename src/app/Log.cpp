@@ -103,7 +103,7 @@ void writeMessage(QtMsgType type, const QMessageLogContext &context, const QStri
     if (!written && QDir().mkpath(where.folder))
         written = appendToFile(fileName, line);
     const bool severe = type != QtDebugMsg && type != QtInfoMsg;
-    if (!written || (where.echo && severe))
+    if (severe && (!written || where.echo))
         std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stderr);
 }
 

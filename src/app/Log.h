@@ -12,10 +12,9 @@ namespace velmora
 namespace Log
 {
 
-/// The file is opened for each message, so that a new day begins a new file. A message that cannot
-/// be written there goes to standard error. @p filePrefix is "log" for the editor and "log_tool"
-/// for the worker and the command line. Warnings and errors are repeated on standard error when @p
-/// echo is set.
+/// The file is opened for each message, so that a new day begins a new file. @p filePrefix is "log"
+/// for the editor and "log_tool" for the worker and the command line. Warnings and errors go to
+/// standard error when they cannot be written there, and always when @p echo is set.
 void install(const QString &filePrefix, bool echo = false);
 void uninstall();
 

@@ -8,6 +8,7 @@
 
 #include <QEvent>
 #include <QFrame>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -132,6 +133,14 @@ void CorWindow::toggleMaximised()
     setWindowState(windowState() ^ Qt::WindowMaximized);
 }
 
+void CorWindow::bringToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
 QRect CorWindow::frameRect() const
 {
     return rect().marginsRemoved(d->outer->contentsMargins());
@@ -142,6 +151,14 @@ void CorWindow::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange)
         d->update();
+}
+
+void CorWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && isFullScreen())
+        toggleFullScreen();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void CorWindow::paintEvent(QPaintEvent *)

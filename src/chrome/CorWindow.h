@@ -30,11 +30,15 @@ public:
     /// Switches between full screen, without title bar, and the state before.
     void toggleFullScreen();
     void toggleMaximised();
+    /// Shows the window above all others and gives it the focus.
+    void bringToFront();
     /// The visible part of the window, without the shadow, in its coordinates.
     QRect frameRect() const;
 
 protected:
     void changeEvent(QEvent *event) override;
+    /// Escape leaves the full screen.
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;

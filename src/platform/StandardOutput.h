@@ -10,6 +10,10 @@ namespace velmora
 namespace StandardOutput
 {
 
+/// Gives the standard streams that the program was started without something to go to, so that no
+/// file takes their place and receives what is printed. First thing in main().
+void ensureOpen();
+
 /// Writes all of @p data without buffering. A reader that is gone yields false, never a signal; one
 /// that does not read makes it give up after @p timeout ms (on Windows the wait is not bounded).
 /// Given up before the first byte, nothing is written, so lines stay whole while they are shorter

@@ -3,10 +3,10 @@
 
 #include "app/Identity.h"
 #include "app/ServicesConfig.h"
+#include "services/InstallationId.h"
 #include "services/MetricSender.h"
 
 #include <QSettings>
-#include <QUuid>
 
 namespace velmora
 {
@@ -15,16 +15,6 @@ namespace
 {
 
 constexpr int kDefaultBatch = 10;
-
-QString installationId(QSettings &store)
-{
-    const QString key = QStringLiteral("installation_id");
-    const QUuid stored = QUuid::fromString(store.value(key).toString());
-    const QUuid id = stored.isNull() ? QUuid::createUuid() : stored;
-    if (stored.isNull())
-        store.setValue(key, id.toString(QUuid::WithoutBraces));
-    return id.toString(QUuid::WithoutBraces);
-}
 
 } // namespace
 

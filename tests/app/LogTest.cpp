@@ -8,8 +8,11 @@
 #include <QLoggingCategory>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 
+#include <cstdio>
 #include <memory>
+#include <unistd.h>
 #include <vector>
 
 using namespace velmora;
@@ -37,6 +40,7 @@ private slots:
     void severalLines();
     void writesToTodaysFile();
     void makesItsFolderAgain();
+    void troubleIsShownWhenNothingCanBeWritten();
     void manyThreadsAndProcesses();
     void secretsStayOut();
 
@@ -148,6 +152,26 @@ void LogTest::makesItsFolderAgain()
     QVERIFY(QDir(Paths::logFolder()).removeRecursively());
     qInfo("two");
     QVERIFY(content().endsWith("two\n"));
+}
+
+void LogTest::troubleIsShownWhenNothingCanBeWritten()
+{
+    QTemporaryFile shown;
+    QVERIFY(shown.open());
+    qputenv("VELMORA_DATA_DIR", QFile::encodeName(shown.fileName() + QStringLiteral("/x")));
+    std::fflush(stderr);
+    const int before = ::dup(STDERR_FILENO);
+    ::dup2(shown.handle(), STDERR_FILENO);
+    Log::install(QStringLiteral("log"));
+    qInfo("detail");
+    qWarning("trouble");
+    std::fflush(stderr);
+    ::dup2(before, STDERR_FILENO);
+    ::close(before);
+    shown.seek(0);
+    const QByteArray text = shown.readAll();
+    QVERIFY2(text.contains("trouble"), text.constData());
+    QVERIFY2(!text.contains("detail"), text.constData());
 }
 
 void LogTest::manyThreadsAndProcesses()

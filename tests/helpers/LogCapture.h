@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QMutex>
 #include <QStringList>
+#include <QVector>
+
+#include <mutex>
 
 /// Collects the texts of all log lines from any thread, in order, while it lives; they are not
 /// printed. One at a time.
@@ -25,7 +27,7 @@ public:
     /// The lines of at least @p level, or of all levels.
     QStringList lines(QtMsgType level = QtDebugMsg) const
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         QStringList texts;
         for (const auto &line : m_lines) {
             if (severity(line.first) >= severity(level)) {
@@ -43,12 +45,12 @@ private:
     }
     static void handle(QtMsgType type, const QMessageLogContext &, const QString &text)
     {
-        const QMutexLocker lock(&s_current->m_mutex);
+        const std::lock_guard<std::mutex> lock(s_current->m_mutex);
         s_current->m_lines.append({type, text});
     }
 
     inline static LogCapture *s_current = nullptr;
-    mutable QMutex m_mutex;
+    mutable std::mutex m_mutex;
     QVector<QPair<QtMsgType, QString>> m_lines;
     QtMessageHandler m_previous = nullptr;
 };

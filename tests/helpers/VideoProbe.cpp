@@ -4,6 +4,7 @@
 #include <QProcess>
 #include <QStringList>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace velmora
@@ -89,16 +90,18 @@ double VideoProbe::meanDifference(const QImage &a, const QImage &b)
 {
     if (a.size() != b.size() || a.isNull())
         return 255.0;
-    qint64 sum = 0;
+    qint64 sums[3] = {0, 0, 0};
     for (int y = 0; y < a.height(); ++y) {
         const auto *left = reinterpret_cast<const QRgb *>(a.constScanLine(y));
         const auto *right = reinterpret_cast<const QRgb *>(b.constScanLine(y));
-        for (int x = 0; x < a.width(); ++x)
-            sum += std::abs(qRed(left[x]) - qRed(right[x])) +
-                   std::abs(qGreen(left[x]) - qGreen(right[x])) +
-                   std::abs(qBlue(left[x]) - qBlue(right[x]));
+        for (int x = 0; x < a.width(); ++x) {
+            sums[0] += std::abs(qRed(left[x]) - qRed(right[x]));
+            sums[1] += std::abs(qGreen(left[x]) - qGreen(right[x]));
+            sums[2] += std::abs(qBlue(left[x]) - qBlue(right[x]));
+        }
     }
-    return static_cast<double>(sum) / (3.0 * a.width() * a.height());
+    const double pixels = static_cast<double>(a.width()) * a.height();
+    return static_cast<double>(*std::max_element(sums, sums + 3)) / pixels;
 }
 
 } // namespace velmora

@@ -22,7 +22,8 @@ QVector<QImage> frames(const QString &file, const QSize &size);
 /// What FFmpeg complains about when it decodes the whole file; empty for a sound one.
 QString decodingErrors(const QString &file);
 
-/// Mean difference of two pictures of the same size over all channels, 0 to 255.
+/// The largest of the three channels' mean differences, 0 to 255; the pictures have 32 bits a
+/// pixel.
 double meanDifference(const QImage &a, const QImage &b);
 
 } // namespace VideoProbe

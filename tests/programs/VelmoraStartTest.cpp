@@ -3,6 +3,7 @@
 #include "helpers/TestProcess.h"
 
 #include <QDir>
+#include <QImage>
 #include <QTemporaryDir>
 
 #include <csignal>
@@ -28,6 +29,8 @@ private slots:
     void cleanup();
     void firstStart();
     void secondStartWakesTheFirst();
+    void secondStartHandsOverItsFiles();
+    void killedProgramOffersToRestore();
     void startsAfterKill();
     void crashIsToldAtTheNextStart();
     void startsAlthoughFirstIsSilent();
@@ -132,6 +135,40 @@ void VelmoraStartTest::secondStartWakesTheFirst()
     QVERIFY(logged(": main window\n"));
     QCOMPARE(first->state(), QProcess::Running);
     end(*first);
+}
+
+void VelmoraStartTest::secondStartHandsOverItsFiles()
+{
+    const auto first = start();
+    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 90000);
+    const auto second = start({QStringLiteral("/no such/photo.png")});
+    QVERIFY(second->waitForFinished());
+    QCOMPARE(second->exitCode(), 0);
+    QTRY_VERIFY(loggedBy(*first, "file:///no%20such/photo.png"));
+    end(*first);
+}
+
+void VelmoraStartTest::killedProgramOffersToRestore()
+{
+    QFile settings(m_data->filePath(QStringLiteral("settings.ini")));
+    QVERIFY(settings.open(QIODevice::WriteOnly));
+    settings.write("[General]\nautosaveSeconds=1\n");
+    settings.close();
+    QImage photo(64, 48, QImage::Format_RGB32);
+    photo.fill(Qt::darkCyan);
+    const QString path = m_data->filePath(QStringLiteral("photo.png"));
+    QVERIFY(photo.save(path));
+
+    const auto first = start({path});
+    const QString kept = m_data->filePath(QStringLiteral("autosave.json"));
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(kept), 90000);
+    QVERIFY(!logged("Offer to restore"));
+    end(*first);
+    const auto second = start();
+    QTRY_VERIFY_WITH_TIMEOUT(loggedBy(*second, "Offer to restore unsaved changes"), 90000);
+    end(*second);
+    // An unanswered question loses nothing.
+    QVERIFY(QFile::exists(kept));
 }
 
 void VelmoraStartTest::startsAfterKill()

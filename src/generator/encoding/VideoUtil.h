@@ -40,6 +40,7 @@ public:
 
     /// Plain reason of the last failure, fit for the user: "The disk is full." and the like.
     const QString &errorText() const { return m_errorText; }
+    const QString &cachePath() const { return m_context.cachePath; }
 
     /// Runs the encoder with @p arguments and the output file after them. With @p wait its standard
     /// error is fed to the progress reader. The output is written under a temporary name beside @p

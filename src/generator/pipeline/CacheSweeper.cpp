@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/CacheSweeper.h"
 
+#include "app/Paths.h"
 #include "generator/GeneratorLog.h"
 #include "generator/pipeline/OutputTarget.h"
 
@@ -61,6 +62,29 @@ int CacheSweeper::sweep(const QString &cacheFolder)
         }
     }
     return removed;
+}
+
+void CacheSweeper::sweepLocks(const QString &lockFolder)
+{
+    const QDir folder(lockFolder);
+    const QStringList names = folder.entryList({QStringLiteral("*.lock")}, QDir::Files);
+    for (const QString &name : names) {
+        QLockFile lock(folder.filePath(name));
+        lock.setStaleLockTime(0);
+        if (lock.tryLock(0))
+            lock.unlock(); // which removes the file
+    }
+}
+
+void CacheSweeper::sweepAll(const QString &cacheFolder)
+{
+    sweep(cacheFolder);
+    sweepLocks(lockFolder());
+}
+
+QString CacheSweeper::lockFolder()
+{
+    return Paths::cacheFolder() + QStringLiteral("/locks");
 }
 
 } // namespace velmora

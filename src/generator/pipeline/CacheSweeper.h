@@ -21,6 +21,12 @@ inline const QLatin1String kOutputNote("output.txt");
 /// Removes the cache folders of dead renders below @p cacheFolder, with their unfinished videos.
 /// Returns how many folders were removed. Any thread.
 int sweep(const QString &cacheFolder);
+/// Removes the locks of dead renders in @p lockFolder, see OutputTarget.
+void sweepLocks(const QString &lockFolder);
+/// Both, with the locks that all renders of the user share.
+void sweepAll(const QString &cacheFolder);
+/// The folder of these locks.
+QString lockFolder();
 
 } // namespace CacheSweeper
 

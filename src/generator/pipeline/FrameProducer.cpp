@@ -38,23 +38,8 @@ FrameProducer::~FrameProducer()
 bool FrameProducer::waitForStage(int order, int stage)
 {
     const int work = workOf(order, stage);
-    FramePainter painter(m_plan, m_frames, m_context);
-    std::unique_lock<std::mutex> locker(m_mutex);
-    while (m_works.at(work).painted < m_works.at(work).pictures) {
-        if (m_context.cancelled)
-            return false;
-        Picture picture;
-        if (!take(work, &picture)) {
-            m_changed.wait_for(locker, kPollInterval);
-            continue;
-        }
-        locker.unlock();
-        const bool painted = paint(painter, picture);
-        locker.lock();
-        if (!painted)
-            return false;
-    }
-    return true;
+    return paintWhile([this, work] { return m_works.at(work).painted < m_works.at(work).pictures; },
+                      work);
 }
 
 void FrameProducer::stageEncoded(int order, int stage)
@@ -68,11 +53,18 @@ void FrameProducer::stageEncoded(int order, int stage)
 
 void FrameProducer::run()
 {
+    paintWhile([this] { return m_next < m_works.size(); }, m_works.size() - 1);
+}
+
+bool FrameProducer::paintWhile(const std::function<bool()> &isWanted, int lastWork)
+{
     FramePainter painter(m_plan, m_frames, m_context);
     std::unique_lock<std::mutex> locker(m_mutex);
-    while (!m_context.cancelled && m_next < m_works.size()) {
+    while (isWanted()) {
+        if (m_context.cancelled)
+            return false;
         Picture picture;
-        if (!take(m_works.size() - 1, &picture)) {
+        if (!take(lastWork, &picture)) {
             m_changed.wait_for(locker, kPollInterval);
             continue;
         }
@@ -80,8 +72,9 @@ void FrameProducer::run()
         const bool painted = paint(painter, picture);
         locker.lock();
         if (!painted)
-            break;
+            return false;
     }
+    return true;
 }
 
 int FrameProducer::workOf(int order, int stage) const

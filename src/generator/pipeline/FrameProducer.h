@@ -59,6 +59,9 @@ private:
         int work = -1;
         int number = 0;
     };
+    /// Paints pictures of the works up to @p lastWork as long as @p isWanted, which is asked under
+    /// the lock. False when the context is cancelled or a picture failed.
+    bool paintWhile(const std::function<bool()> &isWanted, int lastWork);
     int workOf(int order, int stage) const;
     bool take(int lastWork, Picture *picture);
     bool mayBegin(int work) const;

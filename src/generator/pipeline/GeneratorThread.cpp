@@ -30,7 +30,7 @@ constexpr int kPoolThreads = 2;
 constexpr int kTimerInterval = 500;          // ms
 constexpr unsigned long kPollInterval = 100; // ms
 constexpr unsigned long kSoundPoll = 300;    // ms
-constexpr qint64 kStallWarning = 60'000;     // ms
+constexpr qint64 kStallWarning = 60000;      // ms
 
 // The work besides painting and encoding, as parts of the frame count.
 constexpr int kJoinPart = 50;

@@ -22,7 +22,7 @@ namespace velmora
 namespace
 {
 
-constexpr int kLongestText = 16'000; // characters; the message must stay readable
+constexpr int kLongestText = 16000; // characters; the message must stay readable
 
 struct Check {
     QString path;

@@ -25,13 +25,14 @@ namespace
 constexpr int kLongestName = 255;     // bytes, on all common file systems
 constexpr int kTemporaryReserve = 48; // bytes of the temporary name beyond the video's name
 constexpr int kRandomLetters = 6;
+constexpr int kLockPatience = 200;    // ms; another start may just be looking at the lock
 constexpr int kTrialSize = 64 * 1024; // bytes
 constexpr int kShownName = 60;        // characters of a long name in messages
 
-QString tr(const char *text)
+class Texts
 {
-    return QCoreApplication::translate("velmora::OutputTarget", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(velmora::OutputTarget)
+};
 
 RenderError outputError(const QString &text)
 {
@@ -71,7 +72,7 @@ RenderError OutputTarget::prepare(const QString &fileName, const QString &format
                                   const QString &lockFolder)
 {
     if (fileName.isEmpty())
-        return outputError(tr("The project does not name a video file to write."));
+        return outputError(Texts::tr("The project does not name a video file to write."));
     chooseName(fileName, format);
     RenderError error = checkName();
     if (!error.isSet())
@@ -89,7 +90,7 @@ RenderError OutputTarget::commit()
     std::error_code failure;
     std::filesystem::rename(filePath(m_temporaryFile), filePath(m_fileName), failure);
     if (failure)
-        return outputError(tr("The finished video could not be put in place as \"%1\": %2.")
+        return outputError(Texts::tr("The finished video could not be put in place as \"%1\": %2.")
                                .arg(m_fileName, QString::fromStdString(failure.message())));
     m_temporaryFile.clear();
     return {};
@@ -141,18 +142,20 @@ RenderError OutputTarget::checkName() const
     const QFileInfo folder(m_folder);
     if (QFile::encodeName(info.fileName()).size() > kLongestName)
         return outputError(
-            tr("The video's name \"%1...\" is too long: a file name may have no more "
-               "than %2 bytes.")
+            Texts::tr("The video's name \"%1...\" is too long: a file name may have no more "
+                      "than %2 bytes.")
                 .arg(info.fileName().left(kShownName))
                 .arg(kLongestName));
     if (!folder.exists())
-        return outputError(tr("The folder \"%1\" for the video does not exist.").arg(m_folder));
-    if (!folder.isDir())
         return outputError(
-            tr("The video cannot be written into \"%1\": it is not a folder.").arg(m_folder));
+            Texts::tr("The folder \"%1\" for the video does not exist.").arg(m_folder));
+    if (!folder.isDir())
+        return outputError(Texts::tr("The video cannot be written into \"%1\": it is not a folder.")
+                               .arg(m_folder));
     if (info.isDir())
         return outputError(
-            tr("The video cannot be written as \"%1\": a folder has that name.").arg(m_fileName));
+            Texts::tr("The video cannot be written as \"%1\": a folder has that name.")
+                .arg(m_fileName));
     return {};
 }
 
@@ -170,9 +173,11 @@ RenderError OutputTarget::tryWriting() const
     if (written)
         return {};
     if (noSpace)
-        return {RenderErrorCode::kDiskFull,
-                tr("The video cannot be written into \"%1\": the disk is full.").arg(m_folder)};
-    return outputError(tr("The video cannot be written into \"%1\": %2.").arg(m_folder, reason));
+        return {
+            RenderErrorCode::kDiskFull,
+            Texts::tr("The video cannot be written into \"%1\": the disk is full.").arg(m_folder)};
+    return outputError(
+        Texts::tr("The video cannot be written into \"%1\": %2.").arg(m_folder, reason));
 }
 
 RenderError OutputTarget::lock(const QString &lockFolder)
@@ -185,13 +190,13 @@ RenderError OutputTarget::lock(const QString &lockFolder)
     m_lock = std::make_unique<QLockFile>(
         QStringLiteral("%1/%2.lock").arg(lockFolder, QString::fromLatin1(hash)));
     m_lock->setStaleLockTime(0); // a render may take hours; only a dead owner makes a lock stale
-    if (m_lock->tryLock(0))
+    if (m_lock->tryLock(kLockPatience))
         return {};
     const QLockFile::LockError reason = m_lock->error();
     m_lock.reset();
     if (reason == QLockFile::LockFailedError)
         return {RenderErrorCode::kBusy,
-                tr("Another render is writing \"%1\" at this time.").arg(m_fileName)};
+                Texts::tr("Another render is writing \"%1\" at this time.").arg(m_fileName)};
     qCWarning(generatorLog) << "No lock could be made in" << lockFolder;
     return {};
 }

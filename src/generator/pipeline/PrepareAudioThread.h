@@ -20,8 +20,6 @@ protected:
     void run() override;
 
 private:
-    QString prepare(VideoUtil &util) const;
-
     GeneratorThread &m_generator;
     QString m_track;
 };

@@ -7,6 +7,10 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+
+#include <filesystem>
+#include <system_error>
 
 namespace velmora
 {
@@ -20,6 +24,14 @@ QString makeTemplate(const QString &cacheFolder)
     Paths::ensureFolder(cacheFolder);
     return QDir(cacheFolder)
         .absoluteFilePath(QString(CacheSweeper::kFolderPrefix) + QStringLiteral("XXXXXX"));
+}
+
+/// Why nothing can be made in @p folder; that it is not there would only be a consequence.
+QString folderFault(const QString &folder, const QString &consequence)
+{
+    std::error_code failure;
+    std::filesystem::create_directories(std::filesystem::u8path(folder.toStdString()), failure);
+    return failure ? QString::fromStdString(failure.message()) : consequence;
 }
 
 } // namespace
@@ -42,7 +54,7 @@ void RenderCache::noteOutput(const QString &temporaryFile) const
 bool RenderCache::prepare()
 {
     if (!m_folder.isValid()) {
-        m_errorText = m_folder.errorString();
+        m_errorText = folderFault(QFileInfo(m_template).path(), m_folder.errorString());
         return false;
     }
     m_lock = std::make_unique<QLockFile>(file(CacheSweeper::kLockFile));

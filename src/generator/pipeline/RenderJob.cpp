@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/RenderJob.h"
 
-#include "app/Paths.h"
 #include "generator/GeneratorLog.h"
 #include "generator/encoding/EncoderLocator.h"
 #include "generator/pipeline/CacheSweeper.h"
@@ -103,11 +102,11 @@ RenderError RenderJob::Private::findFault()
     if (encoder.program.isEmpty())
         return {RenderErrorCode::kEncoder, encoder.error};
     error = target.prepare(request.project->fileName(), request.project->format(),
-                           Paths::cacheFolder() + QStringLiteral("/locks"));
+                           CacheSweeper::lockFolder());
     if (!error.isSet())
         error = InputCheck::run(*request.project, cancelRequested);
     if (!error.isSet())
-        CacheSweeper::sweep(cacheFolder);
+        CacheSweeper::sweepAll(cacheFolder);
     return error;
 }
 

@@ -2,6 +2,7 @@
 #include "generator/pipeline/RenderRequest.h"
 
 #include "app/AppSettings.h"
+#include "project/documents/JsonFile.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -15,14 +16,16 @@ namespace
 
 constexpr int kLongestTransition = 600; // s
 
-/// The project reader leaves "transition_time" to the render.
-int transitionSecondsOf(const QString &path, int fallback)
+const QLatin1String kTransitionTime("transition_time");
+const QLatin1String kProfile("output_profile");
+const QLatin1String kParallel("speed_generation");
+
+QJsonObject documentOf(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return fallback;
-    const QJsonObject document = QJsonDocument::fromJson(file.readAll()).object();
-    return document.value(QLatin1String("transition_time")).toInt(fallback);
+        return {};
+    return QJsonDocument::fromJson(file.readAll()).object();
 }
 
 } // namespace
@@ -32,11 +35,24 @@ bool RenderRequest::load(const QString &path, const AppSettings &settings, QStri
     project = ProjectFile::loadFromFile(path, settings, error);
     if (!project)
         return false;
-    transitionSeconds =
-        qBound(1, transitionSecondsOf(path, settings.transitionTime), kLongestTransition);
-    parallel = settings.speedGeneration;
-    profile = outputProfileFromKey(settings.outputProfile);
+    // The project reader leaves these to the render.
+    const QJsonObject document = documentOf(path);
+    transitionSeconds = qBound(1, document.value(kTransitionTime).toInt(settings.transitionTime),
+                               kLongestTransition);
+    parallel = document.value(kParallel).toBool(settings.speedGeneration);
+    profile = outputProfileFromKey(document.value(kProfile).toString(settings.outputProfile));
     return true;
+}
+
+bool RenderRequest::save(const ProjectFile &project, const AppSettings &settings,
+                         const QString &path, QString *error)
+{
+    QJsonObject document;
+    project.toJson(document);
+    document.insert(kTransitionTime, settings.transitionTime);
+    document.insert(kProfile, outputProfileKey(outputProfileFromKey(settings.outputProfile)));
+    document.insert(kParallel, settings.speedGeneration);
+    return JsonFile::write(path, QJsonDocument(document).toJson(QJsonDocument::Indented), error);
 }
 
 } // namespace velmora

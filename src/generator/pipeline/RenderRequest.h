@@ -17,8 +17,12 @@ struct RenderRequest {
     OutputProfile profile = OutputProfile::OriginalQuality;
 
     /// Reads a request file (a project document); false with a plain reason in @p error. Parallel
-    /// and profile come from @p settings.
+    /// and profile come from @p settings where the file does not name them.
     bool load(const QString &path, const AppSettings &settings, QString *error);
+    /// Writes a request file that renders @p project as @p settings say, whatever the worker's own
+    /// settings are; false with a plain reason in @p error.
+    static bool save(const ProjectFile &project, const AppSettings &settings, const QString &path,
+                     QString *error);
 };
 
 } // namespace velmora

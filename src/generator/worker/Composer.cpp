@@ -3,6 +3,7 @@
 
 #include "app/Paths.h"
 #include "generator/GeneratorLog.h"
+#include "generator/pipeline/CacheSweeper.h"
 #include "platform/ProcessTree.h"
 #include "platform/SessionValues.h"
 
@@ -11,6 +12,7 @@
 #include <QFileInfo>
 #include <QMetaEnum>
 #include <QStandardPaths>
+#include <QThreadPool>
 #include <QUuid>
 
 #include <algorithm>
@@ -174,6 +176,7 @@ void Composer::endNow()
                 ProcessTree::kill(pid);
                 m_process->waitForFinished(kDestructionGrace);
             }
+            sweepAfterWorker();
         }
     }
     m_session->clear();
@@ -295,6 +298,8 @@ void Composer::onFinished(int exitCode, QProcess::ExitStatus exitStatus)
                       QFileInfo::exists(m_resultFile);
     if (!done) {
         const RenderError crashed{kGeneratorError, tr("The render program ended unexpectedly.")};
+        if (!normal)
+            sweepAfterWorker();
         fail(normal && m_reported.isSet() ? m_reported : crashed);
         return;
     }
@@ -303,6 +308,13 @@ void Composer::onFinished(int exitCode, QProcess::ExitStatus exitStatus)
     becomeIdle();
     if (wanted)
         emit finished(m_resultFile);
+}
+
+/// A worker that was killed has cleaned up nothing.
+void Composer::sweepAfterWorker()
+{
+    const QString folder = Paths::cacheFolder();
+    QThreadPool::globalInstance()->start([folder] { CacheSweeper::sweepAll(folder); });
 }
 
 void Composer::fail(const RenderError &reason)

@@ -37,6 +37,7 @@ public:
     bool isRunning() const;
     bool isPaused() const { return m_paused; }
     qint64 elapsed() const;   ///< ms since the last run() started its worker, pauses included.
+    qint64 runningTime() const; ///< The same without the pauses.
     qint64 remaining() const; ///< Estimated ms until the video is finished; -1 while unknown.
     /// The stage that the worker last reported, untranslated.
     const QString &stage() const { return m_stage; }
@@ -81,11 +82,11 @@ private:
     void stopHarder();
     void endNow();
     void becomeIdle();
+    static void sweepAfterWorker();
     void take(const WorkerMessage &message);
     void takeProgress(const WorkerMessage &message);
     void reportProgress(int percent);
     void fail(const RenderError &reason);
-    qint64 runningTime() const;
 
     QString m_program;
     QString m_sessionId;

@@ -64,7 +64,9 @@ int runWorker(const QStringList &arguments, const AppSettings &settings)
         return refuse(error);
     RenderRequest request;
     if (!request.load(values->requestFile, settings, &error))
-        return refuse(error);
+        return refuse(QCoreApplication::translate("velmora::WorkerMain",
+                                                  "The request \"%1\" cannot be used: %2")
+                          .arg(values->requestFile, error));
     WorkerRun run(std::move(request), settings, values->sessionId, values->cacheFolder);
     return run.exec();
 }

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <climits>
 #include <csignal>
+#include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
 
@@ -30,6 +31,15 @@ bool waitUntilWritable(int timeout)
 }
 
 } // namespace
+
+void StandardOutput::ensureOpen()
+{
+    for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
+        // open() takes the lowest free number, which is this one.
+        if (::fcntl(stream, F_GETFD) < 0 && errno == EBADF && ::open("/dev/null", O_RDWR) < 0)
+            return;
+    }
+}
 
 bool StandardOutput::write(const QByteArray &data, int timeout)
 {

@@ -6,6 +6,8 @@
 namespace velmora
 {
 
+void StandardOutput::ensureOpen() {} // handles of files are no standard streams here
+
 bool StandardOutput::write(const QByteArray &data, int)
 {
     const HANDLE output = ::GetStdHandle(STD_OUTPUT_HANDLE);

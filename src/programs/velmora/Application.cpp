@@ -6,13 +6,14 @@
 #include "app/Log.h"
 #include "app/Paths.h"
 #include "app/Translations.h"
+#include "chrome/Theme.h"
 #include "platform/InstalledVersion.h"
 #include "platform/SystemInfo.h"
 #include "programs/velmora/ProgramLog.h"
 #include "project/frames/CaptionFont.h"
 
 #include <QDate>
-#include <QFile>
+#include <QLibraryInfo>
 #include <QScreen>
 
 #include <exception>
@@ -30,7 +31,7 @@ Application::Application(int &argc, char **argv)
     logEnvironment();
     readSettings();
     applyLanguage(m_settings.locale);
-    applyStyleSheet();
+    Theme::install(*this);
     if (!Paths::ensureFolder(Paths::cacheFolder()))
         qCCritical(lcProgram).noquote()
             << "Generator thread. Failed to creat cache path:" << Paths::cacheFolder();
@@ -46,6 +47,11 @@ bool Application::sendMessage(const QString &text, int timeoutMs)
 bool Application::applyLanguage(const QString &locale)
 {
     removeTranslator(&m_translator);
+    removeTranslator(&m_qtTranslator);
+    // The file dialogs and other parts of Qt have translations of their own.
+    const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+    if (m_qtTranslator.load(QStringLiteral("qtbase_%1").arg(locale), folder))
+        installTranslator(&m_qtTranslator);
     return Translations::load(m_translator, locale) && installTranslator(&m_translator);
 }
 
@@ -81,13 +87,6 @@ void Application::readSettings()
 {
     FirstRun::take(arguments(), *m_store);
     m_settings.load(*m_store, primaryScreenSize());
-}
-
-void Application::applyStyleSheet()
-{
-    QFile file(QStringLiteral(":/style.css"));
-    if (file.open(QIODevice::ReadOnly))
-        setStyleSheet(QString::fromUtf8(file.readAll()));
 }
 
 } // namespace velmora

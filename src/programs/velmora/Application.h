@@ -46,13 +46,13 @@ signals:
 private:
     void logEnvironment() const;
     void readSettings();
-    void applyStyleSheet();
 
     SingleInstance m_instance;
     std::unique_ptr<QSettings> m_store;
     AppSettings m_settings;
     ServicesConfig m_services;
     QTranslator m_translator;
+    QTranslator m_qtTranslator;
 };
 
 } // namespace velmora

@@ -4,16 +4,23 @@
 #include "app/Log.h"
 #include "app/Paths.h"
 #include "platform/ComApartment.h"
+#include "platform/DesktopNotification.h"
+#include "platform/FileManager.h"
 #include "platform/FileNames.h"
 #include "platform/SystemInfo.h"
+#include "platform/TaskbarProgress.h"
 #include "programs/velmora/Application.h"
 #include "programs/velmora/ProgramLog.h"
 #include "programs/velmora/SplashScreen.h"
 #include "programs/velmora/SystemMetrics.h"
+#include "project/documents/HistoryStore.h"
 #include "services/MetricSender.h"
 #include "services/MetricSetup.h"
+#include "sharing/upload/UploadController.h"
+#include "ui/main/MainView.h"
+#include "ui/main/StartMessage.h"
 
-#include <QLabel>
+#include <QTimer>
 
 #include <cstdlib>
 #include <ctime>
@@ -30,54 +37,66 @@ void setUpFont()
     QApplication::setFont(font);
 }
 
-std::unique_ptr<QWidget> createMainWindow()
-{
-    auto window = std::make_unique<QLabel>(
-        QCoreApplication::translate("MainWindow", "%1\nThe log is kept in %2")
-            .arg(QCoreApplication::applicationName(), velmora::Paths::logFolder()));
-    window->setObjectName(QStringLiteral("mainWindow"));
-    window->setWindowTitle(QCoreApplication::applicationName());
-    window->setMargin(40);
-    return window;
-}
-
-void bringToFront(QWidget &window)
-{
-    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
-    window.show();
-    window.raise();
-    window.activateWindow();
-}
-
-int runProgram(velmora::Application &application)
+/// Applies what the user changed in the settings panel.
+void applySettings(velmora::Application &application)
 {
     using namespace velmora;
+    application.applyLanguage(application.settings().locale);
+    setUpMetrics(MetricSender::instance(), application.services(), application.settingsStore());
+}
+
+int runProgram(velmora::Application &application, const QStringList &files)
+{
+    using namespace velmora;
+    // Another start may wake this one while the splash is shown.
+    QStringList early;
+    QObject waiting;
+    QObject::connect(&application, &Application::messageReceived, &waiting,
+                     [&early](const QString &text) { early.append(text); });
     SplashScreen splash;
     splash.play();
     setUpFont();
+    HistoryStore history(Paths::historyFile(), application.settings());
+    history.load();
+    UploadController uploads(application.services(), application.settingsStore());
+    const std::unique_ptr<TaskbarProgress> taskbar = createTaskbarProgress();
+    const std::unique_ptr<DesktopNotification> notification = createDesktopNotification();
+    const std::unique_ptr<FileManager> fileManager = createFileManager();
 
     qCInfo(lcProgram) << "main window";
-    const std::unique_ptr<QWidget> window = createMainWindow();
-    QObject::connect(
-        &application, &Application::messageReceived, window.get(), [&window](const QString &text) {
-            qCInfo(lcProgram).noquote() << QStringLiteral("Message received:'%1'").arg(text);
-            bringToFront(*window);
-        });
-    bringToFront(*window);
-    splash.finish(window.get());
+    MainView window({application.settings(), application.settingsStore(), application.services(),
+                     history, uploads, *taskbar, *notification, *fileManager});
+    QObject::disconnect(&application, nullptr, &waiting, nullptr);
+    QObject::connect(&application, &Application::messageReceived, &window,
+                     &MainView::onMessageReceived);
+    QObject::connect(&window, &MainView::settingsSaved, &application,
+                     [&application] { applySettings(application); });
+    window.show();
+    window.activateWindow();
+    splash.finish(&window);
 
     setUpMetrics(MetricSender::instance(), application.services(), application.settingsStore());
     recordSystem(MetricSender::instance(), readSystemInfo());
+    // Dialogs need the event loop.
+    QTimer::singleShot(0, &window, [&window, &early, files] {
+        window.offerRestore();
+        window.openFiles(files);
+        window.runUpdateChecker();
+        for (const QString &text : qAsConst(early))
+            window.onMessageReceived(text);
+    });
     return QApplication::exec();
 }
 
 int runInstance(int &argc, char **argv)
 {
-    velmora::Application application(argc, argv);
+    using namespace velmora;
+    Application application(argc, argv);
+    const QStringList files = StartMessage::filesOfArguments(Application::arguments());
     if (application.isRunning() &&
-        application.sendMessage(QStringLiteral("Wake up!"), kHandOverTimeout))
+        application.sendMessage(StartMessage::compose(files), kHandOverTimeout))
         return 0;
-    return runProgram(application);
+    return runProgram(application, files);
 }
 
 } // namespace
@@ -88,6 +107,7 @@ int main(int argc, char **argv)
     velmora::applyIdentity();
     velmora::Log::install(QStringLiteral("log"));
     qputenv("QT_AUTO_SCREEN_SCALE_FACTOR", "1");
+    QGuiApplication::setDesktopFileName(QStringLiteral("velmora"));
     int result = 0;
     {
         const velmora::ComApartment com;

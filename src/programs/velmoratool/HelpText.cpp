@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "programs/velmoratool/HelpText.h"
 
-#include <QCoreApplication>
-
 namespace velmora
 {
 
 QString helpText()
 {
-    return QCoreApplication::translate(
-        "velmora::HelpText",
+    return QStringLiteral(
         "Usage: velmoratool make --photos FILE_OR_FOLDER... --output FILE [OPTION...]\n"
         "       velmoratool make --project FILE [OPTION...]\n"
         "Makes a slideshow video of photos and music.\n"

@@ -6,7 +6,8 @@
 namespace velmora
 {
 
-/// How the program is called; lines of at most 80 columns, the last one with its newline.
+/// How the program is called, in English as the option names are; lines of at most 80 columns, the
+/// last one with its newline.
 QString helpText();
 
 } // namespace velmora

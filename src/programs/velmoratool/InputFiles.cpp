@@ -19,10 +19,10 @@ namespace velmora
 namespace
 {
 
-QString tr(const char *text)
+class Texts
 {
-    return QCoreApplication::translate("velmora::InputFiles", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(velmora::InputFiles)
+};
 
 /// What tells photos and music apart.
 struct Kind {
@@ -36,7 +36,7 @@ QStringList inFolder(const QString &folder, const Kind &kind, QStringList *error
 {
     const QFileInfo info(folder);
     if (!info.isReadable() || !info.isExecutable()) {
-        errors->append(tr("The folder \"%1\" cannot be read.").arg(folder));
+        errors->append(Texts::tr("The folder \"%1\" cannot be read.").arg(folder));
         return {};
     }
     const QDir dir(info.absoluteFilePath());
@@ -86,9 +86,9 @@ void sortByDate(QStringList *files)
 QStringList InputFiles::photos(const QStringList &arguments, MakeOptions::Order order,
                                QStringList *errors)
 {
-    const Kind kind{isPhotoPath, tr("The photo \"%1\" does not exist."),
-                    tr("\"%1\" is not a photo of a known format."),
-                    tr("There are no photos in the folder \"%1\".")};
+    const Kind kind{isPhotoPath, Texts::tr("The photo \"%1\" does not exist."),
+                    Texts::tr("\"%1\" is not a photo of a known format."),
+                    Texts::tr("There are no photos in the folder \"%1\".")};
     QStringList files = collect(arguments, kind, errors);
     if (order == MakeOptions::Order::Name)
         sortNaturally(&files);
@@ -99,9 +99,9 @@ QStringList InputFiles::photos(const QStringList &arguments, MakeOptions::Order 
 
 QStringList InputFiles::music(const QStringList &arguments, QStringList *errors)
 {
-    const Kind kind{isAudioPath, tr("The sound file \"%1\" does not exist."),
-                    tr("\"%1\" is not a sound file of a known format."),
-                    tr("There are no sound files in the folder \"%1\".")};
+    const Kind kind{isAudioPath, Texts::tr("The sound file \"%1\" does not exist."),
+                    Texts::tr("\"%1\" is not a sound file of a known format."),
+                    Texts::tr("There are no sound files in the folder \"%1\".")};
     return collect(arguments, kind, errors);
 }
 

@@ -17,14 +17,14 @@ namespace velmora
 namespace
 {
 
-constexpr int kLongestTime = 86'400;    // s
+constexpr int kLongestTime = 86400;     // s
 constexpr int kLongestTransition = 600; // s
 const QLatin1String kPrefix("--");
 
-QString tr(const char *text)
+class Texts
 {
-    return QCoreApplication::translate("velmora::MakeOptions", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(velmora::MakeOptions)
+};
 
 enum class Values { None, One, Many };
 
@@ -43,7 +43,7 @@ QString storeNumber(std::optional<int> &target, const QString &value, int low, i
     bool valid = false;
     const int number = value.toInt(&valid);
     if (!valid || number < low || number > high)
-        return tr("\"%1\" is not a whole number from %2 to %3.")
+        return Texts::tr("\"%1\" is not a whole number from %2 to %3.")
             .arg(value, QString::number(low), QString::number(high));
     target = number;
     return {};
@@ -52,14 +52,14 @@ QString storeNumber(std::optional<int> &target, const QString &value, int low, i
 QString storeText(QString &target, const QString &value)
 {
     target = value;
-    return value.trimmed().isEmpty() ? tr("The text is empty.") : QString();
+    return value.trimmed().isEmpty() ? Texts::tr("The text is empty.") : QString();
 }
 
 QString storeSize(MakeOptions &options, const QString &value)
 {
     options.size = resolutionFromText(value);
     return options.size.isValid() ? QString()
-                                  : tr("\"%1\" is not a size such as 1920x1080.").arg(value);
+                                  : Texts::tr("\"%1\" is not a size such as 1920x1080.").arg(value);
 }
 
 QString storeTransition(MakeOptions &options, const QString &value)
@@ -70,7 +70,7 @@ QString storeTransition(MakeOptions &options, const QString &value)
     QStringList names;
     for (const TransitionType type : transitionMenuOrder())
         names << transitionName(static_cast<int>(type));
-    return tr("There is no transition \"%1\". There are: %2.")
+    return Texts::tr("There is no transition \"%1\". There are: %2.")
         .arg(value, names.join(QLatin1String(", ")));
 }
 
@@ -83,7 +83,7 @@ QString storeOrder(MakeOptions &options, const QString &value)
     else if (value == QLatin1String("date"))
         options.order = MakeOptions::Order::Date;
     else
-        return tr("\"%1\" is none of name, date and given.").arg(value);
+        return Texts::tr("\"%1\" is none of name, date and given.").arg(value);
     return {};
 }
 
@@ -92,7 +92,7 @@ QString storeProfile(MakeOptions &options, const QString &value)
     options.profile = outputProfileFromKey(value);
     return outputProfileKey(*options.profile) == value
                ? QString()
-               : tr("\"%1\" is neither original nor everywhere.").arg(value);
+               : Texts::tr("\"%1\" is neither original nor everywhere.").arg(value);
 }
 
 QString storeOutput(MakeOptions &options, const QString &value)
@@ -100,7 +100,7 @@ QString storeOutput(MakeOptions &options, const QString &value)
     options.output = value;
     if (OutputTarget::knownSuffixes().contains(QFileInfo(value).suffix().toLower()))
         return {};
-    return tr("The name of the video \"%1\" must end in one of: %2.")
+    return Texts::tr("The name of the video \"%1\" must end in one of: %2.")
         .arg(value, QLatin1Char('.') + OutputTarget::knownSuffixes().join(QLatin1String(", .")));
 }
 
@@ -113,7 +113,7 @@ template <bool MakeOptions::*Flag> QString raise(MakeOptions &options, const QSt
 template <QStringList MakeOptions::*List> QString append(MakeOptions &options, const QString &value)
 {
     (options.*List) << value;
-    return value.isEmpty() ? tr("A file name is empty.") : QString();
+    return value.isEmpty() ? Texts::tr("A file name is empty.") : QString();
 }
 
 template <QString MakeOptions::*Text> QString text(MakeOptions &options, const QString &value)
@@ -183,7 +183,7 @@ QString Parser::parse()
             continue;
         }
         if (!argument.startsWith(kPrefix))
-            return tr("\"%1\" belongs to no option.").arg(argument);
+            return Texts::tr("\"%1\" belongs to no option.").arg(argument);
         const QString error = parseOption(argument.mid(kPrefix.size()));
         if (!error.isEmpty())
             return error;
@@ -200,7 +200,7 @@ QString Parser::parseOption(const QString &argument)
             return name == QLatin1String(candidate.name);
         });
     if (option == std::end(kOptions))
-        return tr("There is no option --%1.").arg(name);
+        return Texts::tr("There is no option --%1.").arg(name);
     m_given.insert(name);
     return storeValues(*option, equals >= 0, argument.mid(equals + 1));
 }
@@ -209,11 +209,12 @@ QString Parser::storeValues(const Option &option, bool attached, const QString &
 {
     const QLatin1String name(option.name);
     if (option.values == Values::None)
-        return attached ? tr("--%1 takes no value.").arg(name) : option.store(m_options, QString());
+        return attached ? Texts::tr("--%1 takes no value.").arg(name)
+                        : option.store(m_options, QString());
     if (attached)
         return storeValue(option, attachedValue);
     if (!atValue())
-        return tr("--%1 needs a value.").arg(name);
+        return Texts::tr("--%1 needs a value.").arg(name);
     QString error = storeValue(option, m_arguments.at(m_next++));
     while (error.isEmpty() && option.values == Values::Many && atValue())
         error = storeValue(option, m_arguments.at(m_next++));
@@ -238,15 +239,15 @@ QString Parser::checkCombination() const
     const bool fromProject = !m_options.projectFile.isEmpty();
     for (const Option &option : kOptions) {
         if (fromProject && !option.fitsProject && m_given.contains(QLatin1String(option.name)))
-            return tr("--%1 cannot be combined with --project, which has its own.")
+            return Texts::tr("--%1 cannot be combined with --project, which has its own.")
                 .arg(QLatin1String(option.name));
     }
     if (!fromProject && m_options.photos.isEmpty())
-        return tr("--photos or --project is needed.");
+        return Texts::tr("--photos or --project is needed.");
     if (!fromProject && m_options.output.isEmpty() && m_options.dumpFile.isEmpty())
-        return tr("--output is needed.");
+        return Texts::tr("--output is needed.");
     if (m_options.stretch && m_options.originalSize)
-        return tr("--stretch and --original-size exclude each other.");
+        return Texts::tr("--stretch and --original-size exclude each other.");
     return {};
 }
 

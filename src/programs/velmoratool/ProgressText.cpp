@@ -13,10 +13,10 @@ namespace
 
 constexpr int kNarrowestBar = 8; // characters
 
-QString tr(const char *text)
+class Texts
 {
-    return QCoreApplication::translate("velmora::ProgressText", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(velmora::ProgressText)
+};
 
 qint64 percent(const ProgressText::State &state)
 {
@@ -26,8 +26,8 @@ qint64 percent(const ProgressText::State &state)
 QString times(const ProgressText::State &state)
 {
     if (state.remaining < 0)
-        return tr("%1 elapsed").arg(ProgressText::clock(state.elapsed));
-    return tr("%1 elapsed, %2 left")
+        return Texts::tr("%1 elapsed").arg(ProgressText::clock(state.elapsed));
+    return Texts::tr("%1 elapsed, %2 left")
         .arg(ProgressText::clock(state.elapsed), ProgressText::clock(state.remaining));
 }
 
@@ -62,7 +62,7 @@ QString ProgressText::bar(const State &state, int columns)
 
 QString ProgressText::line(const State &state)
 {
-    return tr("%1 %, %2").arg(QString::number(percent(state)), times(state));
+    return Texts::tr("%1 %, %2").arg(QString::number(percent(state)), times(state));
 }
 
 } // namespace velmora

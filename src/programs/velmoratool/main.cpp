@@ -9,6 +9,7 @@
 #include "generator/worker/WorkerProtocol.h"
 #include "platform/FileNames.h"
 #include "platform/ImageFormats.h"
+#include "platform/StandardOutput.h"
 #include "programs/velmoratool/HelpText.h"
 #include "programs/velmoratool/MakeCommand.h"
 #include "project/frames/CaptionFont.h"
@@ -54,6 +55,7 @@ int dispatch(const QStringList &arguments, const velmora::AppSettings &settings)
 
 int main(int argc, char *argv[])
 {
+    velmora::StandardOutput::ensureOpen();
     velmora::FileNames::allowAllLetters();
     velmora::applyIdentity();
     velmora::installImageFormats();

@@ -120,6 +120,13 @@ ProjectFile *HistoryStore::add(std::unique_ptr<ProjectFile> project)
     return m_projects.back().get();
 }
 
+ProjectFile *HistoryStore::insert(int position, std::unique_ptr<ProjectFile> project)
+{
+    const int count = static_cast<int>(m_projects.size());
+    const auto place = m_projects.begin() + qBound(0, position, count);
+    return m_projects.insert(place, std::move(project))->get();
+}
+
 std::unique_ptr<ProjectFile> HistoryStore::take(const ProjectFile *project)
 {
     const auto found =

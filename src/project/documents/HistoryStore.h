@@ -44,6 +44,8 @@ public:
     const Projects &projects() const { return m_projects; }
     /// Appends a project and returns it.
     ProjectFile *add(std::unique_ptr<ProjectFile> project);
+    /// The same at @p position, 0 being the oldest.
+    ProjectFile *insert(int position, std::unique_ptr<ProjectFile> project);
     /// Takes a project out of the list; null if it is not in it.
     std::unique_ptr<ProjectFile> take(const ProjectFile *project);
     void clear();

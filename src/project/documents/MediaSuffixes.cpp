@@ -11,9 +11,6 @@
 namespace velmora
 {
 
-namespace
-{
-
 QCollator naturalCollator()
 {
     QLocale locale;
@@ -26,8 +23,6 @@ QCollator naturalCollator()
     collator.setCaseSensitivity(Qt::CaseInsensitive);
     return collator;
 }
-
-} // namespace
 
 const QStringList &photoSuffixes()
 {

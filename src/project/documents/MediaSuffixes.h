@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QOperatingSystemVersion>
+#include <QCollator>
 #include <QStringList>
 
 namespace velmora
@@ -20,6 +21,9 @@ QStringList
 audioSuffixes(const QOperatingSystemVersion &system = QOperatingSystemVersion::current());
 /// Whether the path's suffix is one of audioSuffixes() of this system, in whatever case.
 bool isAudioPath(const QString &path);
+
+/// Compares names as people do: "2" before "10", without regard to case.
+QCollator naturalCollator();
 
 /// Sorts paths by their file names as people do: "2.jpg" before "10.jpg", without regard to case.
 void sortNaturally(QStringList *paths);

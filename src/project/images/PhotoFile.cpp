@@ -20,19 +20,19 @@ namespace
 // The byte arrays that hold a file for decoding end at 2 GB.
 constexpr qint64 kMaximumFileSize = 1800LL * 1024 * 1024;
 
-QString tr(const char *text)
+class Texts
 {
-    return QCoreApplication::translate("ImageLoader", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ImageLoader)
+};
 
 QString notAPicture()
 {
-    return tr("is not a picture that can be read");
+    return Texts::tr("is not a picture that can be read");
 }
 
 QString damaged()
 {
-    return tr("is damaged or incomplete");
+    return Texts::tr("is damaged or incomplete");
 }
 
 /// Formats of photos. Others that installed plugins would accept (drawings, icons, plain text
@@ -72,17 +72,17 @@ bool PhotoFile::openFile()
 {
     const QFileInfo info(m_path);
     if (!info.exists())
-        return fail(tr("does not exist"));
+        return fail(Texts::tr("does not exist"));
     if (info.isDir())
-        return fail(tr("is a folder"));
+        return fail(Texts::tr("is a folder"));
     if (!info.isFile()) // Reading a pipe or a device could block for ever.
         return fail(notAPicture());
     if (!m_file.open(QIODevice::ReadOnly))
-        return fail(tr("cannot be opened"), m_file.errorString());
+        return fail(Texts::tr("cannot be opened"), m_file.errorString());
     if (m_file.size() == 0)
-        return fail(tr("is empty"));
+        return fail(Texts::tr("is empty"));
     if (m_file.size() > kMaximumFileSize)
-        return fail(tr("is too large"));
+        return fail(Texts::tr("is too large"));
     return true;
 }
 
@@ -102,7 +102,7 @@ bool PhotoFile::open()
     if (m_storedSize.isEmpty())
         return fail(damaged(), m_reader.errorString());
     if (qint64(m_storedSize.width()) * m_storedSize.height() > ImageLoader::kMaximumPixels)
-        return fail(tr("is too large (%1 x %2 pixels)")
+        return fail(Texts::tr("is too large (%1 x %2 pixels)")
                         .arg(m_storedSize.width())
                         .arg(m_storedSize.height()));
     QFile file(m_path); // Its own handle: the reader has a position in the other one.

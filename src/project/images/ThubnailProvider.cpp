@@ -75,9 +75,14 @@ void ThubnailProvider::run()
         Request request;
         const bool hasRequest = takeRequest(&request);
         if (hasRequest)
-            finishRequest(request, makeThumbnail(request.path));
+            finishRequest(request, make(request.path));
         rest(hasRequest);
     }
+}
+
+QImage ThubnailProvider::make(const QString &path) const
+{
+    return m_photoBox.isEmpty() ? makeThumbnail(path) : makePhotoThumbnail(path, m_photoBox);
 }
 
 bool ThubnailProvider::takeRequest(Request *request)

@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QImage>
 #include <QQueue>
+#include <QSize>
 #include <QString>
 #include <QThread>
 #include <QUuid>
@@ -24,6 +25,10 @@ public:
     explicit ThubnailProvider(QObject *parent = nullptr);
     /// Stops the thread and waits for it.
     ~ThubnailProvider() override;
+
+    /// Has it make pictures of the bare photo, as large as fits @p box px and never enlarged, in
+    /// place of the grey squares. Before start().
+    void setPhotoBox(const QSize &box) { m_photoBox = box; }
 
     /// Queues the photo; the identifier is the one of thumbnailReady().
     QUuid request(const QString &path);
@@ -55,6 +60,9 @@ private:
     void finishRequest(const Request &request, const QImage &thumbnail);
     void rest(bool worked);
 
+    QImage make(const QString &path) const;
+
+    QSize m_photoBox;
     mutable std::mutex m_mutex;
     std::condition_variable m_wake;
     // Guarded by m_mutex:

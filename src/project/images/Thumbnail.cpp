@@ -34,4 +34,19 @@ QImage makeThumbnail(const QString &path)
     return makeThumbnail(ImageLoader::loadForSize(path, kSize));
 }
 
+QImage makePhotoThumbnail(const QString &path, const QSize &box)
+{
+    const QImage photo = ImageLoader::loadForSize(path, box);
+    if (photo.isNull())
+        return QImage();
+    QSize fitted = photo.size();
+    if (fitted.width() > box.width() || fitted.height() > box.height())
+        fitted = fitted.scaled(box, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+    QImage thumbnail(fitted, QImage::Format_RGB32);
+    thumbnail.fill(Qt::white);
+    QPainter painter(&thumbnail);
+    painter.drawImage(0, 0, photo.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    return thumbnail;
+}
+
 } // namespace velmora

@@ -17,4 +17,8 @@ QImage makeThumbnail(const QImage &photo);
 /// image loader logs.
 QImage makeThumbnail(const QString &path);
 
+/// The bare photo of a file, as large as fits @p box px and never enlarged, without alpha; null
+/// when it cannot be read.
+QImage makePhotoThumbnail(const QString &path, const QSize &box);
+
 } // namespace velmora

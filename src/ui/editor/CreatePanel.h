@@ -3,8 +3,8 @@
 
 #include "generator/worker/Composer.h"
 
+#include <QFrame>
 #include <QTimer>
-#include <QWidget>
 
 #include <memory>
 
@@ -21,7 +21,7 @@ class HistoryStore;
 class ProjectEditor;
 
 /// Name and format of the video, and the run of its render with the progress page. GUI thread.
-class CreatePanel : public QWidget
+class CreatePanel : public QFrame
 {
     Q_OBJECT
 public:
@@ -30,6 +30,8 @@ public:
     ~CreatePanel() override;
 
     Composer &composer() { return m_composer; }
+    /// From progressStarted() to progressFinished().
+    bool isGenerating() const { return m_generating; }
 
 signals:
     void progressStarted();
@@ -42,22 +44,36 @@ public slots:
     void on_btnCreate_clicked();
     void on_btnCancel_clicked();
     void on_btnPauseResume_clicked();
+    void on_btnFullPreview_clicked();
     void onProgressTimer();
+    /// Ticks while a render winds up: after its last frames, and after a cancel.
+    void onFinalTimer();
     void onCancelled();
     void onChangeVideoFormat(int index);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void setUpPages();
+    void retranslate();
+    void connectComposer();
     void setDefaultName();
     QString outputPath() const;
+    bool isNameUsable();
+    bool isFolderUsable();
     bool mayReplace(const QString &output);
     bool canBeGenerated() const;
     void start(const QString &output);
+    void onProgress(int percent);
     void onFinished(const QString &fileName);
     void onFailed();
     void showSetup();
     void showPauseButton(bool paused);
+    void showState();
     void recordHistory(const QString &fileName);
     void refresh();
+    void updateCreateButton();
 
     ProjectEditor &m_editor;
     const AppSettings &m_settings;
@@ -65,6 +81,9 @@ private:
     std::unique_ptr<Ui::CreatePanel> m_ui;
     Composer m_composer;
     QTimer m_progressTimer;
+    QTimer m_finalTimer;
+    qint64 m_videoLength = 0; ///< ms of the video that is being made
+    bool m_generating = false;
 };
 
 } // namespace velmora

@@ -1,21 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/editor/MainWindowWidget.h"
 
-#include "app/AppSettings.h"
+#include "chrome/Theme.h"
 #include "project/documents/ProjectFile.h"
 #include "ui/UiLog.h"
+#include "ui/audio/AudioListWidget.h"
+#include "ui/caption/TextEditWidget.h"
 #include "ui/editor/CreatePanel.h"
+#include "ui/editor/EditorSide.h"
+#include "ui/editor/PhotoImports.h"
+#include "ui/editor/SlideActions.h"
 #include "ui/editor/SlidesPage.h"
-#include "ui/model/ValueLists.h"
-#include "ui_SettingsFrames.h"
+#include "ui/editor/VideoSettingsFrame.h"
+#include "ui/preview/PreviewWidget.h"
 
-#include <QDir>
+#include <QAction>
 #include <QHBoxLayout>
-#include <QMessageBox>
-#include <QShortcut>
+#include <QResizeEvent>
 #include <QStackedWidget>
 #include <QUndoStack>
-#include <QWhatsThis>
+#include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace velmora
 {
@@ -23,159 +29,231 @@ namespace velmora
 namespace
 {
 
-constexpr int kGap = 16;        // px
-constexpr int kSideWidth = 360; // px
+constexpr int kGap = 16;            // px
+constexpr int kSmallestSide = 352;  // px
+constexpr int kWidestSide = 672;    // px
+constexpr double kSideShare = 0.34; // of the page's width
 
 } // namespace
 
 MainWindowWidget::MainWindowWidget(AppSettings &settings, HistoryStore &history, QWidget *parent)
     : QWidget(parent), m_settings(settings), m_editor(settings),
-      m_ui(std::make_unique<Ui::SettingsFrames>()), m_frames(new QWidget(this)),
-      m_slides(new SlidesPage(m_editor, settings, this)),
-      m_create(new CreatePanel(m_editor, settings, history, this)),
-      m_stack(new QStackedWidget(this))
+      m_undo(new QAction(Theme::icon(QStringLiteral("undo")), QString(), this)),
+      m_redo(new QAction(Theme::icon(QStringLiteral("redo")), QString(), this)),
+      m_slides(new SlidesPage(m_editor, settings)),
+      m_imports(new PhotoImports(m_editor, m_slides->busyNote(), this)),
+      m_preview(new PreviewWidget(m_editor, settings)),
+      m_video(new VideoSettingsFrame(m_editor, settings)), m_audio(new AudioListWidget(m_editor)),
+      m_create(new CreatePanel(m_editor, settings, history)),
+      m_side(new EditorSide(m_preview, m_create)), m_text(new TextEditWidget(m_editor)),
+      m_stack(new QStackedWidget)
 {
-    m_ui->setupUi(m_frames);
-    setUpLayout();
-    setUpSettings();
-    setUpHelp();
-    connect(m_create, &CreatePanel::progressStarted, this, [this] {
-        m_stack->setEnabled(false);
-        m_frames->setEnabled(false);
-        emit progressStarted();
-    });
-    connect(m_create, &CreatePanel::progressFinished, this, [this] {
-        m_stack->setEnabled(true);
-        m_frames->setEnabled(true);
-        emit progressFinished();
-    });
-    connect(m_create, &CreatePanel::progress, this, &MainWindowWidget::progress);
-    connect(m_create, &CreatePanel::finished, this, &MainWindowWidget::finished);
-    connect(m_slides, &SlidesPage::rotateChanged, this, &MainWindowWidget::rotateChanged);
-    connect(&m_importer, &PhotoImporter::finished, this, &MainWindowWidget::onImported);
-    const auto *undo = new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_Z), this);
-    const auto *redo = new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_Y), this);
-    // An edit during a render would not be in the video; its history entry must match it.
-    connect(undo, &QShortcut::activated, this, [this] {
-        if (m_stack->isEnabled())
-            m_editor.undoStack()->undo();
-    });
-    connect(redo, &QShortcut::activated, this, [this] {
-        if (m_stack->isEnabled())
-            m_editor.undoStack()->redo();
-    });
-}
-
-MainWindowWidget::~MainWindowWidget() = default;
-
-void MainWindowWidget::setUpLayout()
-{
-    auto *textPage = new QWidget;
-    textPage->setObjectName(QStringLiteral("pageText"));
-    m_slides->setObjectName(QStringLiteral("pageTable"));
-    m_stack->setObjectName(QStringLiteral("slideStack"));
-    m_stack->addWidget(m_slides);
-    m_stack->addWidget(textPage);
-    auto *side = new QWidget(this);
-    side->setFixedWidth(kSideWidth);
-    auto *column = new QVBoxLayout(side);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(kGap);
-    auto *preview = new QWidget;
-    preview->setObjectName(QStringLiteral("previewHost"));
-    column->addWidget(preview, 1);
-    column->addWidget(m_frames);
-    column->addWidget(m_create);
+    setUpSlideStack();
+    setUpSide();
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(kGap, kGap, kGap, kGap);
     row->setSpacing(kGap);
     row->addWidget(m_stack, 1);
-    row->addWidget(side);
+    row->addWidget(m_side);
+    setUpUndo();
+    connectParts();
 }
 
-void MainWindowWidget::setUpSettings()
+MainWindowWidget::~MainWindowWidget() = default;
+
+void MainWindowWidget::setUpSlideStack()
 {
-    m_ui->btnOutResolution->setValues(ValueLists::resolutions());
-    m_ui->btnTransitionDuration->setValues(ValueLists::transitionLengths());
-    m_ui->btnSetOffset->setValues(ValueLists::offsets());
-    m_ui->btnSetFade->setValues(ValueLists::fades());
-    connect(m_ui->btnOutResolution, &QPopupButton::valueSelected, this,
-            &MainWindowWidget::onResolutionChanged);
-    connect(m_ui->btnTransitionDuration, &QPopupButton::valueSelected, this,
-            &MainWindowWidget::onTransitionDurationChanged);
-    connect(m_ui->btnSetOffset, &QPopupButton::valueSelected, this,
-            &MainWindowWidget::onOffsetChanged);
-    connect(m_ui->btnSetFade, &QPopupButton::valueSelected, this, &MainWindowWidget::onFadeChanged);
-    connect(m_ui->btnLoopAudio, &QPushButton::clicked, this, &MainWindowWidget::onAudioLoopClicked);
-    connect(m_ui->chkOrigRatio, &QCheckBox::clicked, &m_editor, &ProjectEditor::setOrigRatio);
-    connect(m_ui->chkScaleToFit, &QCheckBox::clicked, &m_editor, &ProjectEditor::setScaleToFit);
-    connect(&m_editor, &ProjectEditor::projectChanged, this, &MainWindowWidget::updateSettings);
-    connect(&m_editor, &ProjectEditor::settingsChanged, this, &MainWindowWidget::updateSettings);
+    m_slides->setObjectName(QStringLiteral("pageTable"));
+    auto *textPage = new QWidget;
+    textPage->setObjectName(QStringLiteral("pageText"));
+    auto *column = new QVBoxLayout(textPage);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(m_text);
+    m_stack->setObjectName(QStringLiteral("slideStack"));
+    m_stack->addWidget(m_slides);
+    m_stack->addWidget(textPage);
 }
 
-void MainWindowWidget::setUpHelp()
+void MainWindowWidget::setUpSide()
 {
-    for (QPushButton *button : {m_ui->btnHelpScale, m_ui->btnHelpRatio, m_ui->btnHelpResolution,
-                                m_ui->btnHelpTransition, m_ui->btnHelpOffset, m_ui->btnHelpFade}) {
-        button->setFixedWidth(32);
-        connect(button, &QPushButton::clicked, button, [button] {
-            QWhatsThis::showText(button->mapToGlobal(button->rect().center()), button->toolTip(),
-                                 button);
-        });
+    m_side->setObjectName(QStringLiteral("editorSide"));
+    m_side->addGroup(m_video, false);
+    m_side->addGroup(m_audio, true);
+    const auto showHeading = [this](EditorSide::Mode mode) {
+        m_video->setHeadingVisible(mode == EditorSide::Mode::All);
+    };
+    connect(m_side, &EditorSide::modeChanged, this, showHeading);
+    showHeading(m_side->mode());
+}
+
+void MainWindowWidget::setUpUndo()
+{
+    m_undo->setObjectName(QStringLiteral("actUndo"));
+    m_redo->setObjectName(QStringLiteral("actRedo"));
+    m_undo->setShortcut(Qt::CTRL + Qt::Key_Z);
+    m_redo->setShortcuts({Qt::CTRL + Qt::Key_Y, Qt::CTRL + Qt::SHIFT + Qt::Key_Z});
+    connect(m_undo, &QAction::triggered, m_editor.undoStack(), &QUndoStack::undo);
+    connect(m_redo, &QAction::triggered, m_editor.undoStack(), &QUndoStack::redo);
+    for (QAction *action : {m_undo, m_redo}) {
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        addAction(action);
     }
+    connect(m_editor.undoStack(), &QUndoStack::indexChanged, this, &MainWindowWidget::updateUndo);
+    retranslate();
+    m_slides->setUndoActions(m_undo, m_redo);
 }
 
-void MainWindowWidget::updateSettings()
+void MainWindowWidget::retranslate()
 {
-    const ProjectFile *project = m_editor.project();
-    if (!project)
+    m_side->setTitles({tr("Preview"), tr("Video"), tr("Audio")});
+    m_undo->setText(tr("Undo"));
+    m_redo->setText(tr("Redo"));
+    updateUndo();
+}
+
+void MainWindowWidget::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QWidget::changeEvent(event);
+}
+
+/// "Undo: Move slides (Ctrl+Z)"; not possible while a video is made or a caption is edited.
+void MainWindowWidget::updateUndo()
+{
+    const QUndoStack &stack = *m_editor.undoStack();
+    const bool can = !isGenerating() && !isEditingText();
+    m_undo->setEnabled(can && stack.canUndo());
+    m_redo->setEnabled(can && stack.canRedo());
+    const auto tip = [](QAction *action, const QString &name, const QString &step) {
+        const QString text =
+            step.isEmpty() ? name : tr("%1: %2", "undo or redo, and what").arg(name, step);
+        action->setToolTip(SlideActions::toolTip(text, action->shortcut()));
+    };
+    tip(m_undo, tr("Undo"), stack.undoText());
+    tip(m_redo, tr("Redo"), stack.redoText());
+}
+
+void MainWindowWidget::connectParts()
+{
+    connect(m_slides, &SlidesPage::filesDropped, this, &MainWindowWidget::onFilesDropped);
+    connect(m_slides, &SlidesPage::currentSlideChanged, m_preview, &PreviewWidget::setSlide);
+    connect(m_slides, &SlidesPage::previewRequested, this, &MainWindowWidget::onPreviewClicked);
+    connect(m_slides, &SlidesPage::captionRequested, this, &MainWindowWidget::editCaption);
+    connect(m_slides, &SlidesPage::captionOfAllRequested, this,
+            &MainWindowWidget::editCaptionOfAll);
+    connect(m_text, &TextEditWidget::finished, this, &MainWindowWidget::endTextEditing);
+    connect(m_slides, &SlidesPage::rotateChanged, this, &MainWindowWidget::rotateChanged);
+    connect(m_preview, &PreviewWidget::previewClicked, this, &MainWindowWidget::onPreviewClicked);
+    connect(m_create, &CreatePanel::fullPreviewClicked, this, &MainWindowWidget::onFullPreview);
+    connect(m_create, &CreatePanel::progressStarted, this, [this] {
+        setGenerating(true);
+        emit progressStarted();
+    });
+    connect(m_create, &CreatePanel::progressFinished, this, [this] {
+        setGenerating(false);
+        emit progressFinished();
+    });
+    connect(m_create, &CreatePanel::progress, this, &MainWindowWidget::progress);
+    connect(m_create, &CreatePanel::finished, this, &MainWindowWidget::onFullVideoGenerated);
+}
+
+/// An edit during a render would not be in the video, and its history entry must match it.
+void MainWindowWidget::setGenerating(bool generating)
+{
+    if (generating)
+        m_preview->stop();
+    m_stack->setEnabled(!generating);
+    m_video->setEnabled(!generating);
+    m_audio->setEnabled(!generating);
+    updateUndo();
+}
+
+bool MainWindowWidget::isGenerating() const
+{
+    return m_create->isGenerating();
+}
+
+bool MainWindowWidget::isEditingText() const
+{
+    return m_stack->currentWidget() != m_slides;
+}
+
+bool MainWindowWidget::hasUnsavedText() const
+{
+    return isEditingText() && m_text->isEdited();
+}
+
+void MainWindowWidget::editCaption(ProjectItem *slide)
+{
+    if (!slide || isGenerating())
         return;
-    m_ui->btnOutResolution->setValue(project->resolution(),
-                                     resolutionToText(project->resolution()));
-    m_ui->btnTransitionDuration->setValue(m_settings.transitionTime,
-                                          ValueLists::secondsText(m_settings.transitionTime));
-    m_ui->btnSetOffset->setValue(project->audio().offset,
-                                 ValueLists::secondsText(project->audio().offset));
-    m_ui->btnSetFade->setValue(project->audioFade(), ValueLists::secondsText(project->audioFade()));
-    m_ui->btnLoopAudio->setChecked(project->audioLoop());
-    m_ui->chkOrigRatio->setChecked(project->origRatio());
-    m_ui->chkScaleToFit->setChecked(project->scaleToFit());
+    m_text->setItem(slide);
+    beginTextEditing();
+}
+
+void MainWindowWidget::editCaptionOfAll()
+{
+    if (!m_editor.project() || isGenerating())
+        return;
+    m_text->setAllSlides();
+    beginTextEditing();
+}
+
+/// The caption editor has a picture of its own and needs the whole page.
+void MainWindowWidget::beginTextEditing()
+{
+    m_preview->stop();
+    m_stack->setCurrentIndex(1);
+    m_side->hide();
+    updateUndo();
+    emit textEditingBegan(m_editor.project()->items().size());
+}
+
+void MainWindowWidget::endTextEditing()
+{
+    if (!isEditingText())
+        return;
+    m_stack->setCurrentWidget(m_slides);
+    m_side->show();
+    m_slides->focusTable();
+    updateUndo();
+    emit textEditingFinished();
+}
+
+void MainWindowWidget::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    const int width = std::min(
+        std::max(static_cast<int>(kSideShare * event->size().width()), kSmallestSide), kWidestSide);
+    m_side->setFixedWidth(width);
 }
 
 void MainWindowWidget::setProject(ProjectFile *project)
 {
-    m_importer.cancel();
-    m_waiting.clear();
+    m_imports->cancel();
+    m_preview->stop();
+    if (isEditingText())
+        m_text->cancel();
     m_editor.setProject(project);
+}
+
+void MainWindowWidget::updateFromSettings()
+{
+    m_video->refresh();
+    m_slides->updateFromSettings();
 }
 
 void MainWindowWidget::onFilesDropped(const QStringList &files, int newRow)
 {
     qCDebug(lcUi).noquote()
         << QStringLiteral("NEW ROW:'%1' AFTER:'%2'").arg(newRow + 1).arg(newRow);
-    const int row = newRow < 0 ? -1 : newRow + 1;
-    if (!m_importer.start(files, row))
-        m_waiting.append({files, row});
+    m_imports->add(files, newRow < 0 ? -1 : newRow + 1);
 }
 
-void MainWindowWidget::onImported(const PhotoImport &import)
+void MainWindowWidget::addFolder(const QString &folder)
 {
-    if (!import.cancelled)
-        m_editor.addPhotos(import.photos, import.row);
-    if (!m_waiting.isEmpty()) {
-        const auto next = m_waiting.takeFirst();
-        m_importer.start(next.first, next.second);
-    }
-    if (import.refused.isEmpty() || import.cancelled)
-        return;
-    QStringList lines;
-    for (const PhotoImport::Refused &refused : import.refused)
-        lines.append(tr("%1: %2").arg(QDir::toNativeSeparators(refused.path), refused.reason));
-    auto *box = new QMessageBox(QMessageBox::Information, tr("Adding photos"),
-                                tr("Not all photos have been added"), QMessageBox::Close, this);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setDetailedText(lines.join(QLatin1Char('\n')));
-    box->open();
+    onFilesDropped({folder}, -1);
 }
 
 void MainWindowWidget::onRowsMoved(int from, int after)
@@ -185,29 +263,22 @@ void MainWindowWidget::onRowsMoved(int from, int after)
     m_editor.moveSlides({m_editor.project()->items().at(from)}, after + 1);
 }
 
-void MainWindowWidget::onResolutionChanged(const QVariant &value)
+void MainWindowWidget::onPreviewClicked()
 {
-    m_editor.setResolution(value.toSize());
+    m_side->showPreview();
+    m_preview->previewSlide();
 }
 
-void MainWindowWidget::onTransitionDurationChanged(const QVariant &value)
+void MainWindowWidget::onFullPreview()
 {
-    m_editor.setTransitionSeconds(value.toInt());
+    m_side->showPreview();
+    m_preview->playFull();
 }
 
-void MainWindowWidget::onFadeChanged(const QVariant &value)
+void MainWindowWidget::onFullVideoGenerated(const QString &fileName)
 {
-    m_editor.setAudioFade(value.toInt());
-}
-
-void MainWindowWidget::onOffsetChanged(const QVariant &value)
-{
-    m_editor.setAudioOffset(value.toInt());
-}
-
-void MainWindowWidget::onAudioLoopClicked(bool on)
-{
-    m_editor.setAudioLoop(on);
+    m_preview->stop();
+    emit finished(fileName);
 }
 
 } // namespace velmora

@@ -2,20 +2,23 @@
 #include "ui/editor/SlidesPage.h"
 
 #include "app/AppSettings.h"
-#include "project/documents/MediaSuffixes.h"
+#include "chrome/Theme.h"
 #include "project/documents/ProjectFile.h"
 #include "project/documents/Timeline.h"
 #include "project/slides/ProjectItemFirst.h"
 #include "project/slides/ProjectItemSimple.h"
-#include "ui/editor/ComboBoxItemDelegate.h"
+#include "ui/editor/BusyNote.h"
+#include "ui/editor/SlideActions.h"
+#include "ui/editor/SlideSorter.h"
 #include "ui/model/SlideTableModel.h"
 #include "ui/model/ValueLists.h"
 #include "ui_SlidesPage.h"
 
-#include <QHeaderView>
 #include <QItemSelectionModel>
-#include <QRandomGenerator>
-#include <QShortcut>
+#include <QLabel>
+#include <QMenu>
+#include <QToolButton>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -25,101 +28,191 @@ namespace velmora
 namespace
 {
 
-constexpr int kRowHeight = 72;     // px
-constexpr int kQuarterTurn = 90;   // degrees
-constexpr int kThumbnailSide = 62; // px
+constexpr int kToolSize = 40; // px
+constexpr int kToolIcon = 24; // px
 
-QIcon picture(const QString &name)
+QWidget *createHint(QLabel *text, QWidget *parent)
 {
-    return QIcon(QStringLiteral(":/images/images/%1.png").arg(name));
+    auto *hint = new QWidget(parent);
+    hint->setObjectName(QStringLiteral("emptyHint"));
+    hint->setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto *picture = new QLabel;
+    picture->setPixmap(Theme::icon(QStringLiteral("photos")).pixmap(208, 120));
+    picture->setAlignment(Qt::AlignCenter);
+    text->setAlignment(Qt::AlignCenter);
+    text->setWordWrap(true);
+    text->setProperty("secondary", true);
+    auto *column = new QVBoxLayout(hint);
+    column->setSpacing(16);
+    column->addStretch();
+    column->addWidget(picture);
+    column->addWidget(text);
+    column->addStretch();
+    return hint;
+}
+
+/// The value that all slides share; invalid when they differ or there are none.
+template <typename Value> QVariant common(const ProjectEditor::Slides &slides, Value value)
+{
+    QVariant found;
+    for (const ProjectItem *slide : slides) {
+        const QVariant own = value(*slide);
+        if (found.isValid() && own.isValid() && own != found)
+            return {};
+        if (own.isValid())
+            found = own;
+    }
+    return found;
 }
 
 } // namespace
 
 SlidesPage::SlidesPage(ProjectEditor &editor, const AppSettings &settings, QWidget *parent)
     : QWidget(parent), m_editor(editor), m_settings(settings),
-      m_ui(std::make_unique<Ui::SlidesPage>()), m_model(new SlideTableModel(editor, this))
+      m_ui(std::make_unique<Ui::SlidesPage>()), m_model(new SlideTableModel(editor, this)),
+      m_note(new BusyNote), m_actions(new SlideActions(this)),
+      m_sorter(new SlideSorter(editor, *m_note, this))
 {
     m_ui->setupUi(this);
+    m_ui->pageLayout->insertWidget(1, m_note);
+    m_hintText = new QLabel;
+    m_hint = createHint(m_hintText, m_ui->tableView->viewport());
+    m_update.setSingleShot(true);
+    connect(&m_update, &QTimer::timeout, this, &SlidesPage::updateControls);
     setUpTable();
-    m_ui->btnDefaultTime->setValues(ValueLists::slideTimes());
-    m_ui->btnDefaultTransition->setValues(ValueLists::transitions());
-    m_ui->btnUp->setIcon(picture(QStringLiteral("up")));
-    m_ui->btnDown->setIcon(picture(QStringLiteral("down")));
-    m_ui->btnShufle->setIcon(picture(QStringLiteral("shuffle")));
-    m_ui->m_btnRotate->setIcon(picture(QStringLiteral("rotate")));
-    m_ui->btnRestore->setIcon(picture(QStringLiteral("undo")));
-    m_ui->btnClear->setIcon(picture(QStringLiteral("clear")));
-    updateSortButtonStyle();
-    connect(m_ui->btnDefaultTime, &QPopupButton::valueSelected, this,
-            &SlidesPage::onDefTimeChanged);
-    connect(m_ui->btnDefaultTransition, &QPopupButton::valueSelected, this,
-            &SlidesPage::onDefTransitionChanged);
-    connect(m_ui->btnShufle, &QPushButton::clicked, this, &SlidesPage::onBtnShuffleClicked);
-    connect(m_ui->m_btnRotate, &QPushButton::clicked, this, &SlidesPage::onBtnRotate);
-    connect(&m_editor, &ProjectEditor::slidesAboutToChange, this,
-            [this] { m_kept = selectedSlides(); });
-    connect(&m_editor, &ProjectEditor::slidesChanged, this, [this] {
-        selectSlides(m_kept);
-        updateControls();
-    });
-    connect(&m_editor, &ProjectEditor::slideChanged, this, &SlidesPage::updateControls);
-    connect(&m_editor, &ProjectEditor::totalsChanged, this, &SlidesPage::updateTotals);
-    connect(&m_editor, &ProjectEditor::projectChanged, this, [this] {
-        m_ui->btnDefaultTime->setValue(m_settings.defaultTime);
-        m_ui->btnDefaultTransition->setValue(m_settings.defaultTransition);
-        updateControls();
-    });
-    setUpShortcuts();
+    setUpActions();
+    setUpButtons();
+    connectEditor();
     updateControls();
-    updateTotals();
 }
 
 SlidesPage::~SlidesPage() = default;
 
 void SlidesPage::setUpTable()
 {
-    QTableView &table = *m_ui->tableView;
-    table.setModel(m_model);
-    table.setSelectionBehavior(QAbstractItemView::SelectRows);
-    table.setSelectionMode(QAbstractItemView::ExtendedSelection);
-    table.setShowGrid(false);
-    table.setTabKeyNavigation(false);
-    table.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    table.setIconSize({kThumbnailSide, kThumbnailSide});
-    table.setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
-                          QAbstractItemView::SelectedClicked);
-    table.verticalHeader()->hide();
-    table.verticalHeader()->setDefaultSectionSize(kRowHeight);
-    table.horizontalHeader()->setStretchLastSection(true);
-    table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    table.setColumnWidth(SlideTableModel::NumberColumn, 128);
-    table.setColumnWidth(SlideTableModel::TimeColumn, 96);
-    table.setColumnWidth(SlideTableModel::TransitionColumn, 184);
-    table.setItemDelegateForColumn(SlideTableModel::TimeColumn,
-                                   new ComboBoxItemDelegate(ValueLists::slideTimes(), this));
-    table.setItemDelegateForColumn(SlideTableModel::TransitionColumn,
-                                   new ComboBoxItemDelegate(ValueLists::transitions(), this));
-    connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        updateControls();
-        emit selectionChanged();
+    SlideTable &table = *m_ui->tableView;
+    table.setSlides(m_model);
+    table.setContextMenuPolicy(Qt::CustomContextMenu);
+    table.viewport()->installEventFilter(this);
+    connect(&table, &QWidget::customContextMenuRequested, this, &SlidesPage::showContextMenu);
+    connect(&table, &SlideTable::timeChosen, this, &SlidesPage::onTimeChanged);
+    connect(&table, &SlideTable::transitionChosen, this, &SlidesPage::onTransitionChanged);
+    connect(&table, &SlideTable::buttonClicked, this, &SlidesPage::onCellButton);
+    connect(&table, &SlideTable::previewRequested, this, &SlidesPage::previewRequested);
+    connect(&table, &SlideTable::rowsMoved, this, &SlidesPage::onSlidesMoved);
+    connect(&table, &SlideTable::filesDropped, this, &SlidesPage::filesDropped);
+    connect(&table, &SlideTable::dropEnd, this, &SlidesPage::onFileDropEnd);
+    connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &SlidesPage::onSelectionChanged);
+    connect(table.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &SlidesPage::updateLater);
+}
+
+void SlidesPage::setUpActions()
+{
+    SlideActions &actions = *m_actions;
+    connect(actions.up, &QAction::triggered, this, &SlidesPage::on_btnUp_clicked);
+    connect(actions.down, &QAction::triggered, this, &SlidesPage::on_btnDown_clicked);
+    connect(actions.rotate, &QAction::triggered, this, &SlidesPage::onBtnRotate);
+    connect(actions.rotateBack, &QAction::triggered, this, [this] { rotateSelected(-90); });
+    connect(actions.shuffle, &QAction::triggered, this, &SlidesPage::onBtnShuffleClicked);
+    connect(actions.sortByName, &QAction::triggered, this,
+            [this] { m_sorter->sort(SlideSorter::Criterion::Name); });
+    connect(actions.sortByDate, &QAction::triggered, this,
+            [this] { m_sorter->sort(SlideSorter::Criterion::Date); });
+    connect(actions.caption, &QAction::triggered, this,
+            [this] { emit captionRequested(currentSlide()); });
+    connect(actions.captionOfAll, &QAction::triggered, this, &SlidesPage::captionOfAllRequested);
+    connect(actions.time, &QAction::triggered, this,
+            [this] { m_ui->tableView->openValues(SlideTableModel::TimeColumn); });
+    connect(actions.transition, &QAction::triggered, this,
+            [this] { m_ui->tableView->openValues(SlideTableModel::TransitionColumn); });
+    connect(actions.preview, &QAction::triggered, this, &SlidesPage::previewRequested);
+    connect(actions.relocate, &QAction::triggered, this, [this] { relocate(currentSlide()); });
+    connect(actions.restore, &QAction::triggered, this, &SlidesPage::on_btnRestore_clicked);
+    connect(actions.remove, &QAction::triggered, this, &SlidesPage::deleteSelected);
+    connect(actions.clear, &QAction::triggered, this, &SlidesPage::on_btnClear_clicked);
+}
+
+void SlidesPage::setUpButtons()
+{
+    SlideActions::bind(m_ui->btnUp, m_actions->up);
+    SlideActions::bind(m_ui->btnDown, m_actions->down);
+    SlideActions::bind(m_ui->btnShufle, m_actions->shuffle);
+    connect(m_actions->sortByName, &QAction::changed, m_ui->btnSort,
+            [this] { m_ui->btnSort->setEnabled(m_actions->sortByName->isEnabled()); });
+    SlideActions::bind(m_ui->m_btnRotate, m_actions->rotate);
+    SlideActions::bind(m_ui->btnRotateBack, m_actions->rotateBack);
+    SlideActions::bind(m_ui->btnDelete, m_actions->remove);
+    SlideActions::bind(m_ui->btnRestore, m_actions->restore);
+    SlideActions::bind(m_ui->btnClear, m_actions->clear);
+    auto *menu = new QMenu(m_ui->btnSort);
+    menu->addActions({m_actions->sortByName, m_actions->sortByDate});
+    m_ui->btnSort->setMenu(menu);
+    connect(m_ui->btnShufle, &QToolButton::clicked, this, &SlidesPage::onBtnShuffleClicked);
+    connect(m_ui->m_btnRotate, &QToolButton::clicked, this, &SlidesPage::onBtnRotate);
+    connect(m_ui->btnRotateBack, &QToolButton::clicked, m_actions->rotateBack, &QAction::trigger);
+    connect(m_ui->btnDelete, &QToolButton::clicked, this, &SlidesPage::deleteSelected);
+    connect(m_ui->btnTotal, &QPushButton::clicked, this, &SlidesPage::onBtnTotalClicked);
+    connect(m_sorter, &SlideSorter::changed, this, &SlidesPage::updateSortButtonStyle);
+    for (QPushButton *button : {m_ui->btnTotal, m_ui->btnClear}) {
+        button->setProperty("flat", true);
+        button->setProperty("compact", true);
+    }
+    connect(m_ui->btnDefaultTime, &QPopupButton::valueSelected, this,
+            &SlidesPage::onDefTimeChanged);
+    connect(m_ui->btnDefaultTransition, &QPopupButton::valueSelected, this,
+            &SlidesPage::onDefTransitionChanged);
+    const QList<QToolButton *> tools = findChildren<QToolButton *>();
+    for (QToolButton *tool : tools) {
+        tool->setFixedSize(kToolSize, kToolSize);
+        tool->setIconSize({kToolIcon, kToolIcon});
+        tool->setToolButtonStyle(Qt::ToolButtonIconOnly);
+        tool->setFocusPolicy(Qt::StrongFocus);
+    }
+    for (QFrame *line : {m_ui->lineUndo, m_ui->lineOrder}) {
+        line->setFrameShape(QFrame::NoFrame);
+        line->setProperty("separator", true);
+    }
+    updateSortButtonStyle();
+    retranslate();
+}
+
+void SlidesPage::retranslate()
+{
+    m_actions->retranslate();
+    m_ui->tableView->retranslate();
+    m_hintText->setText(tr("Drag & drop photos and folders to add them here"));
+    m_ui->btnSort->setToolTip(
+        SlideActions::toolTip(tr("Sort photos"), m_actions->sortByName->shortcut()));
+    m_ui->btnSort->setAccessibleName(tr("Sort photos"));
+    m_ui->btnDefaultTime->setValues(ValueLists::slideTimes());
+    m_ui->btnDefaultTransition->setValues(ValueLists::transitions());
+}
+
+void SlidesPage::setUndoActions(QAction *undo, QAction *redo)
+{
+    const auto bind = [](QToolButton *button, QAction *action) {
+        SlideActions::bind(button, action);
+        connect(button, &QToolButton::clicked, action, &QAction::trigger);
+    };
+    bind(m_ui->btnUndo, undo);
+    bind(m_ui->btnRedo, redo);
+}
+
+void SlidesPage::connectEditor()
+{
+    connect(&m_editor, &ProjectEditor::slidesAboutToChange, this, &SlidesPage::keepSelection);
+    connect(&m_editor, &ProjectEditor::slidesChanged, this, &SlidesPage::restoreSelection);
+    connect(&m_editor, &ProjectEditor::slideChanged, this, &SlidesPage::updateLater);
+    connect(&m_editor, &ProjectEditor::totalsChanged, this, &SlidesPage::updateLater);
+    connect(&m_editor, &ProjectEditor::projectChanged, this, [this] {
+        m_sorter->reset();
+        m_told = nullptr; // belongs to the project before
+        m_ui->tableView->scrollToTop();
+        selectSlides({m_model->slideAt(std::min(1, m_model->rowCount() - 1))});
+        updateLater(); // other listeners may not know the project yet
     });
-}
-
-void SlidesPage::addShortcut(const QKeySequence &keys, void (SlidesPage::*slot)())
-{
-    auto *shortcut = new QShortcut(keys, this);
-    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(shortcut, &QShortcut::activated, this, slot);
-}
-
-void SlidesPage::setUpShortcuts()
-{
-    addShortcut(QKeySequence(Qt::Key_Delete), &SlidesPage::deleteSelected);
-    addShortcut(QKeySequence(Qt::CTRL + Qt::Key_R), &SlidesPage::onBtnRotate);
-    addShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_R), &SlidesPage::rotateBack);
-    addShortcut(QKeySequence(Qt::ALT + Qt::Key_Up), &SlidesPage::on_btnUp_clicked);
-    addShortcut(QKeySequence(Qt::ALT + Qt::Key_Down), &SlidesPage::on_btnDown_clicked);
 }
 
 ProjectEditor::Slides SlidesPage::selectedSlides() const
@@ -137,148 +230,164 @@ ProjectEditor::Slides SlidesPage::selectedSlides() const
 
 void SlidesPage::selectSlides(const ProjectEditor::Slides &slides)
 {
-    QItemSelection selection;
+    QVector<int> rows;
     for (const ProjectItem *slide : slides) {
         const int row = m_model->rowOf(slide);
         if (row >= 0)
-            selection.select(m_model->index(row, 0),
-                             m_model->index(row, SlideTableModel::ColumnCount - 1));
+            rows.append(row);
     }
-    m_ui->tableView->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    std::sort(rows.begin(), rows.end());
+    QItemSelection selection;
+    for (int i = 0; i < rows.size();) {
+        int last = i;
+        while (last + 1 < rows.size() && rows.at(last + 1) == rows.at(last) + 1)
+            ++last;
+        selection.append({m_model->index(rows.at(i), 0),
+                          m_model->index(rows.at(last), SlideTableModel::ColumnCount - 1)});
+        i = last + 1;
+    }
+    QItemSelectionModel &model = *m_ui->tableView->selectionModel();
+    if (!rows.isEmpty())
+        model.setCurrentIndex(m_model->index(rows.first(), 0), QItemSelectionModel::NoUpdate);
+    model.select(selection, QItemSelectionModel::ClearAndSelect);
+    if (!rows.isEmpty()) {
+        m_ui->tableView->scrollTo(m_model->index(rows.last(), 0));
+        m_ui->tableView->scrollTo(m_model->index(rows.first(), 0));
+    }
 }
 
-ProjectEditor::Slides SlidesPage::photos() const
+ProjectItem *SlidesPage::currentSlide() const
 {
+    const QItemSelectionModel &selection = *m_ui->tableView->selectionModel();
+    const QModelIndex current = selection.currentIndex();
+    if (selection.isRowSelected(current.row(), {}))
+        return m_model->slideAt(current.row());
+    return selectedSlides().value(0);
+}
+
+void SlidesPage::keepSelection()
+{
+    m_kept = selectedSlides();
+    m_keptRows = m_editor.project()->items();
+}
+
+/// Slides that came are selected; else those that were; else, after a deletion, the next one.
+void SlidesPage::restoreSelection()
+{
+    const ProjectEditor::Slides &present = m_editor.project()->items();
+    const QSet<ProjectItem *> before(m_keptRows.cbegin(), m_keptRows.cend());
     ProjectEditor::Slides slides;
-    if (!m_editor.project())
-        return slides;
-    for (ProjectItem *slide : m_editor.project()->items()) {
-        if (qobject_cast<ProjectItemSimple *>(slide))
-            slides.append(slide);
+    std::copy_if(present.begin(), present.end(), std::back_inserter(slides),
+                 [&](ProjectItem *slide) { return !before.contains(slide); });
+    if (slides.isEmpty())
+        std::copy_if(m_kept.begin(), m_kept.end(), std::back_inserter(slides),
+                     [this](ProjectItem *slide) { return m_model->rowOf(slide) >= 0; });
+    if (slides.isEmpty() && !m_kept.isEmpty() && !present.isEmpty())
+        slides = {present.at(std::min(m_keptRows.indexOf(m_kept.first()), present.size() - 1))};
+    selectSlides(slides);
+    updateLater();
+}
+
+void SlidesPage::onSelectionChanged(const QItemSelection &, const QItemSelection &)
+{
+    updateLater();
+}
+
+void SlidesPage::changeEvent(QEvent *event)
+{
+    // Photos may have been moved or brought back in another program.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        m_model->checkFiles();
+    if (event->type() == QEvent::LanguageChange) {
+        m_ui->retranslateUi(this);
+        retranslate();
+        updateControls();
     }
-    return slides;
+    QWidget::changeEvent(event);
 }
 
-void SlidesPage::replaceOrder(ProjectEditor::Slides order, const QString &text)
+bool SlidesPage::eventFilter(QObject *watched, QEvent *event)
 {
-    const ProjectEditor::Slides present = m_editor.project()->items();
-    if (!present.isEmpty() && !order.contains(present.first()))
-        order.prepend(present.first());
-    m_editor.setOrder(order, text);
+    if (event->type() == QEvent::Resize)
+        placeHint();
+    return QWidget::eventFilter(watched, event);
 }
 
-void SlidesPage::onDefTimeChanged(const QVariant &value)
+void SlidesPage::placeHint()
 {
-    if (m_editor.project())
-        m_editor.setTime(m_editor.project()->items(), value.toInt());
+    QRect area = m_ui->tableView->viewport()->rect();
+    const int rows = m_model->rowCount();
+    if (rows > 0)
+        area.setTop(m_ui->tableView->rowViewportPosition(rows - 1) +
+                    m_ui->tableView->rowHeight(rows - 1));
+    m_hint->setGeometry(area);
+    m_hint->setVisible(m_editor.project() && rows > 0 && m_model->photoCount() == 0);
 }
 
-void SlidesPage::onDefTransitionChanged(const QVariant &value)
+int SlidesPage::shownCount() const
 {
-    m_editor.setTransition(photos(), value.toInt());
-}
-
-void SlidesPage::onDeleteClicked(ProjectItem *item)
-{
-    m_editor.removeSlides({item});
-}
-
-void SlidesPage::deleteSelected()
-{
-    const ProjectEditor::Slides slides = selectedSlides();
-    if (!slides.isEmpty())
-        m_editor.removeSlides(slides);
-}
-
-void SlidesPage::on_btnClear_clicked()
-{
-    if (m_editor.project())
-        m_editor.removeSlides(m_editor.project()->items());
-}
-
-void SlidesPage::on_btnRestore_clicked()
-{
-    if (const auto *title = qobject_cast<ProjectItemFirst *>(m_model->slideAt(0)))
-        m_editor.setTitleSlide(title->backgroundIndex(), true);
-}
-
-void SlidesPage::on_btnUp_clicked()
-{
-    const ProjectEditor::Slides slides = selectedSlides();
-    if (!slides.isEmpty())
-        m_editor.moveSlides(slides, m_model->rowOf(slides.first()) - 1);
-}
-
-void SlidesPage::on_btnDown_clicked()
-{
-    const ProjectEditor::Slides slides = selectedSlides();
-    if (!slides.isEmpty())
-        m_editor.moveSlides(slides, m_model->rowOf(slides.last()) + 2);
-}
-
-void SlidesPage::onBtnShuffleClicked()
-{
-    ProjectEditor::Slides order = photos();
-    if (order.isEmpty())
-        return;
-    std::shuffle(order.begin(), order.end(), *QRandomGenerator::global());
-    replaceOrder(order, tr("Shuffle photos"));
-}
-
-void SlidesPage::on_btnSort_clicked()
-{
-    QMultiHash<QString, ProjectItem *> byFile;
-    const ProjectEditor::Slides present = photos();
-    for (auto slide = present.crbegin(); slide != present.crend(); ++slide)
-        byFile.insert(static_cast<ProjectItemSimple *>(*slide)->fileName(), *slide);
-    if (byFile.isEmpty())
-        return;
-    QStringList files = byFile.uniqueKeys();
-    sortNaturally(&files);
-    if (m_descending)
-        std::reverse(files.begin(), files.end());
-    ProjectEditor::Slides order;
-    for (const QString &file : qAsConst(files))
-        order += byFile.values(file).toVector();
-    replaceOrder(order, tr("Sort photos"));
-    m_descending = !m_descending;
-    updateSortButtonStyle();
-}
-
-void SlidesPage::updateSortButtonStyle()
-{
-    m_ui->btnSort->setIcon(picture(
-        QStringLiteral("AB-%1").arg(m_descending ? QStringLiteral("up") : QStringLiteral("down"))));
-}
-
-void SlidesPage::onBtnRotate()
-{
-    m_editor.rotate(selectedSlides(), kQuarterTurn);
-    emit rotateChanged();
-}
-
-void SlidesPage::rotateBack()
-{
-    m_editor.rotate(selectedSlides(), -kQuarterTurn);
-    emit rotateChanged();
+    const ProjectItem *first = m_model->slideAt(0);
+    return m_model->rowCount() - (first && !first->isShown() ? 1 : 0);
 }
 
 void SlidesPage::updateControls()
 {
-    const bool hasProject = m_editor.project() != nullptr;
-    const int count = hasProject ? m_editor.project()->items().size() : 0;
+    m_ui->tableView->setFixedRows(m_model->rowCount() - m_model->photoCount());
+    placeHint();
+    updateActions();
+    updateDefaults();
+    updateTotals();
+    ProjectItem *current = currentSlide();
+    if (current != m_told) {
+        m_told = current;
+        emit currentSlideChanged(current);
+    }
+}
+
+void SlidesPage::updateActions()
+{
     const ProjectEditor::Slides selected = selectedSlides();
-    const bool hasPhoto =
-        std::any_of(selected.begin(), selected.end(), [](const ProjectItem *slide) {
-            return qobject_cast<const ProjectItemSimple *>(slide) != nullptr;
-        });
-    m_ui->btnUp->setEnabled(hasPhoto);
-    m_ui->btnDown->setEnabled(hasPhoto);
-    m_ui->m_btnRotate->setEnabled(hasPhoto);
-    const auto *title = qobject_cast<const ProjectItemFirst *>(m_model->slideAt(0));
-    m_ui->btnRestore->setEnabled(title && !title->isShown());
-    m_ui->btnClear->setText(tr("Clear list (%1)").arg(count));
-    m_ui->btnClear->setEnabled(count > 0);
+    const bool hasPhoto = std::any_of(selected.begin(), selected.end(), [](ProjectItem *slide) {
+        return qobject_cast<ProjectItemSimple *>(slide) != nullptr;
+    });
+    for (QAction *action : {m_actions->up, m_actions->down, m_actions->rotate,
+                            m_actions->rotateBack, m_actions->transition})
+        action->setEnabled(hasPhoto);
+    for (QAction *action : {m_actions->time, m_actions->caption, m_actions->preview})
+        action->setEnabled(!selected.isEmpty());
+    for (QAction *action : {m_actions->shuffle, m_actions->sortByName, m_actions->sortByDate})
+        action->setEnabled(m_model->photoCount() > 1);
+    const ProjectItem *first = m_model->slideAt(0);
+    const bool hidden = first && !first->isShown();
+    m_actions->restore->setEnabled(hidden);
+    m_ui->btnRestore->setVisible(hidden);
+    m_actions->remove->setEnabled(hasPhoto || (!selected.isEmpty() && !hidden));
+    m_actions->captionOfAll->setEnabled(m_model->rowCount() > 0);
+    const QModelIndex current = m_model->index(m_model->rowOf(currentSlide()), 0);
+    m_actions->relocate->setEnabled(current.data(SlideTableModel::MissingRole).toBool());
+    m_actions->clear->setEnabled(shownCount() > 0);
+    m_ui->btnClear->setText(tr("Clear list (%1)").arg(shownCount()));
+}
+
+void SlidesPage::updateDefaults()
+{
+    const ProjectEditor::Slides slides =
+        m_editor.project() ? m_editor.project()->items() : ProjectEditor::Slides();
+    const QVariant time =
+        common(slides, [](const ProjectItem &slide) { return QVariant(slide.time()); });
+    const QVariant transition = common(slides, [](const ProjectItem &slide) {
+        const auto *photo = qobject_cast<const ProjectItemSimple *>(&slide);
+        return photo ? QVariant(photo->transition()) : QVariant();
+    });
+    if (m_model->photoCount() == 0) {
+        m_ui->btnDefaultTime->setValue(m_settings.defaultTime);
+        m_ui->btnDefaultTransition->setValue(m_settings.defaultTransition);
+        return;
+    }
+    m_ui->btnDefaultTime->setValue(time, time.isValid() ? ValueLists::secondsText(time.toInt())
+                                                        : tr("Various"));
+    m_ui->btnDefaultTransition->setValue(transition,
+                                         transition.isValid() ? QString() : tr("Various"));
 }
 
 void SlidesPage::updateTotals()
@@ -287,6 +396,17 @@ void SlidesPage::updateTotals()
     if (m_editor.project())
         length = Timeline::ofProject(*m_editor.project(), m_settings.transitionTime).totalLength();
     m_ui->btnTotal->setText(tr("Total: %1").arg(ValueLists::durationText(length)));
+    m_ui->btnTotal->setEnabled(shownCount() > 0);
+}
+
+void SlidesPage::focusTable()
+{
+    m_ui->tableView->setFocus();
+}
+
+void SlidesPage::updateFromSettings()
+{
+    updateControls();
 }
 
 } // namespace velmora

@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "ui/editor/SlideDelegate.h"
 #include "ui/model/ProjectEditor.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <memory>
+
+class QAction;
+class QItemSelection;
+class QLabel;
 
 namespace Ui
 {
@@ -15,6 +21,9 @@ class SlidesPage;
 namespace velmora
 {
 
+class BusyNote;
+class SlideActions;
+class SlideSorter;
 class SlideTableModel;
 
 /// The page of the slide table with its tools, the row "Change all:" and the totals. Its actions
@@ -29,41 +38,84 @@ public:
     /// In the order of their rows.
     ProjectEditor::Slides selectedSlides() const;
     void selectSlides(const ProjectEditor::Slides &slides);
+    /// The slide of the current row if it is selected; null: none.
+    ProjectItem *currentSlide() const;
+    /// The line for work in the background.
+    BusyNote &busyNote() { return *m_note; }
+    /// Gives the keys to the table.
+    void focusTable();
+    /// Takes over changed settings.
+    void updateFromSettings();
+    /// Gives the buttons for undo and redo their actions.
+    void setUndoActions(QAction *undo, QAction *redo);
 
 signals:
-    void selectionChanged();
+    void currentSlideChanged(velmora::ProjectItem *slide); ///< Null: none.
+    void filesDropped(const QStringList &files, int newRow);
+    void captionRequested(velmora::ProjectItem *slide);
+    void captionOfAllRequested();
+    void previewRequested();
     void rotateChanged();
 
 public slots:
+    void onTimeChanged(int row, int seconds);
+    void onTransitionChanged(int row, int transition);
     void onDefTimeChanged(const QVariant &value);
     void onDefTransitionChanged(const QVariant &value);
+    void onSelectionChanged(const QItemSelection &selected, const QItemSelection &unselected);
+    /// Moves slides in front of the row @p before.
+    void onSlidesMoved(const QVector<int> &rows, int before);
+    void onFileDropEnd();
     void onDeleteClicked(velmora::ProjectItem *item);
     void on_btnClear_clicked();
+    void onBtnTotalClicked();
     void on_btnRestore_clicked();
     void on_btnUp_clicked();
     void on_btnDown_clicked();
     void onBtnShuffleClicked();
     void on_btnSort_clicked();
+    void updateSortButtonStyle();
     void onBtnRotate();
+
+protected:
+    void changeEvent(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void setUpTable();
-    void setUpShortcuts();
-    void addShortcut(const QKeySequence &keys, void (SlidesPage::*slot)());
+    void setUpActions();
+    void setUpButtons();
+    void retranslate();
+    void connectEditor();
+    void keepSelection();
+    void restoreSelection();
+    void onCellButton(SlideButton button, int row);
     void deleteSelected();
-    void rotateBack();
+    void rotateSelected(int degrees);
+    void relocate(ProjectItem *slide);
+    void showContextMenu(const QPoint &position);
+    void updateLater() { m_update.start(); }
     void updateControls();
+    void updateActions();
+    void updateDefaults();
     void updateTotals();
-    void updateSortButtonStyle();
-    void replaceOrder(ProjectEditor::Slides photos, const QString &text);
-    ProjectEditor::Slides photos() const;
+    void placeHint();
+    ProjectEditor::Slides scopeOf(int row) const;
+    int shownCount() const;
 
     ProjectEditor &m_editor;
     const AppSettings &m_settings;
     std::unique_ptr<Ui::SlidesPage> m_ui;
     SlideTableModel *m_model;
-    bool m_descending = false;    ///< What the next press of the sort button does.
-    ProjectEditor::Slides m_kept; ///< The selection while the rows change.
+    BusyNote *m_note;
+    SlideActions *m_actions;
+    SlideSorter *m_sorter;
+    QLabel *m_hintText;
+    QWidget *m_hint;                  ///< Invites while there are no photos.
+    QTimer m_update;                  ///< Many changes at once update the controls once.
+    ProjectEditor::Slides m_kept;     ///< The selection while the rows change.
+    ProjectEditor::Slides m_keptRows; ///< All slides before the change.
+    ProjectItem *m_told = nullptr;    ///< The current slide that listeners know.
 };
 
 } // namespace velmora

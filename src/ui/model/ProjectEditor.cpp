@@ -206,6 +206,15 @@ void ProjectEditor::setCaption(const Slides &slides, const CaptionStyle &caption
                     [&caption](SlideState &state) { state.caption = caption; });
 }
 
+void ProjectEditor::setCaptionStyle(const Slides &slides, const CaptionStyle &style)
+{
+    d->changeSlides(slides, tr("Change caption style"), [&style](SlideState &state) {
+        const QString text = state.caption.text;
+        state.caption = style;
+        state.caption.text = text;
+    });
+}
+
 void ProjectEditor::setTitleSlide(int backgroundIndex, bool visible)
 {
     if (ProjectItemFirst *title = d->titleSlide())
@@ -294,6 +303,11 @@ void ProjectEditor::setTransitionSeconds(int seconds)
 {
     d->changeProject(tr("Change transition duration"),
                      [seconds](ProjectState &state) { state.transitionSeconds = seconds; });
+}
+
+int ProjectEditor::transitionSeconds() const
+{
+    return d->settings.transitionTime;
 }
 
 void ProjectEditor::setName(const QString &name)

@@ -52,6 +52,8 @@ public:
     void setTransition(const Slides &slides, int transition);
     void rotate(const Slides &slides, int degrees);
     void setCaption(const Slides &slides, const CaptionStyle &caption);
+    /// As setCaption(), but the slides keep their texts.
+    void setCaptionStyle(const Slides &slides, const CaptionStyle &style);
     void setTitleSlide(int backgroundIndex, bool visible);
     /// Points a photo slide to another file.
     void relocate(ProjectItem *slide, const QString &fileName);
@@ -70,6 +72,7 @@ public:
     void setOrigRatio(bool on);
     void setScaleToFit(bool on);
     void setTransitionSeconds(int seconds);
+    int transitionSeconds() const; ///< s
     void setName(const QString &name);
 
 signals:

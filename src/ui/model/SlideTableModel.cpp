@@ -10,8 +10,11 @@
 #include "ui/model/ValueLists.h"
 
 #include <QDir>
-#include <QFileInfo>
+#include <QGuiApplication>
+#include <QSet>
 #include <QTransform>
+
+#include <algorithm>
 
 namespace velmora
 {
@@ -19,10 +22,20 @@ namespace velmora
 namespace
 {
 
-constexpr int kKeptThumbnails = 4000;
-// More requests than rows on a tall screen are of rows that were scrolled past.
-constexpr int kMaximumRequests = 60;
-constexpr QSize kTitleThumbnail(62, 46); // px
+constexpr int kThumbnailMemory = 96 * 1024; // KiB
+
+/// @p size in px of the sharpest screen.
+QSize devicePixels(const QSize &size)
+{
+    return (QSizeF(size) * (qApp ? qApp->devicePixelRatio() : 1.0)).toSize();
+}
+
+/// Photos may be turned, so each side may become the long one.
+QSize photoBox()
+{
+    const int side = SlideTableModel::kThumbnailBox.width();
+    return devicePixels({side, side});
+}
 
 QString fileOf(const ProjectItem &slide)
 {
@@ -33,19 +46,21 @@ QString fileOf(const ProjectItem &slide)
 } // namespace
 
 SlideTableModel::SlideTableModel(ProjectEditor &editor, QObject *parent)
-    : QAbstractTableModel(parent), m_editor(editor), m_thumbnails(kKeptThumbnails)
+    : QAbstractTableModel(parent), m_editor(editor), m_thumbnails(kThumbnailMemory)
 {
     connect(&m_editor, &ProjectEditor::projectChanged, this, [this] {
         m_provider.clear();
         m_requests.clear();
-        m_order.clear();
-        m_missing.clear();
         reset();
     });
     connect(&m_editor, &ProjectEditor::slidesChanged, this, &SlideTableModel::reset);
     connect(&m_editor, &ProjectEditor::slideChanged, this, &SlideTableModel::onSlideChanged);
     connect(&m_provider, &ThubnailProvider::thumbnailReady, this,
             &SlideTableModel::onThumbnailReady);
+    m_check.setSingleShot(true); // many slides may change at once
+    connect(&m_check, &QTimer::timeout, this, &SlideTableModel::checkFilesNow);
+    connect(&m_missing, &MissingFiles::changed, this, &SlideTableModel::onMissingChanged);
+    m_provider.setPhotoBox(photoBox());
     m_provider.start(QThread::LowPriority);
     reset();
 }
@@ -63,6 +78,45 @@ void SlideTableModel::reset()
     for (int row = 0; row < m_slides.size(); ++row)
         m_rows.insert(m_slides.at(row), row);
     endResetModel();
+    checkFiles();
+}
+
+void SlideTableModel::checkFiles()
+{
+    m_check.start();
+}
+
+void SlideTableModel::checkFilesNow()
+{
+    QStringList files;
+    files.reserve(m_slides.size());
+    for (const ProjectItem *slide : qAsConst(m_slides)) {
+        const QString file = fileOf(*slide);
+        if (!file.isEmpty())
+            files.append(file);
+    }
+    m_missing.check(files);
+}
+
+void SlideTableModel::onMissingChanged()
+{
+    if (!m_slides.isEmpty())
+        emit dataChanged(index(0, 0), index(m_slides.size() - 1, ColumnCount - 1));
+}
+
+void SlideTableModel::setVisibleRows(int first, int last)
+{
+    QSet<QString> visible;
+    for (int row = std::max(0, first); row <= last && row < m_slides.size(); ++row)
+        visible.insert(fileOf(*m_slides.at(row)));
+    for (auto request = m_requests.begin(); request != m_requests.end();) {
+        if (visible.contains(request.value())) {
+            ++request;
+        } else {
+            m_provider.drop(request.key());
+            request = m_requests.erase(request);
+        }
+    }
 }
 
 ProjectItem *SlideTableModel::slideAt(int row) const
@@ -73,6 +127,12 @@ ProjectItem *SlideTableModel::slideAt(int row) const
 int SlideTableModel::rowOf(const ProjectItem *slide) const
 {
     return m_rows.value(slide, -1);
+}
+
+int SlideTableModel::photoCount() const
+{
+    const bool hasTitle = qobject_cast<ProjectItemFirst *>(slideAt(0)) != nullptr;
+    return m_slides.size() - (hasTitle ? 1 : 0);
 }
 
 int SlideTableModel::rowCount(const QModelIndex &parent) const
@@ -132,11 +192,13 @@ QVariant SlideTableModel::data(const QModelIndex &index, int role) const
     case Qt::DecorationRole:
         return index.column() == NumberColumn ? QVariant(thumbnail(slide)) : QVariant();
     case MissingRole:
-        return isMissing(fileOf(slide));
+        return m_missing.isMissing(fileOf(slide));
     case ShownRole:
         return slide.isShown();
     case TitleRole:
         return slide.title();
+    case TitleSlideRole:
+        return qobject_cast<const ProjectItemFirst *>(&slide) != nullptr;
     default:
         return {};
     }
@@ -174,7 +236,7 @@ QString SlideTableModel::toolTip(const ProjectItem &slide) const
     if (file.isEmpty())
         return slide.isShown() ? slide.title() : tr("The title slide is not part of the video.");
     const QString path = QDir::toNativeSeparators(file);
-    return isMissing(file) ? tr("The photo %1 does not exist any more.").arg(path) : path;
+    return m_missing.isMissing(file) ? tr("The photo %1 does not exist any more.").arg(path) : path;
 }
 
 bool SlideTableModel::setData(const QModelIndex &index, const QVariant &value, int role)
@@ -188,26 +250,27 @@ bool SlideTableModel::setData(const QModelIndex &index, const QVariant &value, i
     return true;
 }
 
-bool SlideTableModel::isMissing(const QString &fileName) const
-{
-    if (fileName.isEmpty())
-        return false;
-    auto entry = m_missing.find(fileName);
-    if (entry == m_missing.end())
-        entry = m_missing.insert(fileName, !QFileInfo::exists(fileName));
-    return entry.value();
-}
-
 QImage SlideTableModel::thumbnail(const ProjectItem &slide) const
 {
-    if (const auto *title = qobject_cast<const ProjectItemFirst *>(&slide))
-        return titleBackground(title->backgroundIndex(), kTitleThumbnail, true);
+    if (const auto *title = qobject_cast<const ProjectItemFirst *>(&slide)) {
+        const QString key = QStringLiteral(":title/%1").arg(title->backgroundIndex());
+        if (!m_thumbnails.contains(key))
+            keep(key, titleBackground(title->backgroundIndex(), devicePixels(kThumbnailBox), true));
+        const QImage *image = m_thumbnails.object(key);
+        return image ? *image : QImage();
+    }
     const QString file = fileOf(slide);
     if (const QImage *image = m_thumbnails.object(file))
         return slide.angle() == 0 ? *image : image->transformed(QTransform().rotate(slide.angle()));
-    if (!isMissing(file))
+    if (!m_missing.isMissing(file))
         request(file);
     return {};
+}
+
+void SlideTableModel::keep(const QString &key, const QImage &thumbnail) const
+{
+    const auto kibibytes = static_cast<int>(thumbnail.sizeInBytes() / 1024) + 1;
+    m_thumbnails.insert(key, new QImage(thumbnail), kibibytes);
 }
 
 void SlideTableModel::request(const QString &fileName) const
@@ -216,25 +279,17 @@ void SlideTableModel::request(const QString &fileName) const
         if (requested == fileName)
             return;
     }
-    if (m_order.size() >= kMaximumRequests) {
-        const QUuid oldest = m_order.takeFirst();
-        m_provider.drop(oldest);
-        m_requests.remove(oldest);
-    }
-    const QUuid id = m_provider.request(fileName);
-    m_requests.insert(id, fileName);
-    m_order.append(id);
+    m_requests.insert(m_provider.request(fileName), fileName);
 }
 
 void SlideTableModel::onThumbnailReady(const QUuid &id)
 {
     const QString fileName = m_requests.take(id);
-    m_order.removeOne(id);
     const QImage image = m_provider.thumbnail(id);
     m_provider.drop(id);
     if (fileName.isEmpty() || image.isNull())
         return;
-    m_thumbnails.insert(fileName, new QImage(image));
+    keep(fileName, image);
     for (int row = 0; row < m_slides.size(); ++row) {
         if (fileOf(*m_slides.at(row)) == fileName) {
             const QModelIndex changed = index(row, NumberColumn);
@@ -246,8 +301,10 @@ void SlideTableModel::onThumbnailReady(const QUuid &id)
 void SlideTableModel::onSlideChanged(ProjectItem *slide)
 {
     const int row = rowOf(slide);
-    if (row >= 0)
-        emit dataChanged(index(row, 0), index(row, ColumnCount - 1));
+    if (row < 0)
+        return;
+    emit dataChanged(index(row, 0), index(row, ColumnCount - 1));
+    checkFiles(); // it may point to another file now
 }
 
 } // namespace velmora

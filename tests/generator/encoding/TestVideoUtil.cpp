@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/encoding/EncoderLocator.h"
 #include "generator/encoding/VideoUtil.h"
+#include "helpers/VideoProbe.h"
 
 #include <QDir>
 #include <QPainter>
@@ -29,22 +30,6 @@ QImage picture(int number)
     QPainter painter(&image);
     painter.fillRect(image.rect(), colours);
     return image;
-}
-
-/// Mean difference of the worst channel.
-double meanDifference(const QImage &a, const QImage &b)
-{
-    double sums[3] = {0, 0, 0};
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            const QRgb p = a.pixel(x, y);
-            const QRgb q = b.pixel(x, y);
-            sums[0] += std::abs(qRed(p) - qRed(q));
-            sums[1] += std::abs(qGreen(p) - qGreen(q));
-            sums[2] += std::abs(qBlue(p) - qBlue(q));
-        }
-    }
-    return *std::max_element(sums, sums + 3) / (a.width() * a.height());
 }
 
 QByteArray fileContent(const QString &path)
@@ -148,7 +133,7 @@ private slots:
             VideoUtil util(*m_context);
             makeFrames(util, QStringLiteral("_t7"), frames);
             const QString file = encode(util, QStringLiteral("_t7"), frames, duration);
-            QTEST(decode(file).frames, "expected");
+            QTEST(VideoProbe::frames(file, kSize).size(), "expected");
         }
     }
 
@@ -318,42 +303,12 @@ private:
         return times;
     }
 
-    struct Decoded {
-        QByteArray errors;
-        QByteArray pixels; ///< RGB, frame after frame
-        int frames = 0;
-
-        QImage frame(int number) const
-        {
-            const int size = kSize.width() * kSize.height() * 3;
-            const auto *start = reinterpret_cast<const uchar *>(pixels.constData());
-            return QImage(start + number * size, kSize.width(), kSize.height(), kSize.width() * 3,
-                          QImage::Format_RGB888);
-        }
-    };
-
-    /// Decodes every stream of @p file, without dropping or repeating a frame.
-    Decoded decode(const QString &file) const
-    {
-        const QString output = m_folder->filePath(QStringLiteral("frames.rgb"));
-        const QString line = QStringLiteral("-v error -y -i FILE -map 0:v -vsync passthrough "
-                                            "-pix_fmt rgb24 -f rawvideo OUT -map 0 -f null -");
-        QStringList arguments = line.split(QLatin1Char(' '));
-        arguments.replace(arguments.indexOf(QStringLiteral("FILE")), file);
-        arguments.replace(arguments.indexOf(QStringLiteral("OUT")), output);
-        Decoded decoded;
-        decoded.errors = ToolRunner().run(m_encoder, arguments).standardError;
-        decoded.pixels = fileContent(output);
-        decoded.frames = decoded.pixels.size() / (kSize.width() * kSize.height() * 3);
-        return decoded;
-    }
-
     void checkPicture(const QString &file) const
     {
         constexpr int kFrames = 25 + 100 + 100 + 25 + 100;
-        const Decoded decoded = decode(file);
-        QCOMPARE(decoded.errors, QByteArray());
-        QCOMPARE(decoded.frames, kFrames);
+        const QVector<QImage> frames = VideoProbe::frames(file, kSize);
+        QCOMPARE(VideoProbe::decodingErrors(file), QString());
+        QCOMPARE(frames.size(), kFrames);
         QVector<double> times = packetTimes(file, QStringLiteral("v"));
         std::sort(times.begin(), times.end());
         for (int i = 1; i < times.size(); ++i) {
@@ -362,10 +317,10 @@ private:
                      qPrintable(QStringLiteral("%1 s at frame %2").arg(gap).arg(i)));
         }
         // The still comes first, then slides of transition, caption and still.
-        QVERIFY(meanDifference(decoded.frame(10), picture(1)) < 3.0);
-        QVERIFY(meanDifference(decoded.frame(25 + 19), picture(20)) < 3.0);
-        QVERIFY(meanDifference(decoded.frame(225 + 14), picture(15)) < 3.0);
-        QVERIFY(meanDifference(decoded.frame(kFrames - 1), picture(1)) < 3.0);
+        QVERIFY(VideoProbe::meanDifference(frames[10], picture(1)) < 3.0);
+        QVERIFY(VideoProbe::meanDifference(frames[25 + 19], picture(20)) < 3.0);
+        QVERIFY(VideoProbe::meanDifference(frames[225 + 14], picture(15)) < 3.0);
+        QVERIFY(VideoProbe::meanDifference(frames[kFrames - 1], picture(1)) < 3.0);
     }
 
     void checkMultiplex(VideoUtil &util, const QString &total, const QString &source) const

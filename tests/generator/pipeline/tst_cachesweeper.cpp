@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QSysInfo>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -74,6 +75,17 @@ private slots:
         write(dead + QLatin1Char('/') + CacheSweeper::kOutputNote, video.toUtf8());
         CacheSweeper::sweep(m_cache->path());
         QVERIFY(QFileInfo::exists(video));
+    }
+
+    void removesTheLocksOfDeadRendersOnly()
+    {
+        QLockFile live(path(QStringLiteral("live.lock")));
+        QVERIFY(live.tryLock(0));
+        write(path(QStringLiteral("dead.lock")),
+              "4194305\nvelmoratool\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+        CacheSweeper::sweepLocks(m_cache->path());
+        QVERIFY(QFileInfo::exists(path(QStringLiteral("live.lock"))));
+        QVERIFY(!QFileInfo::exists(path(QStringLiteral("dead.lock"))));
     }
 
     void aCacheGoesWithItsObject()

@@ -45,32 +45,17 @@ private slots:
         QTest::addColumn<QString>("format");
         QTest::addColumn<QString>("fileName");
         QTest::addColumn<QString>("extension");
-        QTest::newRow("both") << "a.mp4"
-                              << "mp4"
-                              << "a.mp4"
-                              << "mp4";
-        QTest::newRow("suffix wins") << "a.webm"
-                                     << "mp4"
-                                     << "a.webm"
-                                     << "webm";
-        QTest::newRow("upper case") << "a.AVI"
-                                    << "mp4"
-                                    << "a.AVI"
-                                    << "avi";
-        QTest::newRow("no suffix") << "a"
-                                   << "mov"
-                                   << "a.mov"
-                                   << "mov";
-        QTest::newRow("unknown suffix") << "trip 12.2024"
-                                        << "wmv"
-                                        << "trip 12.2024.wmv"
-                                        << "wmv";
-        QTest::newRow("unknown format") << "a"
-                                        << "../x"
-                                        << "a.mkv"
-                                        << "mkv";
-        QTest::newRow("odd letters")
-            << QStringLiteral("Ü 100% 'x'") << "MKV" << QStringLiteral("Ü 100% 'x'.mkv") << "mkv";
+        const auto row = [](const char *what, const char *name, const char *format,
+                            const char *fileName, const char *extension) {
+            QTest::newRow(what) << QString::fromUtf8(name) << QString::fromUtf8(format)
+                                << QString::fromUtf8(fileName) << QString::fromUtf8(extension);
+        };
+        row("suffix wins", "a.webm", "mp4", "a.webm", "webm");
+        row("upper case", "a.AVI", "mp4", "a.AVI", "avi");
+        row("no suffix", "a", "mov", "a.mov", "mov");
+        row("unknown suffix", "trip 12.2024", "wmv", "trip 12.2024.wmv", "wmv");
+        row("unknown format", "a", "../x", "a.mkv", "mkv");
+        row("odd letters", "Ü 100% 'x'", "MKV", "Ü 100% 'x'.mkv", "mkv");
     }
 
     void choosesTheContainer()
@@ -91,14 +76,13 @@ private slots:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("told");
-        QTest::newRow("folder missing") << "none/a.mp4"
-                                        << "does not exist";
-        QTest::newRow("folder is a file") << "plain/a.mp4"
-                                          << "not a folder";
-        QTest::newRow("a folder has the name") << "dir.mp4"
-                                               << "a folder has that name";
-        QTest::newRow("300 characters") << QString(300, QLatin1Char('x')) << "too long";
-        QTest::newRow("300 bytes") << QString(150, QChar(0xfc)) << "too long";
+        const auto row = [](const QString &name, const char *told) {
+            QTest::newRow(told) << name << QString::fromLatin1(told);
+        };
+        row(QStringLiteral("none/a.mp4"), "does not exist");
+        row(QStringLiteral("plain/a.mp4"), "not a folder");
+        row(QStringLiteral("dir.mp4"), "a folder has that name");
+        row(QString(150, QChar(0xfc)), "too long"); // in bytes
     }
 
     void refusesWhatCannotBeWritten()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/worker/Composer.h"
 #include "generator/worker/WorkerProtocol.h"
+#include "helpers/TestProcess.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -30,13 +31,6 @@ QByteArray finishedLine(const QString &file)
     message.kind = WorkerMessage::Kind::Finished;
     message.fileName = file;
     return "print " + WorkerProtocol::encode(message);
-}
-
-/// Whether a process runs, as the system's table of processes tells; zombies do not.
-bool isAlive(qint64 pid)
-{
-    QFile status(QStringLiteral("/proc/%1/stat").arg(pid));
-    return status.open(QIODevice::ReadOnly) && !status.readAll().contains(") Z ");
 }
 
 } // namespace

@@ -59,7 +59,6 @@ void VelmoratoolTest::initTestCase()
     m_fixture.file(QStringLiteral("text.jpg"), "This is not a picture.");
     m_fixture.file(QStringLiteral("broken.json"), "{\"images\": [");
     m_fixture.file(QStringLiteral("broken.mp3"), "This is not music.");
-    QDir().mkpath(m_fixture.path(QStringLiteral("empty")));
 }
 
 void VelmoratoolTest::setLocale(QProcess &process, const QString &locale)
@@ -182,14 +181,10 @@ void VelmoratoolTest::refuses_data()
     };
     row("missing photo", "gone.jpg", "out/a.mp4", "", 1, "gone.jpg|does not exist");
     row("no photo at all", "text.jpg", "out/a.mp4", "", 1, "text.jpg|picture");
-    row("empty folder", "empty", "out/a.mp4", "", 1, "empty|no photos");
-    row("unknown format", "broken.json", "out/a.mp4", "", 1, "broken.json|known format");
-    row("missing music", "photo.jpg", "out/a.mp4", "--music gone.ogg", 1, "gone.ogg|not exist");
     row("broken music", "photo.jpg", "out/a.mp4", "--music broken.mp3", 1, "broken.mp3");
     row("no such output folder", "photo.jpg", "nowhere/a.mp4", "", 1, "nowhere|does not exist");
     row("read-only output folder", "photo.jpg", "/proc/a.mp4", "", 1, "/proc|cannot be written");
     row("tiny size", "photo.jpg", "out/a.mp4", "--size 2x2", 2, "2x2|too small");
-    row("wrong suffix", "photo.jpg", "out/a.doc", "", 2, "a.doc|must end in|--help");
     row("wrong option", "photo.jpg", "out/a.mp4", "--quick", 2, "--quick|--help");
     row("document not writable", "photo.jpg", "out/a.mp4", "--dump-project nowhere/p.json", 1,
         "nowhere/p.json|cannot be written");

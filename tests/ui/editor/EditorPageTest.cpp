@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/AppSettings.h"
-#include "project/documents/HistoryStore.h"
-#include "project/documents/ProjectFile.h"
-#include "ui/editor/CreatePanel.h"
-#include "ui/editor/MainWindowWidget.h"
+#include "ui/editor/EditorPage.h"
+#include "project/slides/ProjectItemSimple.h"
 #include "ui/model/ValueLists.h"
 
-#include <QAbstractItemModel>
-#include <QApplication>
+#include <QAction>
+#include <QCheckBox>
+#include <QFileDialog>
 #include <QLineEdit>
-#include <QMessageBox>
+#include <QMenu>
 #include <QSignalSpy>
-#include <QStackedWidget>
-#include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
+#include <QTextEdit>
+#include <QToolButton>
+#include <QUndoStack>
 
 using namespace velmora;
 
@@ -24,178 +20,284 @@ class EditorPageTest : public QObject
     Q_OBJECT
 
 private:
-    template <typename T> T *child(const char *name) const
+    QAction *action(const char *name) const { return m->child<QAction>(name); }
+
+    /// Triggers an entry of the next menu that pops up.
+    void chooseNext(const QString &text)
     {
-        return m_page->findChild<T *>(QLatin1String(name));
-    }
-
-    void click(const char *name) const { QTest::mouseClick(child<QWidget>(name), Qt::LeftButton); }
-
-    const QVector<ProjectItem *> &items() const { return m_project->items(); }
-
-    void addPhotos(int count)
-    {
-        QStringList paths;
-        for (int i = 0; i < count; ++i) {
-            const QString path = m_folder->filePath(QStringLiteral("photo%1.png").arg(i));
-            QImage image(64, 48, QImage::Format_RGB32);
-            image.fill(QColor::fromHsv(i * 40, 200, 200));
-            QVERIFY(image.save(path));
-            paths.append(path);
-        }
-        m_page->onFilesDropped(paths, -1);
-        QTRY_COMPARE(items().size(), count + 1);
-    }
-
-    /// Presses @p button of the next message box and keeps the box's text.
-    void answerNext(QMessageBox::StandardButton button)
-    {
-        m_message.clear();
-        auto *timer = new QTimer(m_page.get());
-        connect(timer, &QTimer::timeout, this, [this, timer, button] {
-            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            if (!box)
+        auto *timer = new QTimer(m->page.get());
+        connect(timer, &QTimer::timeout, this, [timer, text] {
+            auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            if (!menu)
                 return;
             timer->deleteLater();
-            m_message = box->text();
-            box->button(button) ? box->button(button)->click() : box->reject();
+            QList<QAction *> actions = menu->actions();
+            for (const QAction *entry : menu->actions()) {
+                if (entry->menu())
+                    actions += entry->menu()->actions();
+            }
+            for (QAction *entry : qAsConst(actions)) {
+                if (entry->text() == text)
+                    entry->trigger();
+            }
+            menu->close();
         });
         timer->start(10);
     }
 
-    AppSettings m_settings;
-    QString m_message;
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<HistoryStore> m_history;
-    std::unique_ptr<ProjectFile> m_project;
-    std::unique_ptr<MainWindowWidget> m_page;
+    std::unique_ptr<EditorPage> m;
 
 private slots:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        qputenv("VELMORA_DATA_DIR", m_folder->path().toUtf8());
-        m_settings = AppSettings();
-        m_settings.folder = m_folder->path();
-        m_settings.resolution = {640, 480};
-        m_settings.defaultTime = 1;
-        m_settings.transitionTime = 1;
-        m_history = std::make_unique<HistoryStore>(m_folder->filePath(QStringLiteral("h.json")),
-                                                   m_settings);
-        m_project = std::make_unique<ProjectFile>(m_settings, ProjectFile::TitleSlide::Create);
-        m_project->setFormat(QStringLiteral("mp4"));
-        m_page = std::make_unique<MainWindowWidget>(m_settings, *m_history);
-        m_page->setProject(m_project.get());
-        m_page->resize(1200, 800);
-        m_page->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_page.get()));
+        m = std::make_unique<EditorPage>();
+        QVERIFY(m->isShown);
+    }
+    void cleanup() { m.reset(); }
+
+    void droppedFilesFollowTheirRow_data()
+    {
+        QTest::addColumn<int>("newRow");
+        QTest::addColumn<int>("first"); // row of the first of three
+        QTest::newRow("in the middle") << 2 << 3;
+        QTest::newRow("after the title slide") << 0 << 1;
+        QTest::newRow("at the end") << -1 << 5;
     }
 
-    void cleanup()
+    void droppedFilesFollowTheirRow()
     {
-        m_page.reset();
-        m_project.reset();
-        m_history.reset();
+        QFETCH(int, newRow);
+        QFETCH(int, first);
+        m->addPhotos(QStringLiteral("abcd"));
+        const QStringList files = {m->makePhoto(QStringLiteral("z.png")),
+                                   m->makePhoto(QStringLiteral("x.png")),
+                                   m->makePhoto(QStringLiteral("y.png"))};
+        m->page->onFilesDropped(files, newRow);
+        QTRY_COMPARE(m->items().size(), 8);
+        QCOMPARE(m->names().mid(first, 3),
+                 QStringList(
+                     {QStringLiteral("z.png"), QStringLiteral("x.png"), QStringLiteral("y.png")}));
+        QVERIFY(m->page->editor().isModified());
+        QTRY_COMPARE(m->table().selectionModel()->selectedRows().size(), 3);
+    }
+
+    void rowMovesAfterAnother()
+    {
+        m->addPhotos(QStringLiteral("abcd"));
+        m->page->onRowsMoved(1, 3);
+        QCOMPARE(m->names().mid(1).join(QString()), QStringLiteral("b.pngc.pnga.pngd.png"));
+        m->page->onRowsMoved(17, 0);
+        QCOMPARE(m->names().mid(1).join(QString()), QStringLiteral("b.pngc.pnga.pngd.png"));
     }
 
     void buttonsEditTheSelection()
     {
-        addPhotos(3);
-        const QVector<ProjectItem *> before = items();
-        child<QTableView>("tableView")->selectRow(1);
-        click("btnDown");
-        QCOMPARE(items().at(2), before.at(1));
-        click("m_btnRotate");
+        m->addPhotos(QStringLiteral("abc"));
+        const QVector<ProjectItem *> before = m->items();
+        m->select({1});
+        m->click("btnDown");
+        QCOMPARE(m->items().at(2), before.at(1));
+        m->click("m_btnRotate");
+        m->click("m_btnRotate");
+        m->click("btnRotateBack");
         QCOMPARE(before.at(1)->angle(), 90);
         QCOMPARE(before.at(2)->angle(), 0);
-        QTest::keyClick(child<QTableView>("tableView"), Qt::Key_Delete);
-        QCOMPARE(items().size(), 3);
-        QTest::keyClick(m_page.get(), Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(items().size(), 4);
-        click("btnClear");
-        QCOMPARE(items().size(), 1);
-        QVERIFY(!items().first()->isShown());
-        QVERIFY(!child<QPushButton>("btnCreate")->isEnabled());
-        click("btnRestore");
-        QVERIFY(items().first()->isShown());
+        m->click("btnDelete");
+        QCOMPARE(m->items().size(), 3);
+        QTest::keyClick(m->page.get(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(m->items().size(), 4);
+        m->click("btnRedo");
+        QCOMPARE(m->items().size(), 3);
+    }
+
+    void clearedListCanBeRestored()
+    {
+        m->addPhotos(QStringLiteral("ab"));
+        QCoreApplication::processEvents();
+        QCOMPARE(m->child<QPushButton>("btnClear")->text(), QStringLiteral("Clear list (3)"));
+        m->click("btnClear");
+        QCOMPARE(m->items().size(), 1);
+        QVERIFY(!m->items().first()->isShown());
+        QVERIFY(!m->child<QPushButton>("btnCreate")->isEnabled());
+        QTRY_VERIFY(!m->child<QPushButton>("btnClear")->isEnabled());
+        QVERIFY(m->child<QWidget>("emptyHint")->isVisible());
+        m->click("btnRestore");
+        QVERIFY(m->items().first()->isShown());
+        m->click("btnUndo");
+        m->click("btnUndo");
+        QCOMPARE(m->items().size(), 3);
+        QTRY_VERIFY(!m->child<QWidget>("emptyHint")->isVisible());
+    }
+
+    void keysEditTheSelection_data()
+    {
+        QTest::addColumn<QString>("actionName");
+        QTest::addColumn<QString>("order");
+        QTest::newRow("up") << QStringLiteral("actUp") << QStringLiteral("bcad");
+        QTest::newRow("down") << QStringLiteral("actDown") << QStringLiteral("adbc");
+        QTest::newRow("delete") << QStringLiteral("actDelete") << QStringLiteral("ad");
+    }
+
+    void keysEditTheSelection()
+    {
+        QFETCH(QString, actionName);
+        QFETCH(QString, order);
+        m->addPhotos(QStringLiteral("abcd"));
+        m->select({2, 3});
+        const QAction *key = m->page->findChild<QAction *>(actionName);
+        const int code = key->shortcut()[0];
+        QTest::keyClick(&m->table(), static_cast<Qt::Key>(code & ~int(Qt::KeyboardModifierMask)),
+                        Qt::KeyboardModifiers(code & int(Qt::KeyboardModifierMask)));
+        QString letters;
+        for (const QString &name : m->names().mid(1))
+            letters += name.left(1);
+        QCOMPARE(letters, order);
+    }
+
+    void everyActionTellsItsKey()
+    {
+        const QList<QAction *> actions =
+            m->page->findChildren<QAction *>(QRegularExpression(QStringLiteral("^act(?!Preview)")));
+        QVERIFY(actions.size() > 12);
+        QSet<QString> keys;
+        for (const QAction *one : actions) {
+            const QString key = one->shortcut().toString(QKeySequence::NativeText);
+            QVERIFY2(!key.isEmpty() &&
+                         one->toolTip().endsWith(QLatin1Char('(') + key + QLatin1Char(')')),
+                     qPrintable(one->objectName()));
+            QVERIFY2(!keys.contains(key), qPrintable(key));
+            keys.insert(key);
+        }
+        for (const char *name : {"btnUp", "btnSort", "btnShufle", "m_btnRotate", "btnUndo"})
+            QVERIFY2(m->child<QToolButton>(name)->toolTip().endsWith(QLatin1Char(')')), name);
+    }
+
+    void undoTellsItsStep()
+    {
+        m->addPhotos(QStringLiteral("a"));
+        QCOMPARE(m->child<QToolButton>("btnUndo")->toolTip(),
+                 QStringLiteral("Undo: Add photos (Ctrl+Z)"));
+        m->click("btnUndo");
+        QCOMPARE(m->child<QToolButton>("btnRedo")->toolTip(),
+                 QStringLiteral("Redo: Add photos (Ctrl+Y)"));
+        QVERIFY(!m->child<QToolButton>("btnUndo")->isEnabled());
     }
 
     void changeAllSetsEverySlide()
     {
-        addPhotos(2);
-        emit child<QPopupButton>("btnDefaultTime")->valueSelected(7);
-        for (const ProjectItem *slide : items())
+        m->addPhotos(QStringLiteral("ab"));
+        emit m->child<QPopupButton>("btnDefaultTime")->valueSelected(7);
+        emit m->child<QPopupButton>("btnDefaultTransition")->valueSelected(27);
+        for (const ProjectItem *slide : m->items()) {
             QCOMPARE(slide->time(), 7);
+            if (const auto *photo = qobject_cast<const ProjectItemSimple *>(slide))
+                QCOMPARE(photo->transition(), 27);
+        }
         const qint64 length = (3 * 7 + 2 * 1 + 1) * 1000; // the title's caption appears for 1 s
-        QVERIFY(child<QPushButton>("btnTotal")->text().endsWith(ValueLists::durationText(length)));
+        QTRY_VERIFY(
+            m->child<QPushButton>("btnTotal")->text().endsWith(ValueLists::durationText(length)));
+        m->page->editor().setTime({m->items().at(1)}, 2);
+        QTRY_COMPARE(m->child<QPopupButton>("btnDefaultTime")->text(), QStringLiteral("Various"));
+        QCOMPARE(m->child<QPopupButton>("btnDefaultTransition")->text(),
+                 QStringLiteral("Cross fade"));
     }
 
-    void forbiddenNameStartsNothing()
+    void settingsAreWritten()
     {
-        QSignalSpy started(m_page.get(), &MainWindowWidget::progressStarted);
-        child<QLineEdit>("txtProjName")->setText(QStringLiteral("a:b"));
-        answerNext(QMessageBox::Ok);
-        click("btnCreate");
-        QCOMPARE(m_message, QStringLiteral("Project name should not contain any of these symbols: "
-                                           "*:[]{}\\/!"));
-        QCOMPARE(started.count(), 0);
+        emit m->child<QPopupButton>("btnOutResolution")->valueSelected(QSize(1280, 1024));
+        emit m->child<QPopupButton>("btnTransitionDuration")->valueSelected(3);
+        for (const char *name : {"chkScaleToFit", "chkOrigRatio"})
+            QTest::keyClick(m->child<QCheckBox>(name), Qt::Key_Space);
+        QCOMPARE(m->project->resolution(), QSize(1280, 1024));
+        QCOMPARE(m->settings.transitionTime, 3);
+        QVERIFY(!m->project->scaleToFit());
+        QVERIFY(!m->project->origRatio());
+        for (int i = 0; i < 4; ++i)
+            m->click("btnUndo");
+        QCOMPARE(m->child<QPopupButton>("btnOutResolution")->text(), QStringLiteral("640x480"));
+        QVERIFY(m->child<QCheckBox>("chkOrigRatio")->isChecked());
     }
 
-    void createMakesTheVideo()
+    void contextMenuSetsAllSelected()
     {
-        addPhotos(1);
-        QSignalSpy finished(m_page.get(), &MainWindowWidget::finished);
-        QSignalSpy ended(m_page.get(), &MainWindowWidget::progressFinished);
-        child<QLineEdit>("txtProjName")->setText(QStringLiteral("video!"));
-        click("btnCreate");
-        QCOMPARE(child<QStackedWidget>("tcCreate")->currentIndex(), 1);
-        QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, 120000);
-        QCOMPARE(finished.count(), 1);
-        const QString file = m_folder->filePath(QStringLiteral("video!.mp4"));
-        QVERIFY(QFileInfo(file).size() > 1000);
-        QCOMPARE(m_history->projects().size(), std::size_t(1));
-        QCOMPARE(m_history->projects().front()->fileName(), file);
-        QCOMPARE(child<QStackedWidget>("tcCreate")->currentIndex(), 0);
+        m->addPhotos(QStringLiteral("abc"));
+        m->select({1, 3});
+        chooseNext(QStringLiteral("15 sec"));
+        const QPoint place = m->table().visualRect(m->table().model()->index(1, 0)).center();
+        emit m->table().customContextMenuRequested(place);
+        QCOMPARE(m->items().at(1)->time(), 15);
+        QCOMPARE(m->items().at(2)->time(), 1);
+        QCOMPARE(m->items().at(3)->time(), 15);
     }
 
-    void existingVideoIsKeptOnNo()
+    void captionIsEditedOnItsOwnPage()
     {
-        addPhotos(1);
-        QFile file(m_folder->filePath(QStringLiteral("old.mp4")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.close();
-        QSignalSpy started(m_page.get(), &MainWindowWidget::progressStarted);
-        child<QLineEdit>("txtProjName")->setText(QStringLiteral("old"));
-        answerNext(QMessageBox::No);
-        click("btnCreate");
-        QVERIFY(!m_message.isEmpty());
-        QCOMPARE(started.count(), 0);
+        m->addPhotos(QStringLiteral("ab"));
+        QSignalSpy began(m->page.get(), &MainWindowWidget::textEditingBegan);
+        QSignalSpy ended(m->page.get(), &MainWindowWidget::textEditingFinished);
+        m->select({2});
+        QTest::keyClick(&m->table(), Qt::Key_F2);
+        QCOMPARE(began.size(), 1);
+        QCOMPARE(began.first().first().toInt(), 3);
+        QVERIFY(m->child<QWidget>("pageText")->isVisible());
+        QVERIFY(!m->child<QWidget>("editorSide")->isVisible());
+        QVERIFY(!action("actUndo")->isEnabled());
+        QTest::keyClicks(m->child<QTextEdit>("teProjectItemText"), QStringLiteral("Hello"));
+        QVERIFY(m->page->hasUnsavedText());
+        m->click("butSaveText");
+        QCOMPARE(ended.size(), 1);
+        QCOMPARE(m->items().at(2)->caption().text, QStringLiteral("Hello"));
+        QVERIFY(m->table().isVisible());
+        QVERIFY(m->table().hasFocus());
+        QCOMPARE(m->table().model()->index(2, SlideTableModel::TextColumn).data().toString(),
+                 QStringLiteral("Hello"));
+        m->click("btnUndo");
+        QVERIFY(m->items().at(2)->caption().text.isEmpty());
     }
 
-    void cancelReturnsToTheSetup()
+    void cancelledCaptionChangesNothing()
     {
-        addPhotos(2);
-        QSignalSpy ended(m_page.get(), &MainWindowWidget::progressFinished);
-        click("btnCreate");
-        click("btnPauseResume");
-        QVERIFY(m_page->createPanel().composer().isPaused());
-        click("btnCancel");
-        QCOMPARE(ended.count(), 1);
-        QCOMPARE(child<QStackedWidget>("tcCreate")->currentIndex(), 0);
-        QTRY_VERIFY_WITH_TIMEOUT(!m_page->createPanel().composer().isRunning(), 30000);
-        QCOMPARE(m_history->projects().size(), std::size_t(0));
+        m->addPhotos(QStringLiteral("a"));
+        m->select({1});
+        const int steps = m->page->editor().undoStack()->count();
+        action("actCaption")->trigger();
+        m->child<QTextEdit>("teProjectItemText")->setPlainText(QStringLiteral("Hello"));
+        m->click("butCancelText");
+        QVERIFY(!m->page->isEditingText());
+        QCOMPARE(m->page->editor().undoStack()->count(), steps);
+        action("actCaptionOfAll")->trigger();
+        QVERIFY(m->page->isEditingText());
+        m->page->setProject(nullptr);
+        QVERIFY(!m->page->isEditingText());
     }
 
-    void failureIsTold()
+    void missingPhotosAreRelocatedTogether()
     {
-        QSignalSpy ended(m_page.get(), &MainWindowWidget::progressFinished);
-        QSignalSpy finished(m_page.get(), &MainWindowWidget::finished);
-        m_page->createPanel().composer().setProgram(m_folder->filePath(QStringLiteral("none")));
-        answerNext(QMessageBox::Close);
-        click("btnCreate");
-        QTRY_COMPARE(ended.count(), 1);
-        QCOMPARE(m_message, QStringLiteral("Creation error"));
-        QCOMPARE(finished.count(), 0);
+        m->addPhotos(QStringLiteral("abc"));
+        QVERIFY(QDir().mkpath(m->path("moved")));
+        for (const char *name : {"a.png", "b.png"})
+            QVERIFY(QFile::rename(m->path(name), m->path("moved/") + QLatin1String(name)));
+        m->table().slides()->checkFiles();
+        const QModelIndex missing = m->table().model()->index(1, 0);
+        QTRY_VERIFY(missing.data(SlideTableModel::MissingRole).toBool());
+        m->select({1});
+        QTimer::singleShot(0, this, [this] {
+            QTRY_VERIFY(qobject_cast<QFileDialog *>(QApplication::activeModalWidget()));
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            dialog->selectFile(m->path("moved/a.png"));
+            QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection);
+        });
+        action("actRelocate")->trigger();
+        const auto file = [this](int row) {
+            return qobject_cast<ProjectItemSimple *>(m->items().at(row))->fileName();
+        };
+        QCOMPARE(file(1), m->path("moved/a.png"));
+        QCOMPARE(file(2), m->path("moved/b.png"));
+        QCOMPARE(file(3), m->path("c.png"));
+        QTRY_VERIFY(!missing.data(SlideTableModel::MissingRole).toBool());
+        m->click("btnUndo");
+        QCOMPARE(file(1), m->path("a.png"));
+        QCOMPARE(file(2), m->path("b.png"));
     }
 };
 

@@ -5,10 +5,8 @@
 #include "project/slides/ProjectItemFirst.h"
 #include "project/slides/ProjectItemSimple.h"
 #include "ui/model/PhotoImporter.h"
-#include "ui/model/SlideTableModel.h"
 #include "ui/model/ValueLists.h"
 
-#include <QAbstractItemModelTester>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -20,6 +18,7 @@ using namespace velmora;
 
 using Edit = std::function<void(ProjectEditor &, const ProjectEditor::Slides &)>;
 Q_DECLARE_METATYPE(Edit)
+Q_DECLARE_METATYPE(velmora::QPopupButton::Values)
 
 class ProjectEditorTest : public QObject
 {
@@ -166,39 +165,6 @@ private slots:
         QCOMPARE(m_project->items(), (ProjectEditor::Slides{s[0], s[2], s[1], s[4], s[3]}));
     }
 
-    void modelFollowsEveryChange()
-    {
-        SlideTableModel model(*m_editor);
-        const QAbstractItemModelTester tester(
-            &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        QCOMPARE(model.rowCount(), 5);
-        QVERIFY(model.setData(model.index(2, SlideTableModel::TimeColumn), 10, Qt::EditRole));
-        QCOMPARE(model.index(2, SlideTableModel::TimeColumn).data().toString(),
-                 QStringLiteral("10 sec"));
-        QVERIFY(!model.setData(model.index(0, SlideTableModel::TransitionColumn), 2, Qt::EditRole));
-        QVERIFY(model.index(1, 0).data(SlideTableModel::MissingRole).toBool());
-        m_editor->removeSlides({m_project->items().at(1)});
-        QCOMPARE(model.rowCount(), 4);
-        m_editor->undoStack()->undo();
-        QCOMPARE(model.rowCount(), 5);
-    }
-
-    void thumbnailsArriveLater()
-    {
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("red.png"));
-        QImage image(200, 100, QImage::Format_RGB32);
-        image.fill(Qt::red);
-        QVERIFY(image.save(path));
-        SlideTableModel model(*m_editor);
-        m_editor->addPhotos({path}, -1);
-        const QModelIndex index = model.index(5, 0);
-        QVERIFY(index.data(Qt::DecorationRole).value<QImage>().isNull());
-        QTRY_VERIFY(!index.data(Qt::DecorationRole).value<QImage>().isNull());
-        QCOMPARE(index.data(Qt::DecorationRole).value<QImage>().pixelColor(31, 31),
-                 QColor(Qt::red));
-    }
-
     void importFindsPhotosAndTellsWhatItRefuses()
     {
         const QTemporaryDir folder;
@@ -240,12 +206,55 @@ private slots:
         QVERIFY(!result.cancelled);
     }
 
-    void durationsAndLists()
+    void valueListsAreComplete_data()
+    {
+        QTest::addColumn<QPopupButton::Values>("values");
+        QTest::addColumn<QString>("texts");
+        QTest::newRow("times") << ValueLists::slideTimes()
+                               << QStringLiteral("1 sec,2 sec,3 sec,4 sec,5 sec,7 sec,10 sec,"
+                                                 "15 sec,20 sec");
+        QTest::newRow("transition lengths")
+            << ValueLists::transitionLengths() << QStringLiteral("1 sec,2 sec,3 sec");
+        QTest::newRow("fades") << ValueLists::fades()
+                               << QStringLiteral("0 sec,1 sec,2 sec,3 sec,4 sec,5 sec");
+        QTest::newRow("offsets") << ValueLists::offsets()
+                                 << QStringLiteral("-10 sec,-7 sec,-5 sec,-4 sec,-3 sec,-2 sec,"
+                                                   "-1 sec,0 sec,1 sec,2 sec,3 sec,4 sec,5 sec,"
+                                                   "7 sec,10 sec");
+        QTest::newRow("resolutions")
+            << ValueLists::resolutions()
+            << QStringLiteral("640x480,800x600,960x540,1024x768,1280x1024,1366x768,1600x900,"
+                              "1600x1200,1920x1080,2560x1440,3840x2160");
+        QTest::newRow("formats") << ValueLists::formats() << QStringLiteral(".mp4,.avi,.mov,.webm");
+    }
+
+    void valueListsAreComplete()
+    {
+        QFETCH(QPopupButton::Values, values);
+        QFETCH(QString, texts);
+        QStringList shown;
+        for (const auto &value : values)
+            shown.append(value.first);
+        QCOMPARE(shown.join(QLatin1Char(',')), texts);
+    }
+
+    void transitionsStandInMenuOrder()
+    {
+        QVector<int> expected = {0, 1, 27, 26, 28};
+        for (int type = 2; type <= 25; ++type)
+            expected.append(type);
+        QVector<int> types;
+        for (const auto &value : ValueLists::transitions())
+            types.append(value.second.toInt());
+        QCOMPARE(types, expected);
+        QCOMPARE(ValueLists::transitions().at(2).first, QStringLiteral("Cross fade"));
+        QCOMPARE(ValueLists::transitions().last().first, QStringLiteral("Slide From Top Left"));
+    }
+
+    void durationsAreTexts()
     {
         QCOMPARE(ValueLists::durationText(3725999), QStringLiteral("1:02:05"));
-        QCOMPARE(ValueLists::transitions().at(2).second.toInt(), 27);
-        QCOMPARE(ValueLists::formats().first().first, QStringLiteral(".mp4"));
-        QCOMPARE(ValueLists::resolutions().size(), 11);
+        QCOMPARE(ValueLists::durationText(-5), QStringLiteral("0:00:00"));
     }
 };
 

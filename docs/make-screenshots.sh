@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Makes the pictures in docs/screenshots anew, from the bundled photos: run it after a change that
+# can be seen, and look at what it made. Needs the preset "dev" to be built, xvfb-run and pngquant.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+bin=build/${1:-dev}/bin
+folder=docs/screenshots
+mkdir -p "$folder"
+export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
+screen=(xvfb-run -a -s "-screen 0 1600x1000x24")
+"${screen[@]}" "$bin/editorgallery" "$folder" en examples/photos/*.jpg
+"${screen[@]}" "$bin/sharinggallery" "$folder" examples/photos/*.jpg
+if command -v pngquant >/dev/null; then
+    pngquant --force --skip-if-larger --ext .png "$folder"/*.png || true
+fi

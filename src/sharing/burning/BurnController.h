@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/DiscWriter.h"
+#include "sharing/burning/BurnJob.h"
+
+#include <QElapsedTimer>
+#include <QFutureWatcher>
+#include <QObject>
+#include <QTimer>
+#include <QVector>
+
+#include <memory>
+
+namespace velmora
+{
+
+class WriteThread;
+
+/// A drive and what lay in it when it was last looked at.
+struct BurnDevice {
+    DiscRecorder recorder;
+    DiscMedia media;
+};
+
+/// Knows the drives and runs one burn at a time. Drives are asked on threads of a pool, since they
+/// may take their time. GUI thread.
+class BurnController : public QObject
+{
+    Q_OBJECT
+public:
+    explicit BurnController(std::unique_ptr<DiscWriter> writer, QObject *parent = nullptr);
+    /// Ends a running burn and waits for it.
+    ~BurnController() override;
+
+    const QVector<BurnDevice> &devices() const { return m_devices; }
+    bool isBurning() const { return m_thread != nullptr; }
+
+    /// Looks for drives; devicesChanged() follows.
+    void findDevices();
+    /// Looks at the disc in one of devices() anew; mediaChecked() follows.
+    void checkMedia(int index);
+    /// Starts a burn, unless one runs; burnFinished() follows.
+    void burn(const BurnJob &job);
+    /// Ends the burn early, as a failure.
+    void cancel();
+
+signals:
+    void devicesChanged();
+    void mediaChecked(const DiscMedia &media);
+    void burnProgress(int percentFinished);
+    void burnFinished(bool succeeded);
+    void elapsedTime(const QString &time); ///< Minutes and seconds, once a second.
+
+private:
+    void onProgress(int current, int total);
+    void onThreadFinished();
+
+    std::unique_ptr<DiscWriter> m_writer;
+    QVector<BurnDevice> m_devices;
+    QFutureWatcher<QVector<BurnDevice>> m_search;
+    QFutureWatcher<DiscMedia> m_check;
+    int m_checked = -1; ///< The device that m_check looks at.
+    WriteThread *m_thread = nullptr;
+    QTimer m_timer;
+    QElapsedTimer m_elapsed;
+    int m_percent = -1;
+};
+
+} // namespace velmora

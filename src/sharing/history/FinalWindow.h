@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "chrome/CorDialog.h"
+
+#include <QString>
+
+namespace velmora
+{
+
+class FileManager;
+
+/// Shown when a video is finished: offers what can be done with it, and closes with any choice but
+/// a folder that cannot be shown. GUI thread.
+class FinalWindow : public CorDialog
+{
+    Q_OBJECT
+public:
+    /// @p fileManager must outlive the window.
+    FinalWindow(const QString &video, FileManager &fileManager, QWidget *parent = nullptr);
+
+signals:
+    /// The video shall be uploaded to "youtube", "googledrive" or "dropbox". After closing.
+    void uploadService(const QString &serviceKey);
+    void burnDvd(); ///< The video shall be burnt. After closing.
+
+private:
+    void openFolder();
+
+    const QString m_video;
+    FileManager &m_fileManager;
+};
+
+} // namespace velmora

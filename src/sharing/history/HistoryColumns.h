@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace velmora
+{
+
+/// The columns that the rows of the history share with the header above them, in px.
+namespace HistoryColumns
+{
+
+constexpr int Margin = 16;
+constexpr int Gap = 16;
+constexpr int RowHeight = 72;
+constexpr int PictureWidth = 80;
+constexpr int PictureHeight = 54;
+constexpr int Date = 96;
+constexpr int Resolution = 92;
+constexpr int Duration = 84;
+constexpr int Size = 84;
+constexpr int Action = 156;
+
+} // namespace HistoryColumns
+
+} // namespace velmora

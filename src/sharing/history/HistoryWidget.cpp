@@ -1,0 +1,320 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sharing/history/HistoryWidget.h"
+
+#include "chrome/MessageDialog.h"
+#include "chrome/Theme.h"
+#include "project/documents/HistoryStore.h"
+#include "sharing/SharingLog.h"
+#include "sharing/history/HistoryModel.h"
+#include "sharing/history/HistoryRemoval.h"
+#include "sharing/history/HistoryRowWidget.h"
+#include "sharing/history/UploadServiceMenu.h"
+#include "sharing/upload/UploadController.h"
+#include "ui_HistoryWidget.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QUrl>
+
+namespace velmora
+{
+
+HistoryWidget::HistoryWidget(HistoryStore &history, const AppSettings &settings, QWidget *parent)
+    : QWidget(parent), m_history(history), m_ui(std::make_unique<Ui::HistoryWidget>()),
+      m_model(new HistoryModel(history, settings, this)),
+      m_removal(std::make_unique<HistoryRemoval>(history))
+{
+    m_ui->setupUi(this);
+    setUpList();
+    setUpPages();
+    setUpUndoBar();
+    m_timer.setInterval(1000);
+    connect(&m_timer, &QTimer::timeout, this, &HistoryWidget::showElapsed);
+    reload();
+}
+
+HistoryWidget::~HistoryWidget() = default;
+
+void HistoryWidget::setUpList()
+{
+    HistoryListView *list = m_ui->listHistory;
+    list->setHistory(m_model);
+    connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &HistoryWidget::onSelectionChanged);
+    connect(list, &QAbstractItemView::doubleClicked, this, &HistoryWidget::onRowDoubleClicked);
+    connect(list, &HistoryListView::openProject, this, &HistoryWidget::openProject);
+    connect(list, &HistoryListView::previewProject, this, &HistoryWidget::playVideo);
+    connect(list, &HistoryListView::deleteProject, this, &HistoryWidget::onDeleteProject);
+    connect(list, &HistoryListView::burnProject, this, &HistoryWidget::onBurnProject);
+    connect(m_model, &QAbstractItemModel::dataChanged, this, &HistoryWidget::updateButtons);
+    connect(m_ui->header, &HistoryHeader::dateClicked, this, &HistoryWidget::onBtnDateClicked);
+    connect(m_ui->header, &HistoryHeader::fileNameClicked, this,
+            &HistoryWidget::onBtnFileNameClicked);
+}
+
+void HistoryWidget::setUpPages()
+{
+    connect(m_ui->btnUpload, &QPushButton::clicked, this, &HistoryWidget::onButtonUploadClicked);
+    connect(m_ui->btnCancelWaiting, &QPushButton::clicked, this,
+            &HistoryWidget::on_btnCancel_clicked);
+    m_ui->btnClearHistory->setIcon(Theme::icon(QStringLiteral("clear")));
+    m_ui->btnResumeProject->setIcon(Theme::icon(QStringLiteral("edit")));
+    m_ui->btnBurn->setIcon(Theme::icon(QStringLiteral("disc")));
+    m_ui->btnUpload->setIcon(Theme::icon(QStringLiteral("burgerdrop")));
+    m_ui->lblUploadPicture->setPixmap(Theme::icon(QStringLiteral("upload")).pixmap(48, 48));
+    m_ui->lblWaitingPicture->setPixmap(
+        Theme::icon(QStringLiteral("oauth2_not_connected")).pixmap(96, 96));
+    m_ui->pages->setCurrentWidget(m_ui->pgHistory);
+}
+
+void HistoryWidget::setUpUndoBar()
+{
+    m_ui->undoBar->hide();
+    m_ui->btnCloseUndo->setIcon(Theme::icon(QStringLiteral("close")));
+    connect(m_ui->btnUndo, &QPushButton::clicked, this, &HistoryWidget::undoRemoval);
+    connect(m_ui->btnCloseUndo, &QToolButton::clicked, this, [this] {
+        m_removal->forget();
+        m_ui->undoBar->hide();
+    });
+}
+
+void HistoryWidget::setUploads(UploadController *uploads)
+{
+    if (m_uploads)
+        m_uploads->disconnect(this);
+    m_uploads = uploads;
+    if (!uploads)
+        return;
+    connect(uploads, &UploadController::signInStarted, this, &HistoryWidget::onSignInStarted);
+    connect(uploads, &UploadController::started, this, &HistoryWidget::onUploadStarted);
+    connect(uploads, &UploadController::progress, this, &HistoryWidget::uploadProgress);
+    connect(uploads, &UploadController::finished, this, &HistoryWidget::onUploadFinished);
+    connect(uploads, &UploadController::failed, this, &HistoryWidget::onUploadFailed);
+    connect(uploads, &UploadController::canceled, this, &HistoryWidget::onUploadCanceled);
+}
+
+const ProjectFile *HistoryWidget::selectedProject() const
+{
+    const QModelIndexList selected = m_ui->listHistory->selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? nullptr : m_model->project(selected.first().row());
+}
+
+QString HistoryWidget::selectedFile() const
+{
+    const ProjectFile *project = selectedProject();
+    return project ? project->fileName() : QString();
+}
+
+bool HistoryWidget::select(const ProjectFile *entry)
+{
+    const int row = m_model->rowOf(entry);
+    if (row < 0)
+        return false;
+    const QModelIndex index = m_model->index(row);
+    m_ui->listHistory->setCurrentIndex(index);
+    m_ui->listHistory->scrollTo(index);
+    return true;
+}
+
+bool HistoryWidget::select(const QString &fileName)
+{
+    return select(m_model->project(m_model->rowOf(fileName)));
+}
+
+void HistoryWidget::reload()
+{
+    const QModelIndex current = m_ui->listHistory->currentIndex();
+    const ProjectFile *selected = selectedProject();
+    m_model->reload();
+    if (!select(selected) && m_model->rowCount() > 0)
+        select(m_model->project(qBound(0, current.row(), m_model->rowCount() - 1)));
+    showSortArrow();
+    updateButtons();
+}
+
+void HistoryWidget::showSortArrow()
+{
+    m_ui->header->showArrow(m_model->sortKey() == HistoryModel::Key::Date, m_model->isAscending());
+}
+
+void HistoryWidget::onSelectionChanged(const QItemSelection &, const QItemSelection &)
+{
+    updateButtons();
+}
+
+void HistoryWidget::updateButtons()
+{
+    const QModelIndexList selected = m_ui->listHistory->selectionModel()->selectedIndexes();
+    const HistoryEntry entry =
+        selected.isEmpty() ? HistoryEntry() : m_model->entry(selected.first().row());
+    const bool video = entry.project && (!entry.facts.known || entry.facts.exists);
+    m_ui->btnResumeProject->setEnabled(entry.project);
+    m_ui->btnUpload->setEnabled(video);
+    m_ui->btnBurn->setEnabled(video);
+    m_ui->btnClearHistory->setEnabled(m_model->rowCount() > 0);
+}
+
+void HistoryWidget::onBtnDateClicked()
+{
+    m_model->sortBy(HistoryModel::Key::Date);
+    showSortArrow();
+}
+
+void HistoryWidget::onBtnFileNameClicked()
+{
+    m_model->sortBy(HistoryModel::Key::FileName);
+    showSortArrow();
+}
+
+void HistoryWidget::onRowDoubleClicked(const QModelIndex &index)
+{
+    playVideo(m_model->entry(index.row()).fileName);
+}
+
+void HistoryWidget::playVideo(const QString &fileName)
+{
+    const QString path = QDir::toNativeSeparators(fileName);
+    if (!QFileInfo(fileName).isFile())
+        MessageDialog::inform(this, tr("Open file Error"), tr("File '%1' not found").arg(path));
+    else if (!QDesktopServices::openUrl(QUrl::fromLocalFile(fileName)))
+        MessageDialog::inform(this, tr("Open file Error"),
+                              tr("There is no program to play the file '%1'.").arg(path));
+}
+
+void HistoryWidget::keyPressEvent(QKeyEvent *event)
+{
+    const bool list = m_ui->pages->currentWidget() == m_ui->pgHistory && selectedProject();
+    if (list && event->key() == Qt::Key_Delete)
+        onDeleteProject(selectedFile());
+    else if (list && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        playVideo(selectedFile());
+    else if (m_removal->canUndo() && event->matches(QKeySequence::Undo))
+        undoRemoval();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void HistoryWidget::onDeleteProject(const QString &fileName)
+{
+    const ProjectFile *project = selectedProject();
+    if (!project || project->fileName() != fileName)
+        project = m_model->project(m_model->rowOf(fileName));
+    if (!project)
+        return;
+    MessageDialog::Message message;
+    message.kind = MessageDialog::Kind::Question;
+    message.title = tr("Remove from the history");
+    message.text = tr("Remove \"%1\" from the history?").arg(QFileInfo(fileName).fileName());
+    if (QFileInfo(fileName).isFile())
+        message.checkText = tr("Also move the video file to the trash");
+    message.buttons = QStringList{tr("REMOVE"), tr("CANCEL")};
+    message.dangerous = true;
+    const MessageDialog::Answer answer = MessageDialog::ask(this, message);
+    if (answer.button == 0)
+        remove({project}, answer.checked);
+}
+
+void HistoryWidget::on_btnClearHistory_clicked()
+{
+    MessageDialog::Message message;
+    message.kind = MessageDialog::Kind::Question;
+    message.title = tr("Clear the history");
+    message.text = tr("Remove all %n video(s) from the history?", nullptr, m_model->rowCount());
+    message.checkText = tr("Also move the video files to the trash");
+    message.buttons = QStringList{tr("REMOVE ALL"), tr("CANCEL")};
+    message.dangerous = true;
+    const MessageDialog::Answer answer = MessageDialog::ask(this, message);
+    if (answer.button != 0)
+        return;
+    QVector<const ProjectFile *> all;
+    for (const auto &project : m_history.projects())
+        all.append(project.get());
+    remove(all, answer.checked);
+}
+
+void HistoryWidget::remove(const QVector<const ProjectFile *> &projects, bool trashVideos)
+{
+    QString error;
+    const auto videos = trashVideos ? HistoryRemoval::Videos::Trash : HistoryRemoval::Videos::Keep;
+    const bool removed = m_removal->remove(projects, videos, &error);
+    reload();
+    m_ui->undoBar->setVisible(removed);
+    if (!removed) {
+        tellFailure(error);
+        return;
+    }
+    showUndoBar(m_removal->count());
+    if (!m_removal->keptVideos().isEmpty())
+        MessageDialog::inform(this, tr("Remove from the history"),
+                              tr("Some video files could not be moved to the trash. They are where "
+                                 "they were."));
+}
+
+void HistoryWidget::showUndoBar(int count)
+{
+    m_ui->lblUndo->setText(tr("%n video(s) removed from the history.", nullptr, count));
+    m_ui->btnUndo->setFocus();
+}
+
+void HistoryWidget::undoRemoval()
+{
+    QString error;
+    if (!m_removal->canUndo())
+        return;
+    if (m_removal->undo(&error))
+        m_ui->undoBar->hide();
+    else
+        tellFailure(error);
+    reload();
+    m_ui->listHistory->setFocus();
+}
+
+void HistoryWidget::tellFailure(const QString &error)
+{
+    MessageDialog::inform(this, tr("History"),
+                          tr("The history could not be changed: %1").arg(error));
+}
+
+void HistoryWidget::on_btnResumeProject_clicked()
+{
+    if (selectedProject())
+        emit openProject(selectedFile());
+}
+
+void HistoryWidget::on_btnBurn_clicked()
+{
+    if (const ProjectFile *project = selectedProject())
+        onBurnProject(project->fileName(), starterText(*project));
+}
+
+void HistoryWidget::onBurnProject(const QString &fileName, const QString &diskTitle)
+{
+    emit burnDvd(diskTitle, fileName);
+}
+
+void HistoryWidget::onButtonUploadClicked()
+{
+    auto *menu = new UploadServiceMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    connect(menu, &UploadServiceMenu::uploadService, this, &HistoryWidget::uploadClicked);
+    menu->popUp(*m_ui->btnUpload);
+}
+
+void HistoryWidget::on_btnUpload_Youtube()
+{
+    emit uploadClicked(QStringLiteral("youtube"));
+}
+
+void HistoryWidget::on_btnUpload_Dropbox()
+{
+    emit uploadClicked(QStringLiteral("dropbox"));
+}
+
+void HistoryWidget::on_btnUpload_GoogleDrive()
+{
+    emit uploadClicked(QStringLiteral("googledrive"));
+}
+
+} // namespace velmora

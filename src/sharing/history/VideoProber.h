@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "sharing/history/VideoFacts.h"
+
+#include <QHash>
+#include <QObject>
+#include <QSet>
+#include <QStringList>
+#include <QThreadPool>
+
+namespace velmora
+{
+
+/// Learns about video files on a thread of its own, and keeps what it has learnt until the file
+/// changes. GUI thread.
+class VideoProber : public QObject
+{
+    Q_OBJECT
+public:
+    explicit VideoProber(QObject *parent = nullptr);
+    /// Waits for the file in work.
+    ~VideoProber() override;
+
+    /// Looks for all files; looked() follows.
+    void look(const QStringList &fileNames);
+    /// Reads a video's duration; probed() follows, unless that was asked for before.
+    void probe(const QString &fileName);
+    /// The duration found by probe() for the file as @p facts describe it; -1 as long as there is
+    /// none.
+    qint64 duration(const QString &fileName, const VideoFacts &facts) const;
+
+signals:
+    void looked(const QHash<QString, VideoFacts> &facts);
+    void probed(const QString &fileName);
+
+private:
+    struct Probe {
+        VideoFacts facts;
+        qint64 duration = 0;
+    };
+
+    void onProbed(const QString &fileName, const VideoFacts &facts, qint64 duration);
+
+    QThreadPool m_pool;
+    QHash<QString, Probe> m_probes;
+    QSet<QString> m_asked;
+};
+
+} // namespace velmora

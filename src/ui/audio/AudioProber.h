@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+#include <QThreadPool>
+#include <QVector>
+
+#include <atomic>
+#include <functional>
+
+namespace velmora
+{
+
+/// The music that was found under the paths of one request.
+struct AudioImport {
+    struct Track {
+        QString path; ///< Absolute.
+        qint64 milliseconds;
+    };
+    QVector<Track> tracks; ///< In the order of the paths.
+    QStringList refused;   ///< As given, or found in a folder.
+    int row = -1;          ///< As given to add().
+};
+
+/// The length of a sound file in ms; -1 when it cannot be used as music. Any thread but the GUI's:
+/// reads the file.
+qint64 soundDuration(const QString &path);
+
+/// Looks at sound files on a thread of its own, one after another in the order of the requests.
+/// GUI thread.
+class AudioProber : public QObject
+{
+    Q_OBJECT
+public:
+    explicit AudioProber(QObject *parent = nullptr);
+    /// Cancels and waits for the file in work.
+    ~AudioProber() override;
+
+    /// Files are taken in the order given; folders with their subfolders and in natural order, only
+    /// files with the suffixes of music. Ends with found().
+    void add(const QStringList &paths, int row);
+    /// Ends with measured(). Waits for the paths of add().
+    void measure(const QString &path);
+    /// Drops all requests; nothing more is told of them.
+    void cancel();
+    bool isAdding() const { return m_adding > 0; }
+
+signals:
+    void progress(int looked); ///< Files of the current add() that were looked at so far.
+    void found(const velmora::AudioImport &import);
+    void measured(const QString &path, qint64 milliseconds); ///< -1: unreadable.
+
+private:
+    class Search;
+
+    void run(int priority, const std::function<void(int generation)> &work);
+    /// From the working thread: calls @p tell on the GUI thread unless it was cancelled meanwhile.
+    void post(int generation, const std::function<void()> &tell);
+
+    QThreadPool m_pool;
+    std::atomic_int m_generation{0};
+    int m_adding = 0;
+};
+
+} // namespace velmora

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/editor/PhotoImports.h"
+
+#include "chrome/MessageDialog.h"
+#include "ui/editor/BusyNote.h"
+#include "ui/model/ProjectEditor.h"
+
+#include <QDir>
+
+namespace velmora
+{
+
+PhotoImports::PhotoImports(ProjectEditor &editor, BusyNote &note, QWidget *window)
+    : QObject(window), m_editor(editor), m_note(note), m_window(window)
+{
+    connect(&m_importer, &PhotoImporter::finished, this, &PhotoImports::onFinished);
+    connect(&m_importer, &PhotoImporter::progress, this, [this](int looked) {
+        m_note.setProgress(tr("Adding photos: %n looked at", nullptr, looked), 0, 0);
+    });
+    connect(&m_note, &BusyNote::cancelClicked, this, &PhotoImports::cancel);
+}
+
+void PhotoImports::add(const QStringList &paths, int row)
+{
+    m_waiting.append({paths, row});
+    if (!m_importer.isRunning())
+        next();
+}
+
+void PhotoImports::next()
+{
+    const auto batch = m_waiting.takeFirst();
+    m_note.begin(tr("Adding photos"));
+    m_importer.start(batch.first, batch.second);
+}
+
+void PhotoImports::cancel()
+{
+    m_waiting.clear();
+    m_importer.cancel();
+}
+
+void PhotoImports::onFinished(const PhotoImport &import)
+{
+    m_note.end();
+    if (import.cancelled) {
+        m_refused.clear();
+    } else {
+        m_editor.addPhotos(import.photos, import.row);
+        m_refused += import.refused;
+    }
+    if (!m_waiting.isEmpty())
+        next();
+    else if (!m_refused.isEmpty())
+        showRefused();
+}
+
+void PhotoImports::showRefused()
+{
+    QStringList lines;
+    for (const PhotoImport::Refused &refused : qAsConst(m_refused))
+        lines.append(tr("%1: %2").arg(QDir::toNativeSeparators(refused.path), refused.reason));
+    MessageDialog::Message message;
+    message.kind = MessageDialog::Kind::Warning;
+    message.title = tr("Adding photos");
+    message.text = tr("%n files have not been added", nullptr, m_refused.size());
+    message.details = lines.join(QLatin1Char('\n'));
+    message.buttons = QStringList{tr("CLOSE")};
+    m_refused.clear();
+    auto *dialog = new MessageDialog(message, m_window);
+    dialog->setObjectName(QStringLiteral("notAllPhotos"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+} // namespace velmora

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/main/LastVideo.h"
+
+#include "chrome/MessageDialog.h"
+#include "platform/FileManager.h"
+#include "project/documents/HistoryStore.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+namespace velmora
+{
+
+const ProjectFile *LastVideo::project() const
+{
+    return m_history.projects().empty() ? nullptr : m_history.projects().back().get();
+}
+
+QString LastVideo::path() const
+{
+    return project() ? project()->fileName() : QString();
+}
+
+QString LastVideo::name() const
+{
+    return project() ? project()->name() : QString();
+}
+
+void LastVideo::showFolder(QWidget *window) const
+{
+    if (path().isEmpty() || m_fileManager.showInFolder(path()))
+        return;
+    MessageDialog::inform(
+        window, QCoreApplication::translate("MainView", "Open Folder"),
+        QCoreApplication::translate("MainView", "The folder \"%1\" does not exist any more.")
+            .arg(QDir::toNativeSeparators(QFileInfo(path()).absolutePath())));
+}
+
+} // namespace velmora

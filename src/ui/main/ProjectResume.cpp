@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/main/ProjectResume.h"
+
+#include "chrome/MessageDialog.h"
+#include "project/documents/ProjectFile.h"
+#include "project/slides/ProjectItemSimple.h"
+#include "ui/UiLog.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSet>
+#include <QWidget>
+#include <QtConcurrent>
+
+#include <algorithm>
+
+namespace velmora
+{
+
+namespace
+{
+
+QStringList missingFiles(const QStringList &paths)
+{
+    QStringList missing;
+    std::copy_if(paths.begin(), paths.end(), std::back_inserter(missing),
+                 [](const QString &path) { return !QFileInfo(path).isFile(); });
+    return missing;
+}
+
+bool wantsToResume(QWidget *window, const QStringList &missing)
+{
+    enum Button { Cancel, Resume };
+    QStringList names;
+    for (const QString &path : missing)
+        names.append(QDir::toNativeSeparators(path));
+    MessageDialog::Message message;
+    message.kind = MessageDialog::Kind::Question;
+    message.title = ProjectResume::tr("Not all files exist");
+    message.text = ProjectResume::tr("Not all files exist, do you want to resume the project?");
+    message.details = names.join(QLatin1Char('\n'));
+    message.buttons = QStringList{ProjectResume::tr("CANCEL"), ProjectResume::tr("RESUME")};
+    message.defaultButton = Resume;
+    message.cancelButton = Cancel;
+    return MessageDialog::ask(window, message).button == Resume;
+}
+
+} // namespace
+
+ProjectResume::ProjectResume(const AppSettings &settings, QWidget *window)
+    : m_settings(settings), m_window(window)
+{
+    connect(&m_search, &QFutureWatcher<QStringList>::finished, this, &ProjectResume::onLooked);
+}
+
+ProjectResume::~ProjectResume()
+{
+    m_search.waitForFinished();
+}
+
+bool ProjectResume::start(const ProjectFile &entry)
+{
+    QJsonObject document;
+    entry.toJson(document);
+    QStringList errors;
+    std::unique_ptr<ProjectFile> project = ProjectFile::fromJson(document, m_settings, &errors);
+    if (!project) {
+        qCWarning(lcUi).noquote() << "Cannot resume" << entry.name() << ':'
+                                  << errors.join(QStringLiteral(", "));
+        return false;
+    }
+    m_project = std::move(project);
+    m_search.setFuture(QtConcurrent::run(missingFiles, files(*m_project)));
+    return true;
+}
+
+std::unique_ptr<ProjectFile> ProjectResume::take()
+{
+    return std::move(m_project);
+}
+
+QStringList ProjectResume::files(const ProjectFile &project)
+{
+    QStringList paths;
+    for (const ProjectItem *slide : project.items()) {
+        if (const auto *photo = qobject_cast<const ProjectItemSimple *>(slide))
+            paths.append(photo->fileName());
+    }
+    for (const AudioItem &audio : project.audio().items)
+        paths.append(audio.fileName);
+    paths.removeDuplicates();
+    return paths;
+}
+
+void ProjectResume::removeFiles(ProjectFile *project, const QStringList &paths)
+{
+    const QSet<QString> gone(paths.begin(), paths.end());
+    const QVector<ProjectItem *> slides = project->items();
+    for (ProjectItem *slide : slides) {
+        const auto *photo = qobject_cast<const ProjectItemSimple *>(slide);
+        if (photo && gone.contains(photo->fileName()))
+            delete project->takeItem(slide);
+    }
+    AudioItemList audio = project->audio();
+    audio.items.erase(
+        std::remove_if(audio.items.begin(), audio.items.end(),
+                       [&gone](const AudioItem &item) { return gone.contains(item.fileName); }),
+        audio.items.end());
+    project->setAudio(audio);
+}
+
+void ProjectResume::onLooked()
+{
+    const QStringList missing = m_search.result();
+    if (!m_project)
+        return;
+    if (!missing.isEmpty()) {
+        if (!wantsToResume(m_window, missing)) {
+            m_project.reset();
+            return;
+        }
+        removeFiles(m_project.get(), missing);
+    }
+    emit ready();
+}
+
+} // namespace velmora

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QFutureWatcher>
+#include <QObject>
+#include <QStringList>
+
+#include <memory>
+
+class QWidget;
+
+namespace velmora
+{
+
+struct AppSettings;
+class ProjectFile;
+
+/// Turns an entry of the history into a project to go on with: looks which of its photos and sound
+/// files are gone, off the GUI thread, and asks whether to do without them. GUI thread; one at a
+/// time.
+class ProjectResume : public QObject
+{
+    Q_OBJECT
+public:
+    /// The question is shown above @p window.
+    ProjectResume(const AppSettings &settings, QWidget *window);
+    ~ProjectResume() override;
+
+    /// Copies @p entry and looks for its files; ready() follows if there is something to go on
+    /// with. False if the entry cannot be read. A search in work is given up.
+    bool start(const ProjectFile &entry);
+    /// The project of ready(), less the missing files; null afterwards.
+    std::unique_ptr<ProjectFile> take();
+
+    /// The photos and sound files of a project, each path once.
+    static QStringList files(const ProjectFile &project);
+    /// Takes the slides and sound files with these paths out of a project.
+    static void removeFiles(ProjectFile *project, const QStringList &paths);
+
+signals:
+    void ready();
+
+private:
+    void onLooked();
+
+    const AppSettings &m_settings;
+    QWidget *m_window;
+    std::unique_ptr<ProjectFile> m_project;
+    QFutureWatcher<QStringList> m_search;
+};
+
+} // namespace velmora

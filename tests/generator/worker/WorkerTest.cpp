@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Paths.h"
+#include "generator/worker/Composer.h"
+#include "generator/worker/WorkerOutputReader.h"
+#include "helpers/RenderFixture.h"
+#include "helpers/TestProcess.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QLockFile>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <memory>
+
+using namespace velmora;
+
+namespace
+{
+
+constexpr int kRenderTimeout = 120'000; // ms
+
+QString program()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/velmoratool");
+}
+
+} // namespace
+
+/// The real worker program, as the editor and as nobody drives it.
+class WorkerTest : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init()
+    {
+        m_fixture.reset(); // gives the data folder back before the next one takes it
+        m_fixture = std::make_unique<RenderFixture>();
+        m_output = m_fixture->output(QStringLiteral("it's a 100% vidéo 漢.mp4"));
+    }
+
+    void editorRenders()
+    {
+        Composer composer;
+        QSignalSpy finished(&composer, &Composer::finished);
+        QSignalSpy progress(&composer, &Composer::progress);
+        composer.run(request(2));
+        composer.pause();
+        composer.resume();
+        QTRY_VERIFY_WITH_TIMEOUT(!composer.isRunning(), kRenderTimeout);
+        QVERIFY2(finished.size() == 1, qPrintable(composer.errorText()));
+        QCOMPARE(finished.first().first().toString(), m_output);
+        QVERIFY(QFileInfo(m_output).size() > 0);
+        QVERIFY(progress.size() > 1);
+        for (int i = 1; i < progress.size(); ++i)
+            QVERIFY(progress[i].first().toInt() > progress[i - 1].first().toInt());
+        QCOMPARE(progress.last().first().toInt(), 100);
+        QCOMPARE(leftovers(), QStringList());
+    }
+
+    void editorCancels_data()
+    {
+        QTest::addColumn<bool>("paused");
+        QTest::newRow("running") << false;
+        QTest::newRow("paused") << true;
+    }
+    void editorCancels()
+    {
+        QFETCH(bool, paused);
+        Composer composer;
+        composer.setStopGrace(kRenderTimeout); // the worker must obey, not be forced
+        QSignalSpy progress(&composer, &Composer::progress);
+        composer.run(request(200));
+        QTRY_VERIFY_WITH_TIMEOUT(!progress.isEmpty(), kRenderTimeout);
+        if (paused)
+            composer.pause();
+        composer.cancel();
+        QTRY_VERIFY_WITH_TIMEOUT(!composer.isRunning(), kRenderTimeout / 2);
+        QVERIFY(!QFileInfo::exists(m_output));
+        QCOMPARE(leftovers(), QStringList());
+    }
+
+    void editorLearnsWhatIsWrong()
+    {
+        Composer composer;
+        QSignalSpy failed(&composer, &Composer::failed);
+        const QString file = request(2);
+        QVERIFY(QFile::remove(m_fixture->path(QStringLiteral("photo1.png"))));
+        composer.run(file);
+        QTRY_VERIFY_WITH_TIMEOUT(!composer.isRunning(), kRenderTimeout);
+        QCOMPARE(failed.size(), 1);
+        QCOMPARE(failed.first().first().toString(), QStringLiteral("ERR_GENERATOR"));
+        QVERIFY2(composer.errorText().contains(QStringLiteral("photo1.png")),
+                 qPrintable(composer.errorText()));
+    }
+
+    void killedWorkerLeavesNothing()
+    {
+        Composer composer;
+        QSignalSpy progress(&composer, &Composer::progress);
+        composer.run(request(200));
+        QTRY_VERIFY_WITH_TIMEOUT(!progress.isEmpty(), kRenderTimeout);
+        const qint64 worker = workerPid();
+        QVERIFY(isAlive(worker));
+        QVector<qint64> encoders;
+        QTRY_VERIFY(!(encoders = childrenOf(worker)).isEmpty());
+        QCOMPARE(QProcess::execute(QStringLiteral("kill"),
+                                   {QStringLiteral("-KILL"), QString::number(worker)}),
+                 0);
+        QTRY_VERIFY(!composer.isRunning());
+        QVERIFY(!composer.errorText().isEmpty());
+        for (const qint64 encoder : qAsConst(encoders))
+            QTRY_VERIFY(!isAlive(encoder));
+        QTRY_COMPARE(leftovers(), QStringList());
+    }
+
+    void badArguments_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("reason");
+        const QString session = QStringLiteral("--session_id");
+        const QString cache = QStringLiteral("--cache");
+        const QString requestOption = QStringLiteral("--request");
+        const QString value = QStringLiteral("/nowhere/x");
+        const QStringList all{session, value, cache, value, requestOption, value};
+        const QString needs = QStringLiteral("needs --session_id, --cache and --request");
+        QTest::newRow("no request") << QStringList{session, value, cache, value} << needs;
+        QTest::newRow("no session") << QStringList{cache, value, requestOption, value} << needs;
+        QTest::newRow("empty cache")
+            << QStringList{session, value, cache, QString(), requestOption, value} << needs;
+        QTest::newRow("too much") << all + QStringList(value) << needs;
+        QTest::newRow("unknown option")
+            << all + QStringList(QStringLiteral("--fast")) << QStringLiteral("fast");
+        QTest::newRow("missing value") << QStringList(session) << QStringLiteral("session_id");
+        QTest::newRow("missing request") << all << value;
+    }
+    void badArguments()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, reason);
+        QProcess process;
+        process.start(program(), arguments);
+        QVERIFY(process.waitForFinished(kRenderTimeout));
+        QCOMPARE(process.exitCode(), int(kExitBadArguments));
+        const auto messages = WorkerOutputReader().feed(process.readAllStandardOutput());
+        QCOMPARE(messages.size(), 1);
+        QCOMPARE(messages[0].kind, WorkerMessage::Kind::Failed);
+        QVERIFY2(messages[0].error.text.contains(reason), qPrintable(messages[0].error.text));
+    }
+
+    void damagedRequest_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("no JSON") << QByteArray("slides");
+        QTest::newRow("cut") << QByteArray("{\"name\":\"x\",\"slides\":[{");
+        QTest::newRow("array") << QByteArray("[1,2]");
+    }
+    void damagedRequest()
+    {
+        QFETCH(QByteArray, content);
+        QProcess process;
+        process.start(program(),
+                      workerArguments(m_fixture->file(QStringLiteral("bad.json"), content)));
+        QVERIFY(process.waitForFinished(kRenderTimeout));
+        QCOMPARE(process.exitCode(), int(kExitBadArguments));
+        QVERIFY(process.readAllStandardOutput().contains("bad.json"));
+    }
+
+    void rendersForNobody_data()
+    {
+        QTest::addColumn<QString>("redirection");
+        QTest::newRow("reader gone") << QStringLiteral("| :");
+        QTest::newRow("closed") << QStringLiteral("<&- >&- 2>&-");
+        QTest::newRow("full device") << QStringLiteral(">/dev/full");
+    }
+    void rendersForNobody()
+    {
+        QFETCH(QString, redirection);
+        if (!QFileInfo::exists(QStringLiteral("/dev/full")))
+            QSKIP("needs a shell");
+        const QStringList arguments{QStringLiteral("-c"),
+                                    QStringLiteral("\"$0\" \"$@\" ") + redirection, program()};
+        QProcess process;
+        process.start(QStringLiteral("/bin/sh"), arguments + workerArguments(request(2)));
+        QVERIFY(process.waitForFinished(kRenderTimeout));
+        QVERIFY(QFileInfo(m_output).size() > 0);
+        QVERIFY(!process.readAllStandardError().contains("event"));
+    }
+
+private:
+    /// Writes a document of @p slides slides and returns its path.
+    QString request(int slides)
+    {
+        QStringList photos;
+        for (int i = 0; i < slides; ++i)
+            photos.append(i < 2 ? m_fixture->photo(QStringLiteral("photo%1.png").arg(i), i)
+                                : photos[i % 2]);
+        m_fixture->settings.transitionTime = 1;
+        const QString path = m_fixture->path(QStringLiteral("request.json"));
+        const RenderRequest render = m_fixture->request(photos, m_output);
+        return render.project->saveToFile(path) ? path : QString();
+    }
+
+    QStringList workerArguments(const QString &requestFile) const
+    {
+        return {QStringLiteral("--session_id"), QStringLiteral("test"),
+                QStringLiteral("--cache"),      m_fixture->cacheFolder(),
+                QStringLiteral("--request"),    requestFile};
+    }
+
+    /// The worker that owns the only cache folder.
+    static qint64 workerPid()
+    {
+        QDirIterator locks(Paths::cacheFolder(), {QStringLiteral("render.lock")}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        qint64 pid = -1;
+        QString host;
+        QString name;
+        if (locks.hasNext())
+            QLockFile(locks.next()).getLockInfo(&pid, &host, &name);
+        return pid;
+    }
+
+    static QVector<qint64> childrenOf(qint64 pid)
+    {
+        QVector<qint64> children;
+        QDirIterator threads(QStringLiteral("/proc/%1/task").arg(pid),
+                             QDir::Dirs | QDir::NoDotAndDotDot);
+        while (threads.hasNext()) {
+            QFile file(threads.next() + QStringLiteral("/children"));
+            if (!file.open(QIODevice::ReadOnly))
+                continue;
+            for (const QByteArray &child : file.readAll().split(' ')) {
+                if (!child.isEmpty())
+                    children.append(child.toLongLong());
+            }
+        }
+        return children;
+    }
+
+    /// What a render of the editor's could leave: session values, cached files, parts of videos.
+    QStringList leftovers() const
+    {
+        QStringList files =
+            QDir(Paths::dataFolder() + QStringLiteral("/sessions")).entryList(QDir::Files);
+        QDirIterator cache(Paths::cacheFolder(), QDir::Files | QDir::Hidden,
+                           QDirIterator::Subdirectories);
+        while (cache.hasNext())
+            files.append(cache.next());
+        files += QDir(m_fixture->outputFolder()).entryList(QDir::Files | QDir::Hidden);
+        files.removeAll(QFileInfo(m_output).fileName());
+        return files;
+    }
+
+    std::unique_ptr<RenderFixture> m_fixture;
+    QString m_output;
+};
+
+QTEST_GUILESS_MAIN(WorkerTest)
+#include "WorkerTest.moc"

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/DiscWriter.h"
+
+#include <QSemaphore>
+#include <QStringList>
+#include <QThread>
+
+#include <mutex>
+
+namespace velmora
+{
+
+/// Two drives without hardware, which note what is asked of them.
+class FakeDiscWriter : public DiscWriter
+{
+public:
+    struct State {
+        DiscMedia media;
+        QString failingStep; ///< "open", "erase", "check", "image", "write" or nothing.
+        bool hold = false;   ///< A write waits until it is cancelled.
+        QSemaphore writing;  ///< Gets one per write that began.
+
+        void note(const QString &step)
+        {
+            const std::lock_guard<std::mutex> lock(mutex);
+            steps.append(step);
+        }
+        QStringList noted()
+        {
+            const std::lock_guard<std::mutex> lock(mutex);
+            return steps;
+        }
+        std::mutex mutex;
+        QStringList steps;
+    };
+
+    explicit FakeDiscWriter(State &state, int drives = 2) : m_state(state), m_drives(drives) {}
+
+    QVector<DiscRecorder> recorders() override
+    {
+        QVector<DiscRecorder> all;
+        for (int i = 0; i < m_drives; ++i)
+            all.append({QString::number(i), QStringLiteral("DVDRAM GH%1").arg(i),
+                        QStringList{QStringLiteral("/dev/sr%1").arg(i)}});
+        return all;
+    }
+    DiscMedia media(const QString &) override { return m_state.media; }
+    std::unique_ptr<DiscSession> openSession(const QString &id) override
+    {
+        m_state.note(QStringLiteral("open ") + id);
+        if (m_state.failingStep == QLatin1String("open"))
+            return nullptr;
+        return std::make_unique<Session>(m_state);
+    }
+
+private:
+    class Session : public DiscSession
+    {
+    public:
+        explicit Session(State &state) : m_state(state) {}
+
+        bool erase(const DiscProgress &progress) override
+        {
+            m_state.note(QStringLiteral("erase"));
+            progress(50, 100);
+            return m_state.failingStep != QLatin1String("erase");
+        }
+        bool checkMedia() override
+        {
+            m_state.note(QStringLiteral("check"));
+            return m_state.failingStep != QLatin1String("check");
+        }
+        bool createImage(const QString &video, const QString &fileName,
+                         const QString &volumeName) override
+        {
+            m_state.note(QStringLiteral("image %1 %2 %3").arg(video, fileName, volumeName));
+            return m_state.failingStep != QLatin1String("image");
+        }
+        bool write(bool finalize, const DiscProgress &progress,
+                   const std::atomic_bool &cancelled) override
+        {
+            m_state.note(finalize ? QStringLiteral("write closing") : QStringLiteral("write"));
+            progress(42, 100);
+            m_state.writing.release();
+            while (m_state.hold && !cancelled)
+                QThread::yieldCurrentThread();
+            return !cancelled && m_state.failingStep != QLatin1String("write");
+        }
+
+    private:
+        State &m_state;
+    };
+
+    State &m_state;
+    int m_drives;
+};
+
+} // namespace velmora

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sharing/upload/wire/DropboxMessages.h"
+#include "sharing/upload/wire/PlainMessage.h"
+#include "sharing/upload/wire/TokenAnswer.h"
+#include "sharing/upload/wire/UploadAnswer.h"
+
+#include <QTest>
+
+using namespace velmora;
+
+/// What services answer, the odd cases; the usual ones are in the tests of uploads.
+class AnswersTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tokens_data();
+    void tokens();
+    void links_data();
+    void links();
+    void messages_data();
+    void messages();
+    void arguments();
+};
+
+void AnswersTest::tokens_data()
+{
+    QTest::addColumn<QByteArray>("type");
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QString>("access");
+    QTest::addColumn<QString>("refresh");
+    QTest::addColumn<QString>("problem");
+    const QString head = QStringLiteral("QOAuthOobReplyHandler::networkReplyFinished: ");
+    const QByteArray json = R"({"access_token": "a.b", "refresh_token": "1//c"})";
+    const QByteArray form = "access_token=a%2Bb&refresh_token=c&scope=x+y";
+    QTest::newRow("JSON") << QByteArray("application/json") << json << "a.b"
+                          << "1//c"
+                          << "";
+    QTest::newRow("with charset") << QByteArray("Application/JSON; charset=utf-8") << json << "a.b"
+                                  << "1//c"
+                                  << "";
+    QTest::newRow("script") << QByteArray("text/javascript") << json << "a.b"
+                            << "1//c"
+                            << "";
+    QTest::newRow("form") << QByteArray("application/x-www-form-urlencoded") << form << "a+b"
+                          << "c"
+                          << "";
+    QTest::newRow("form as HTML") << QByteArray("text/html") << form << "a+b"
+                                  << "c"
+                                  << "";
+    QTest::newRow("blank in token")
+        << QByteArray("text/html") << QByteArray("access_token=a+b") << ""
+        << ""
+        << "";
+    QTest::newRow("no type") << QByteArray() << json << ""
+                             << "" << head + QStringLiteral("Empty Content-type header");
+    QTest::newRow("no data") << QByteArray("application/json") << QByteArray() << ""
+                             << "" << head + QStringLiteral("No received data");
+    QTest::newRow("array") << QByteArray("application/json") << QByteArray("[1]") << ""
+                           << ""
+                           << head + QStringLiteral("Received data is not a JSON object: [1]");
+    QTest::newRow("nothing in it") << QByteArray("application/json") << QByteArray("{}") << ""
+                                   << "" << head + QStringLiteral("Received empty JSON object: {}");
+    QTest::newRow("picture") << QByteArray("image/png") << json << ""
+                             << "" << head + QStringLiteral("Unknown Content-type: image/png");
+    QTest::newRow("wrong kinds") << QByteArray("application/json")
+                                 << QByteArray(R"({"access_token": ["a"], "refresh_token": 5})")
+                                 << ""
+                                 << ""
+                                 << "";
+    QTest::newRow("header injection") << QByteArray("application/json")
+                                      << QByteArray(R"({"access_token": "a\r\nCookie: b"})") << ""
+                                      << ""
+                                      << "";
+}
+
+void AnswersTest::tokens()
+{
+    QFETCH(QByteArray, type);
+    QFETCH(QByteArray, body);
+    const TokenAnswer answer = TokenAnswer::parse(type, body);
+    QTEST(answer.accessToken(), "access");
+    QTEST(answer.refreshToken(), "refresh");
+    QTEST(answer.problem, "problem");
+}
+
+void AnswersTest::links_data()
+{
+    QTest::addColumn<QByteArray>("link");
+    QTest::addColumn<bool>("usable");
+    QTest::newRow("page") << QByteArray("\"https://a.test/file?x=1\"") << true;
+    QTest::newRow("script") << QByteArray("\"javascript:alert(1)\"") << false;
+    QTest::newRow("file") << QByteArray("\"file:///etc/passwd\"") << false;
+    QTest::newRow("no host") << QByteArray("\"https:///x\"") << false;
+    QTest::newRow("number") << QByteArray("7") << false;
+}
+
+void AnswersTest::links()
+{
+    QFETCH(QByteArray, link);
+    const UploadAnswer answer =
+        UploadAnswer::parse(R"({"id": "1", "alternateLink": )" + link + "}");
+    QVERIFY(!answer.isError);
+    QTEST(!answer.alternateLink().isEmpty(), "usable");
+}
+
+void AnswersTest::messages_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("plain");
+    QTest::newRow("lines") << "a\r\n  b\tc"
+                           << "a b c";
+    QTest::newRow("control") << QStringLiteral("a\u0007b\u202eevil\u200b")
+                             << QStringLiteral("a b evil");
+    QTest::newRow("letters") << QStringLiteral("\u00fc\u65e5") << QStringLiteral("\u00fc\u65e5");
+    QTest::newRow("long") << QString(5000, QLatin1Char('x'))
+                          << QString(299, QLatin1Char('x')) + QChar(0x2026);
+    const QString face = QString::fromUcs4(U"\U0001F600");
+    QTest::newRow("pairs stay whole") << face.repeated(400).prepend(QLatin1Char('a'))
+                                      << QLatin1Char('a') + face.repeated(149) + QChar(0x2026);
+}
+
+void AnswersTest::messages()
+{
+    QFETCH(QString, text);
+    QTEST(plainMessage(text), "plain");
+}
+
+void AnswersTest::arguments()
+{
+    const QString path = QString::fromUtf8("/%2 \"\xc3\xbc\".mp4");
+    const QByteArray commit =
+        R"({ "path": "/%2 \"\u00fc\".mp4", "mode": "overwrite", "autorename": false, "mute": true })";
+    QCOMPARE(DropboxMessages::commit(path), commit);
+    QCOMPARE(DropboxMessages::start(), QByteArray(R"({ "close": false })"));
+    QCOMPARE(
+        DropboxMessages::append(QStringLiteral("s%1"), 4194304),
+        QByteArray(R"({ "cursor": { "session_id": "s%1", "offset": 4194304 }, "close": false })"));
+    QCOMPARE(DropboxMessages::finish(QStringLiteral("s"), 5000000000, path),
+             R"({ "cursor": { "session_id": "s", "offset": 5000000000 }, "commit": )" + commit +
+                 " }");
+}
+
+QTEST_GUILESS_MAIN(AnswersTest)
+#include "AnswersTest.moc"

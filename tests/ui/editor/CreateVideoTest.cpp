@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "generator/pipeline/RenderRequest.h"
+#include "ui/editor/CreatePanel.h"
+#include "ui/editor/EditorPage.h"
+
+#include <QComboBox>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QSignalSpy>
+#include <QStackedWidget>
+
+#include <csignal>
+
+using namespace velmora;
+
+/// From "CREATE" to the file, or to what went wrong.
+class CreateVideoTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    void setName(const QString &name) { m->child<QLineEdit>("txtProjName")->setText(name); }
+    int page() const { return m->child<QStackedWidget>("tcCreate")->currentIndex(); }
+    Composer &composer() const { return m->page->createPanel().composer(); }
+
+    std::unique_ptr<EditorPage> m;
+
+private slots:
+    void init()
+    {
+        m = std::make_unique<EditorPage>();
+        QVERIFY(m->isShown);
+    }
+    void cleanup() { m.reset(); }
+
+    void nameIsChecked_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("allowed");
+        for (const char symbol : QByteArray("*:[]{}\\/"))
+            QTest::newRow(QByteArray(1, symbol).constData())
+                << (QStringLiteral("a") + QLatin1Char(symbol)) << false;
+        QTest::newRow("!") << QStringLiteral("a!") << true;
+        QTest::newRow("hyphen") << QStringLiteral("a-b") << true;
+    }
+
+    void nameIsChecked()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, allowed);
+        QSignalSpy started(m->page.get(), &MainWindowWidget::progressStarted);
+        setName(name);
+        composer().setProgram(m->path("none"));
+        m->answerNext(0);
+        m->click("btnCreate");
+        QTRY_VERIFY(!m->message().isEmpty());
+        QCOMPARE(started.count(), allowed ? 1 : 0);
+        QCOMPARE(m->message() == QStringLiteral("Project name should not contain any of these "
+                                                "symbols: *:[]{}\\/!"),
+                 !allowed);
+    }
+
+    void defaultNameHoldsTheTime()
+    {
+        const QRegularExpression pattern(QStringLiteral("^sshow_\\d{4}-\\d{2}-\\d{2}_\\d{6}$"));
+        QVERIFY(pattern.match(m->child<QLineEdit>("txtProjName")->text()).hasMatch());
+    }
+
+    void createMakesTheVideo()
+    {
+        m->addPhotos(QStringLiteral("a"));
+        QSignalSpy finished(m->page.get(), &MainWindowWidget::finished);
+        QSignalSpy ended(m->page.get(), &MainWindowWidget::progressFinished);
+        QSignalSpy progress(m->page.get(), &MainWindowWidget::progress);
+        setName(QStringLiteral("video!"));
+        m->click("btnCreate");
+        QCOMPARE(page(), 1);
+        QVERIFY(m->page->isGenerating());
+        QVERIFY(!m->table().isEnabled());
+        QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, 120000);
+        QCOMPARE(finished.count(), 1);
+        const QString file = m->path("video!.mp4");
+        QCOMPARE(finished.first().first().toString(), file);
+        QVERIFY(QFileInfo(file).size() > 1000);
+        QCOMPARE(progress.last().first().toInt(), 100);
+        QCOMPARE(m->history->projects().size(), std::size_t(1));
+        QCOMPARE(m->history->projects().front()->fileName(), file);
+        QCOMPARE(page(), 0);
+        QVERIFY(m->table().isEnabled());
+        QVERIFY(m->child<QLineEdit>("txtProjName")->text().startsWith(QStringLiteral("sshow_")));
+    }
+
+    void pausedRenderGoesOn()
+    {
+        m->addPhotos(QStringLiteral("ab"));
+        QSignalSpy finished(m->page.get(), &MainWindowWidget::finished);
+        m->click("btnCreate");
+        const QImage pause = m->child<QPushButton>("btnPauseResume")->icon().pixmap(20).toImage();
+        m->click("btnPauseResume");
+        QVERIFY(composer().isPaused());
+        QCOMPARE(m->child<QLabel>("lblSpeed")->text(), QStringLiteral("Paused"));
+        QVERIFY(m->child<QPushButton>("btnPauseResume")->icon().pixmap(20).toImage() != pause);
+        m->click("btnPauseResume");
+        QVERIFY(!composer().isPaused());
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 120000);
+    }
+
+    void cancelReturnsToTheSetup()
+    {
+        m->addPhotos(QStringLiteral("ab"));
+        QSignalSpy ended(m->page.get(), &MainWindowWidget::progressFinished);
+        m->click("btnCreate");
+        m->click("btnCancel");
+        QCOMPARE(ended.count(), 1);
+        QCOMPARE(page(), 0);
+        QVERIFY(!m->child<QPushButton>("btnCreate")->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(m->child<QPushButton>("btnCreate")->isEnabled(), 30000);
+        QVERIFY(!composer().isRunning());
+        QCOMPARE(m->history->projects().size(), std::size_t(0));
+    }
+
+    void killedWorkerIsTold()
+    {
+        const QString pidFile = m->path("pid");
+        QFile script(m->path("worker.sh"));
+        QVERIFY(script.open(QIODevice::WriteOnly));
+        script.write("#!/bin/sh\necho $$ > '" + pidFile.toUtf8() + "'\nexec sleep 60\n");
+        script.close();
+        QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        composer().setProgram(script.fileName());
+        QSignalSpy ended(m->page.get(), &MainWindowWidget::progressFinished);
+        QSignalSpy finished(m->page.get(), &MainWindowWidget::finished);
+        m->click("btnCreate");
+        QTRY_VERIFY(QFileInfo(pidFile).size() > 0);
+        QFile pid(pidFile);
+        QVERIFY(pid.open(QIODevice::ReadOnly));
+        m->answerNext(0);
+        QCOMPARE(::kill(pid.readAll().trimmed().toInt(), SIGKILL), 0);
+        QTRY_COMPARE(m->message(), QStringLiteral("Creation error"));
+        QVERIFY(!m->details().isEmpty());
+        QCOMPARE(ended.count(), 1);
+        QCOMPARE(finished.count(), 0);
+        QCOMPARE(page(), 0);
+    }
+
+    void existingVideoIsReplacedOnlyOnDemand()
+    {
+        QFile file(m->path("old.mp4"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        QSignalSpy started(m->page.get(), &MainWindowWidget::progressStarted);
+        setName(QStringLiteral("old"));
+        m->answerNext(0);
+        m->click("btnCreate");
+        QVERIFY(m->message().contains(QStringLiteral("old.mp4")));
+        QCOMPARE(started.count(), 0);
+        m->answerNext(1);
+        m->click("btnCreate");
+        QCOMPARE(started.count(), 1);
+        m->click("btnCancel");
+    }
+
+    void folderMustBeWritable()
+    {
+        QSignalSpy started(m->page.get(), &MainWindowWidget::progressStarted);
+        m->settings.folder = QStringLiteral("/proc/videos"); // not even the superuser writes there
+        m->answerNext(0);
+        m->click("btnCreate");
+        QVERIFY(m->message().contains(QStringLiteral("/proc/videos")));
+        QCOMPARE(started.count(), 0);
+    }
+
+    void requestCarriesProfileAndFormat()
+    {
+        m->settings.outputProfile = QStringLiteral("everywhere");
+        m->settings.speedGeneration = true;
+        auto *format = m->child<QComboBox>("cbxFormat");
+        QCOMPARE(format->count(), 4);
+        QTest::keyClick(format, Qt::Key_Down);
+        QCOMPARE(m->project->format(), QStringLiteral("avi"));
+        setName(QStringLiteral("wanted"));
+        composer().setProgram(m->path("none"));
+        m->answerNext(0);
+        m->click("btnCreate");
+        QTRY_VERIFY(!m->message().isEmpty());
+        RenderRequest request;
+        QString error;
+        QVERIFY2(request.load(m->path("cache/data/wanted.json"), AppSettings(), &error),
+                 qPrintable(error));
+        QVERIFY(request.profile == OutputProfile::PlaysEverywhere);
+        QVERIFY(request.parallel);
+        QCOMPARE(request.transitionSeconds, 1);
+        QCOMPARE(request.project->fileName(), m->path("wanted.avi"));
+    }
+};
+
+QTEST_MAIN(CreateVideoTest)
+#include "CreateVideoTest.moc"

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/editor/PhotoImports.h"
+#include "ui/editor/BusyNote.h"
+#include "ui/editor/EditorPage.h"
+
+#include <QElapsedTimer>
+#include <QUndoStack>
+
+using namespace velmora;
+
+/// Large and faulty drops.
+class PhotoImportsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    void write(const QString &name, const QByteArray &content)
+    {
+        QFile file(m->path("drop/") + name);
+        QVERIFY(QDir().mkpath(QFileInfo(file).path()));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    MessageDialog *report() const { return m->child<MessageDialog>("notAllPhotos"); }
+
+    std::unique_ptr<EditorPage> m;
+
+private slots:
+    void init()
+    {
+        m = std::make_unique<EditorPage>();
+        QVERIFY(m->isShown);
+    }
+    void cleanup() { m.reset(); }
+
+    void folderOf5000MixedFiles()
+    {
+        QFile photo(m->makePhoto(QStringLiteral("drop/a/img0.png")));
+        QVERIFY(photo.open(QIODevice::ReadOnly));
+        const QByteArray png = photo.readAll();
+        for (int i = 1; i < 5000; ++i) {
+            const QString name = QStringLiteral("%1/img%2").arg(QLatin1Char("abc"[i % 3])).arg(i);
+            if (i % 5 == 0)
+                write(name + QStringLiteral(".txt"), "no photo");
+            else if (i % 500 == 1)
+                write(name + QStringLiteral(".png"), "broken");
+            else
+                write(name + QStringLiteral(".png"), png);
+        }
+        m->page->addFolder(m->path("drop"));
+        QTRY_COMPARE_WITH_TIMEOUT(m->items().size(), 1 + 5000 - 999 - 10, 60000);
+        QTRY_VERIFY(report());
+        QCOMPARE(report()->findChild<QPlainTextEdit *>()->toPlainText().count(QLatin1Char('\n')),
+                 9);
+        QCOMPARE(m->items().at(1)->title(), QStringLiteral("img0.png"));
+        QVERIFY(m->names().indexOf(QStringLiteral("img9.png")) <
+                m->names().indexOf(QStringLiteral("img12.png")));
+        QCOMPARE(m->page->editor().undoStack()->count(), 1);
+        report()->reject();
+    }
+
+    void importCanBeCancelled()
+    {
+        for (int i = 0; i < 2000; ++i)
+            write(QStringLiteral("img%1.png").arg(i), "broken");
+        m->page->addFolder(m->path("drop"));
+        QTRY_VERIFY(m->page->findChild<PhotoImports *>()->isRunning());
+        emit m->page->findChild<BusyNote *>()->cancelClicked();
+        QTRY_VERIFY(!m->page->findChild<PhotoImports *>()->isRunning());
+        QCOMPARE(m->items().size(), 1);
+        QVERIFY(!report());
+        QVERIFY(!m->child<QWidget>("busyNote")->isVisible());
+    }
+
+    void severalDropsReportOnce()
+    {
+        write(QStringLiteral("broken.png"), "broken");
+        write(QStringLiteral("notes.txt"), "text");
+        const QString good = m->makePhoto(QStringLiteral("good.png"));
+        m->page->onFilesDropped({m->path("drop/broken.png")}, -1);
+        m->page->onFilesDropped({m->path("drop/notes.txt"), good}, 0);
+        m->page->onFilesDropped({m->path("drop/gone.png")}, -1);
+        QTRY_VERIFY(report());
+        const QString text = report()->findChild<QPlainTextEdit *>()->toPlainText();
+        QVERIFY(text.contains(QStringLiteral("broken.png")));
+        QVERIFY(text.contains(QStringLiteral("notes.txt")));
+        QVERIFY(text.contains(QStringLiteral("gone.png")));
+        QCOMPARE(m->page->findChildren<MessageDialog *>().size(), 1);
+        QCOMPARE(m->names().mid(1), QStringList(QStringLiteral("good.png")));
+    }
+
+    void anotherProjectEndsTheImport()
+    {
+        for (int i = 0; i < 500; ++i)
+            write(QStringLiteral("img%1.png").arg(i), "broken");
+        m->page->addFolder(m->path("drop"));
+        ProjectFile other(m->settings, ProjectFile::TitleSlide::Create);
+        m->page->setProject(&other);
+        QTRY_VERIFY(!m->page->findChild<PhotoImports *>()->isRunning());
+        QCOMPARE(other.items().size(), 1);
+        m->page->setProject(nullptr);
+    }
+};
+
+QTEST_MAIN(PhotoImportsTest)
+#include "PhotoImportsTest.moc"

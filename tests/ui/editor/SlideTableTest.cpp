@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "chrome/RowsMimeData.h"
+#include "chrome/Theme.h"
+#include "ui/editor/EditorPage.h"
+#include "ui/editor/SlideNumberDelegate.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QUndoStack>
+#include <QUrl>
+
+using namespace velmora;
+
+/// Mouse, keys and drags on the rows of the slide table.
+class SlideTableTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QRect cell(int row, int column) const
+    {
+        return m->table().visualRect(m->table().model()->index(row, column));
+    }
+    void clickAt(const QPoint &position) const
+    {
+        QTest::mouseMove(m->table().viewport(), position);
+        QTest::mouseClick(m->table().viewport(), Qt::LeftButton, Qt::NoModifier, position);
+    }
+    /// The painted buttons from the right edge of the last column.
+    QPoint button(int row, int place) const
+    {
+        const QRect area = cell(row, SlideTableModel::TextColumn);
+        return {area.right() - 24 - 32 * place, area.center().y()};
+    }
+    QComboBox *openValues() const
+    {
+        return m->table().viewport()->findChild<QComboBox *>(QStringLiteral("cellValues"));
+    }
+    void drop(QMimeData &data, const QPoint &position) const
+    {
+        constexpr Qt::DropActions kActions(Qt::CopyAction | Qt::MoveAction);
+        QWidget *viewport = m->table().viewport();
+        QDragEnterEvent enter(position, kActions, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(viewport, &enter);
+        QDragMoveEvent move(position, kActions, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(viewport, &move);
+        QDropEvent event(position, kActions, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(viewport, &event);
+    }
+    QString letters() const
+    {
+        QString letters;
+        for (const QString &name : m->names().mid(1))
+            letters += name.left(1);
+        return letters;
+    }
+
+    std::unique_ptr<EditorPage> m;
+
+private slots:
+    void init()
+    {
+        m = std::make_unique<EditorPage>();
+        QVERIFY(m->isShown);
+        m->addPhotos(QStringLiteral("abcde"));
+        QCoreApplication::processEvents();
+    }
+    void cleanup() { m.reset(); }
+
+    void filesAreDroppedBetweenRows()
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(m->makePhoto(QStringLiteral("x.png"))),
+                      QUrl::fromLocalFile(m->makePhoto(QStringLiteral("y.png")))});
+        drop(data, cell(2, 0).center() + QPoint(0, 20));
+        QTRY_COMPARE(letters(), QStringLiteral("abxycde"));
+    }
+
+    void rowsAreReorderedByDragging_data()
+    {
+        QTest::addColumn<QVector<int>>("rows");
+        QTest::addColumn<int>("before");
+        QTest::addColumn<QString>("order");
+        QTest::newRow("one down") << QVector<int>{1} << 4 << QStringLiteral("bcade");
+        QTest::newRow("two up") << QVector<int>{3, 5} << 1 << QStringLiteral("ceabd");
+        QTest::newRow("never above the title slide")
+            << QVector<int>{2} << 0 << QStringLiteral("bacde");
+    }
+
+    void rowsAreReorderedByDragging()
+    {
+        QFETCH(QVector<int>, rows);
+        QFETCH(int, before);
+        QFETCH(QString, order);
+        const ProjectEditor::Slides slides = m->items();
+        m->select(rows);
+        RowsMimeData data(&m->table(), rows);
+        drop(data, cell(before, 0).topLeft() + QPoint(60, 4));
+        QCOMPARE(letters(), order);
+        QVector<ProjectItem *> selected;
+        for (const QModelIndex &index : m->table().selectionModel()->selectedRows())
+            selected.append(m->table().slides()->slideAt(index.row()));
+        QCOMPARE(selected.size(), rows.size());
+        for (const int row : rows)
+            QVERIFY(selected.contains(slides.at(row)));
+        m->page->editor().undoStack()->undo();
+        QCOMPARE(letters(), QStringLiteral("abcde"));
+    }
+
+    void valueIsChosenForTheSelection_data()
+    {
+        QTest::addColumn<QVector<int>>("selected");
+        QTest::addColumn<QVector<int>>("changed");
+        QTest::newRow("within the selection") << QVector<int>{2, 4} << QVector<int>{2, 4};
+        QTest::newRow("outside of it") << QVector<int>{4, 5} << QVector<int>{2};
+    }
+
+    void valueIsChosenForTheSelection()
+    {
+        QFETCH(QVector<int>, selected);
+        QFETCH(QVector<int>, changed);
+        m->select(selected);
+        clickAt(cell(2, SlideTableModel::TimeColumn).center());
+        QTRY_VERIFY(openValues() && openValues()->view()->isVisible());
+        QComboBox *box = openValues();
+        QCOMPARE(box->currentText(), QStringLiteral("1 sec"));
+        const QModelIndex ten = box->model()->index(box->findData(10), 0);
+        box->view()->setCurrentIndex(ten);
+        QTest::keyClick(box->view(), Qt::Key_Return);
+        for (int row = 0; row < m->items().size(); ++row)
+            QCOMPARE(m->items().at(row)->time(), changed.contains(row) ? 10 : 1);
+        QCOMPARE(m->page->editor().undoStack()->undoText(), QStringLiteral("Change time"));
+        QTRY_VERIFY(!openValues());
+    }
+
+    void listClosesWithoutAChoice()
+    {
+        const int steps = m->page->editor().undoStack()->count();
+        m->select({1});
+        m->table().openValues(SlideTableModel::TransitionColumn);
+        QTRY_VERIFY(openValues() && openValues()->view()->isVisible());
+        QCOMPARE(openValues()->count(), 29);
+        QCOMPARE(openValues()->itemText(2), QStringLiteral("Cross fade"));
+        QTest::keyClick(openValues()->view(), Qt::Key_Escape);
+        QTRY_VERIFY(!openValues());
+        QCOMPARE(m->page->editor().undoStack()->count(), steps);
+    }
+
+    void titleSlideHasNoTransition()
+    {
+        m->select({0});
+        m->table().openValues(SlideTableModel::TransitionColumn);
+        clickAt(cell(0, SlideTableModel::TransitionColumn).center());
+        QCoreApplication::processEvents();
+        QVERIFY(!openValues());
+    }
+
+    void rowButtonsAreClicked()
+    {
+        QSignalSpy clicked(&m->table(), &SlideTable::buttonClicked);
+        m->select({1, 3});
+        clickAt(button(3, 0));
+        QCOMPARE(clicked.size(), 1);
+        QCOMPARE(clicked.first().at(0).value<SlideButton>(), SlideButton::Caption);
+        QCOMPARE(clicked.first().at(1).toInt(), 3);
+        QCOMPARE(m->table().selectionModel()->selectedRows().size(), 2);
+        clickAt(button(2, 1));
+        QCOMPARE(letters(), QStringLiteral("acde"));
+        clickAt(button(0, 1));
+        QVERIFY(!m->items().first()->isShown());
+        clickAt(button(0, 1));
+        QVERIFY(m->items().first()->isShown());
+    }
+
+    void pressThatLeavesTheButtonDoesNothing()
+    {
+        QSignalSpy clicked(&m->table(), &SlideTable::buttonClicked);
+        QTest::mouseMove(m->table().viewport(), button(2, 1));
+        QTest::mousePress(m->table().viewport(), Qt::LeftButton, Qt::NoModifier, button(2, 1));
+        QTest::mouseRelease(m->table().viewport(), Qt::LeftButton, Qt::NoModifier, button(4, 1));
+        QCOMPARE(clicked.size(), 0);
+        QCOMPARE(letters(), QStringLiteral("abcde"));
+    }
+
+    void deletingMovesTheSelectionOn()
+    {
+        m->select({2});
+        QTest::keyClick(&m->table(), Qt::Key_Delete);
+        QCOMPARE(m->table().currentIndex().row(), 2);
+        QTest::keyClick(&m->table(), Qt::Key_Delete);
+        QCOMPARE(letters(), QStringLiteral("ade"));
+    }
+
+    void keysAskForCaptionAndPreview()
+    {
+        QSignalSpy clicked(&m->table(), &SlideTable::buttonClicked);
+        QSignalSpy preview(&m->table(), &SlideTable::previewRequested);
+        m->select({2});
+        m->table().setFocus();
+        QTest::keyClick(&m->table(), Qt::Key_Return);
+        QCOMPARE(clicked.size(), 1);
+        QTest::keyClick(&m->table(), Qt::Key_Space);
+        QCOMPARE(preview.size(), 1);
+    }
+
+    void rowsShowPhotoAndMissingState()
+    {
+        QFile::remove(m->path("b.png"));
+        m->table().slides()->checkFiles();
+        QTRY_VERIFY(m->table().model()->index(2, 0).data(SlideTableModel::MissingRole).toBool());
+        const QRect photo = cell(1, 0);
+        QTRY_COMPARE(m->table().viewport()->grab(photo).toImage().pixelColor(
+                         SlideNumberDelegate::width() / 2 + 10, photo.height() / 2),
+                     QColor(Qt::darkGreen));
+        const QImage text = m->table().viewport()->grab(cell(2, 3)).toImage();
+        bool red = false;
+        for (int y = 0; y < text.height() && !red; ++y) {
+            for (int x = 0; x < text.width() && !red; ++x)
+                red = text.pixelColor(x, y) == QColor(Theme::Danger);
+        }
+        QVERIFY(red);
+    }
+};
+
+QTEST_MAIN(SlideTableTest)
+#include "SlideTableTest.moc"

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/main/Autosave.h"
+#include "ui/main/MainViewFixture.h"
+
+using namespace velmora;
+
+class AutosaveTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QString fileName() const { return m->folder.filePath(QStringLiteral("autosave.json")); }
+
+    std::unique_ptr<MainViewFixture> m;
+
+private slots:
+    void init()
+    {
+        m = std::make_unique<MainViewFixture>();
+        m->store->setValue(QStringLiteral("autosaveSeconds"), 1);
+    }
+    void cleanup()
+    {
+        QCOMPARE(m->dialogs.failure(), QString());
+        m.reset();
+    }
+
+    void changesAreKeptAndRestored_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::newRow("RESTORE") << QStringLiteral("RESTORE");
+        QTest::newRow("DISCARD") << QStringLiteral("DISCARD");
+    }
+
+    void changesAreKeptAndRestored()
+    {
+        QFETCH(QString, answer);
+        m->show();
+        m->view->offerRestore(); // nothing is there
+        m->beginSlideshow();
+        QTRY_VERIFY(QFile::exists(fileName()));
+        m->view.reset(); // as a crash leaves it: the window was not closed
+        QVERIFY(QFile::exists(fileName()));
+
+        m->show();
+        m->dialogs.press(answer);
+        m->view->offerRestore();
+        QVERIFY(m->dialogs.text().contains(QStringLiteral("New project")));
+        if (answer == QLatin1String("DISCARD")) {
+            QCOMPARE(m->view->page(), MainView::Start);
+            QTRY_VERIFY(!QFile::exists(fileName()));
+            return;
+        }
+        QCOMPARE(m->view->page(), MainView::Editor);
+        QCOMPARE(m->photos(), QStringList(QStringLiteral("begin.png")));
+        // What was restored is saved nowhere else yet.
+        QVERIFY(m->view->isWindowModified());
+        m->dialogs.press(QStringLiteral("DON'T SAVE"));
+        QVERIFY(m->view->close());
+        QTRY_VERIFY(!QFile::exists(fileName()));
+    }
+
+    void savedDocumentNeedsNone()
+    {
+        m->show();
+        m->beginSlideshow();
+        QTRY_VERIFY(QFile::exists(fileName()));
+        QString error;
+        QVERIFY(m->view->document().save(m->folder.filePath(QStringLiteral("a.json")), &error));
+        QTRY_VERIFY(!QFile::exists(fileName()));
+    }
+
+    void restoredDocumentRemembersItsFile()
+    {
+        m->show();
+        m->beginSlideshow();
+        QString error;
+        const QString path = m->folder.filePath(QStringLiteral("Trip.json"));
+        QVERIFY(m->view->document().save(path, &error));
+        QTRY_VERIFY(!QFile::exists(fileName()));
+        m->view->editorPage().editor().addPhotos({m->makePhoto(QStringLiteral("b.png"))}, -1);
+        QTRY_VERIFY(QFile::exists(fileName()));
+        m->show();
+        m->dialogs.press(QStringLiteral("RESTORE"));
+        m->view->offerRestore();
+        QCOMPARE(m->view->document().path(), path);
+        QCOMPARE(m->photos().size(), 2);
+    }
+
+    void unusableFileIsDropped_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("cut off") << QByteArray("{\"path\":\"\",\"project\":{\"na");
+        QTest::newRow("no project") << QByteArray("{\"project\": 3}");
+    }
+
+    void unusableFileIsDropped()
+    {
+        QFETCH(QByteArray, content);
+        QFile file(fileName());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        m->show();
+        m->view->offerRestore();
+        QCOMPARE(m->view->page(), MainView::Start);
+        QTRY_VERIFY(!QFile::exists(fileName()));
+    }
+
+    void onlyTheFirstOfSeveralKeepsOne()
+    {
+        m->show();
+        m->beginSlideshow();
+        QTRY_VERIFY(QFile::exists(fileName()));
+        Autosave second(m->view->document(), m->view->editorPage().editor(), m->folder.path(),
+                        1000);
+        QVERIFY(!second.find(m->settings).project);
+        second.clear();
+        second.saveNow();
+        QVERIFY(QFile::exists(fileName()));
+    }
+};
+
+QTEST_MAIN(AutosaveTest)
+#include "AutosaveTest.moc"

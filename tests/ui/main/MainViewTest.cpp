@@ -1,0 +1,448 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Identity.h"
+#include "helpers/PseudoTranslator.h"
+#include "services/MetricSender.h"
+#include "ui/main/MainViewFixture.h"
+
+#include <QAction>
+#include <QDesktopServices>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QStackedWidget>
+
+using namespace velmora;
+
+class MainViewTest : public QObject
+{
+    Q_OBJECT
+
+public slots:
+    void onAddress(const QUrl &address) { m_addresses.append(address.toString()); }
+
+private:
+    QString firstButton() const { return m->child<QPushButton>("btnAddPhoto")->text(); }
+
+    void dropOnStartPage(const QStringList &files)
+    {
+        QList<QUrl> urls;
+        for (const QString &file : files)
+            urls.append(QUrl::fromLocalFile(file));
+        QMimeData data;
+        data.setUrls(urls);
+        auto *area = m->child<QWidget>("dropArea");
+        QDragEnterEvent enter(area->rect().center(), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QVERIFY(QApplication::sendEvent(area, &enter));
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(area->rect().center(), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(area, &drop);
+    }
+
+    /// Types file names into the next file dialog; none: cancels it.
+    void chooseFiles(const QStringList &files)
+    {
+        m->dialogs.expect([this, files](QDialog *dialog) {
+            auto *fileDialog = qobject_cast<QFileDialog *>(dialog);
+            if (!fileDialog)
+                return dialog->reject();
+            m_filters = fileDialog->nameFilters();
+            m_directory = fileDialog->directory().absolutePath();
+            if (files.isEmpty())
+                return dialog->reject();
+            QStringList quoted;
+            for (const QString &file : files)
+                quoted.append(QLatin1Char('"') + file + QLatin1Char('"'));
+            auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+            name->setText(quoted.size() == 1 ? files.first() : quoted.join(QLatin1Char(' ')));
+            QTest::keyClick(name, Qt::Key_Return);
+        });
+    }
+
+    std::unique_ptr<MainViewFixture> m;
+    QStringList m_filters;
+    QString m_directory;
+    QStringList m_addresses;
+
+private slots:
+    void initTestCase()
+    {
+        applyIdentity();
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    }
+    void init()
+    {
+        m = std::make_unique<MainViewFixture>();
+        m->show();
+    }
+    void cleanup()
+    {
+        QCOMPARE(m->dialogs.failure(), QString());
+        m.reset();
+    }
+
+    void beginsOnTheStartPage()
+    {
+        QCOMPARE(m->view->page(), MainView::Start);
+        QCOMPARE(firstButton(), QStringLiteral("Add Photo"));
+        QCOMPARE(m->view->windowTitle(), QStringLiteral("Corvel Velmora"));
+        QVERIFY(!m->child<QLabel>("lblLastProject")->isVisible());
+        QCOMPARE(m->taskbar.window, m->view->windowHandle());
+        QVERIFY(!m->taskbar.visible);
+    }
+
+    void droppedFilesBecomeOneBatch()
+    {
+        const QStringList files = {m->makePhoto(QStringLiteral("b.png")),
+                                   m->makePhoto(QStringLiteral("a.tif")),
+                                   m->makePhoto(QStringLiteral("c.jpg"))};
+        dropOnStartPage(files);
+        QCOMPARE(m->view->page(), MainView::Editor);
+        QTRY_COMPARE(m->photos(), QStringList({QStringLiteral("b.png"), QStringLiteral("a.tif"),
+                                               QStringLiteral("c.jpg")}));
+        QVERIFY(m->view->isWindowModified());
+        QCOMPARE(m->view->windowTitle(), QStringLiteral("New project[*] \u2013 Corvel Velmora"));
+        m->dialogs.press(QStringLiteral("DON'T SAVE"));
+        m->view->close();
+    }
+
+    void photosAreChosen_data()
+    {
+        QTest::addColumn<bool>("fromHistory");
+        QTest::addColumn<bool>("cancelled");
+        QTest::newRow("start page") << false << false;
+        QTest::newRow("cancelled") << false << true;
+        QTest::newRow("history page") << true << false;
+        QTest::newRow("history page, cancelled") << true << true;
+    }
+
+    void photosAreChosen()
+    {
+        QFETCH(bool, fromHistory);
+        QFETCH(bool, cancelled);
+        m->store->setValue(QStringLiteral("last_open_folder"), QStringLiteral("/usr"));
+        QStringList files;
+        if (!cancelled)
+            files = QStringList{m->makePhoto(QStringLiteral("a.png")),
+                                m->makePhoto(QStringLiteral("b b.png"))};
+        if (fromHistory)
+            m->click("btnHistory");
+        chooseFiles(files);
+        m->view->onBtnAddPhotoClicked();
+        QCOMPARE(m->dialogs.title(), QStringLiteral("Open File"));
+        QCOMPARE(m_filters, QStringList(QStringLiteral("Images (*.png *.jpg *.jpeg *.bmp *.gif)")));
+        QCOMPARE(m_directory, QStringLiteral("/usr"));
+        QCOMPARE(m->view->page(), fromHistory || !cancelled ? MainView::Editor : MainView::Start);
+        QCOMPARE(m->store->value(QStringLiteral("last_open_folder")).toString(),
+                 cancelled ? QStringLiteral("/usr") : m->folder.path());
+        if (!cancelled)
+            QTRY_COMPARE(m->photos().size(), 2);
+    }
+
+    void folderIsAdded()
+    {
+        QVERIFY(QDir(m->folder.path()).mkpath(QStringLiteral("album/inner")));
+        m->makePhoto(QStringLiteral("album/img10.png"));
+        m->makePhoto(QStringLiteral("album/img2.png"));
+        m->makePhoto(QStringLiteral("album/inner/x.png"));
+        const QString album = m->folder.filePath(QStringLiteral("album"));
+        chooseFiles({album});
+        m->click("btnAddFolder");
+        QCOMPARE(m->dialogs.title(), QStringLiteral("Add Folder"));
+        QTRY_COMPARE(m->photos(),
+                     QStringList({QStringLiteral("img2.png"), QStringLiteral("img10.png"),
+                                  QStringLiteral("x.png")}));
+        QCOMPARE(m->store->value(QStringLiteral("last_open_folder")).toString(), album);
+    }
+
+    void backLeavesTheHistory()
+    {
+        m->click("btnHistory");
+        QCOMPARE(m->view->page(), MainView::History);
+        QCOMPARE(firstButton(), QStringLiteral("Back"));
+        m->click("btnAddPhoto");
+        QCOMPARE(m->view->page(), MainView::Start);
+        QCOMPARE(firstButton(), QStringLiteral("Add Photo"));
+        m->beginSlideshow();
+        m->click("btnHistory");
+        m->press(Qt::Key_Left, Qt::AltModifier);
+        QCOMPARE(m->view->page(), MainView::Editor);
+    }
+
+    void renderLocksTheToolRow()
+    {
+        m->beginSlideshow();
+        MainWindowWidget &editor = m->view->editorPage();
+        const auto locked = [this] {
+            int count = 0;
+            for (const char *name :
+                 {"btnAddPhoto", "btnAddFolder", "btnHistory", "btnSettings", "btnHelp"})
+                count += m->child<QWidget>(name)->isEnabled() ? 0 : 1;
+            return count;
+        };
+        emit editor.progressStarted();
+        QCOMPARE(locked(), 4);
+        QVERIFY(m->child<QWidget>("btnHelp")->isEnabled());
+        QVERIFY(m->taskbar.visible);
+        QCOMPARE(m->taskbar.value, 0);
+        emit editor.progress(42);
+        QCOMPARE(m->taskbar.value, 42);
+        emit editor.progressFinished();
+        QCOMPARE(locked(), 0);
+        QVERIFY(!m->taskbar.visible);
+    }
+
+    void finishedVideoIsShownInTheHistory()
+    {
+        m->beginSlideshow();
+        auto made = std::make_unique<ProjectFile>(m->settings, ProjectFile::TitleSlide::Create);
+        made->setFileName(m->folder.filePath(QStringLiteral("new.mp4")));
+        m->history->add(std::move(made));
+        QWidget other;
+        other.show();
+        QApplication::setActiveWindow(&other);
+        emit m->view->editorPage().finished(m->folder.filePath(QStringLiteral("new.mp4")));
+        QCOMPARE(m->view->page(), MainView::History);
+        QCOMPARE(m->notification.texts, QStringList(QStringLiteral("new.mp4")));
+        QVERIFY(m->child<QLabel>("lblLastProject")->isVisible());
+        emit m->child<QLabel>("lblLastProject")->linkActivated(QStringLiteral("folder"));
+        QCOMPARE(m->fileManager.paths, QStringList(m->folder.filePath(QStringLiteral("new.mp4"))));
+        // The history keeps the slideshow, so that nothing would be lost.
+        QVERIFY(!m->view->isWindowModified());
+        QVERIFY(m->view->close());
+    }
+
+    void resumeAsksAboutMissingFiles_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::newRow("RESUME") << QStringLiteral("RESUME");
+        QTest::newRow("CANCEL") << QStringLiteral("CANCEL");
+    }
+
+    void resumeAsksAboutMissingFiles()
+    {
+        QFETCH(QString, answer);
+        auto entry = std::make_unique<ProjectFile>(m->settings, ProjectFile::TitleSlide::Create);
+        entry->setName(QStringLiteral("Old trip"));
+        entry->addFiles({m->makePhoto(QStringLiteral("there.png")),
+                         m->folder.filePath(QStringLiteral("gone.png"))},
+                        3, 1);
+        AudioItemList audio;
+        audio.items = {{m->folder.filePath(QStringLiteral("gone.mp3")), QStringLiteral("0:03")}};
+        entry->setAudio(audio);
+        m->history->add(std::move(entry));
+        m->show();
+        QCOMPARE(m->child<QPushButton>("btnRecent")->text(),
+                 QStringLiteral("Continue with Old trip"));
+        m->dialogs.press(answer);
+        m->click("btnRecent");
+        QTRY_COMPARE(m->dialogs.title(), QStringLiteral("Not all files exist"));
+        QCOMPARE(m->dialogs.text(),
+                 QStringLiteral("Not all files exist, do you want to resume the project?"));
+        if (answer == QLatin1String("CANCEL")) {
+            QVERIFY(!m->view->document().project());
+            QCOMPARE(m->view->page(), MainView::Start);
+            return;
+        }
+        QTRY_COMPARE(m->view->page(), MainView::Editor);
+        QCOMPARE(m->photos(), QStringList(QStringLiteral("there.png")));
+        QVERIFY(m->view->document().project()->audio().items.isEmpty());
+        QVERIFY(!m->view->isWindowModified());
+        // The history still has the whole of it.
+        QCOMPARE(m->history->projects().front()->items().size(), 3);
+    }
+
+    void documentIsOpenedChangedAndSaved()
+    {
+        ProjectFile document(m->settings, ProjectFile::TitleSlide::Create);
+        document.addFiles({m->makePhoto(QStringLiteral("a.png"))}, 3, 1);
+        const QString path = m->folder.filePath(QStringLiteral("Holiday 2026.json"));
+        QVERIFY(document.saveToFile(path));
+        chooseFiles({path});
+        m->press(Qt::Key_O, Qt::ControlModifier);
+        QCOMPARE(m->view->page(), MainView::Editor);
+        QCOMPARE(m->view->windowTitle(), QStringLiteral("Holiday 2026[*] \u2013 Corvel Velmora"));
+        QVERIFY(!m->view->isWindowModified());
+        m->view->editorPage().editor().addPhotos({m->makePhoto(QStringLiteral("b.png"))}, -1);
+        QVERIFY(m->view->isWindowModified());
+        m->press(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(!m->view->isWindowModified());
+        QString error;
+        const auto read = ProjectFile::loadFromFile(path, m->settings, &error);
+        QVERIFY2(read, qPrintable(error));
+        QCOMPARE(read->items().size(), 3);
+
+        const QString copy = m->folder.filePath(QStringLiteral("copy"));
+        chooseFiles({copy});
+        m->press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY(QFile::exists(copy + QStringLiteral(".json")));
+        m->press(Qt::Key_N, Qt::ControlModifier);
+        QCOMPARE(m->view->page(), MainView::Start);
+        QVERIFY(!m->view->document().project());
+    }
+
+    void badDocumentChangesNothing_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("no JSON") << QByteArray("hello");
+        QTest::newRow("no project") << QByteArray("{\"a\": 1}");
+        QTest::newRow("empty") << QByteArray();
+    }
+
+    void badDocumentChangesNothing()
+    {
+        QFETCH(QByteArray, content);
+        m->beginSlideshow();
+        QFile file(m->folder.filePath(QStringLiteral("bad.json")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        m->dialogs.press(QStringLiteral("CLOSE"));
+        m->view->openFiles({file.fileName()});
+        QVERIFY(m->dialogs.text().contains(QStringLiteral("bad.json")));
+        QCOMPARE(m->photos(), QStringList(QStringLiteral("begin.png")));
+        QVERIFY(m->view->isWindowModified());
+    }
+
+    void closingAsks_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<bool>("closed");
+        QTest::addColumn<bool>("saved");
+        QTest::newRow("cancel") << QStringLiteral("CANCEL") << false << false;
+        QTest::newRow("discard") << QStringLiteral("DON'T SAVE") << true << false;
+        QTest::newRow("save") << QStringLiteral("SAVE") << true << true;
+    }
+
+    void closingAsks()
+    {
+        QFETCH(QString, answer);
+        QFETCH(bool, closed);
+        QFETCH(bool, saved);
+        m->beginSlideshow();
+        const QString path = m->folder.filePath(QStringLiteral("mine.json"));
+        m->dialogs.press(answer);
+        if (saved)
+            chooseFiles({path});
+        m->view->close();
+        QCOMPARE(m->view->isVisible(), !closed);
+        QCOMPARE(QFile::exists(path), saved);
+    }
+
+    void geometryIsKept()
+    {
+        m->view->resize(1111, 777);
+        QVERIFY(m->view->close());
+        m->show();
+        QCOMPARE(m->view->size(), QSize(1111, 777));
+
+        m->view->close();
+        m->store->setValue(QStringLiteral("geometry"), QStringLiteral("garbage"));
+        m->show();
+        QVERIFY(m->view->width() >= m->view->minimumWidth());
+        const QRect screen = m->view->screen()->availableGeometry();
+        QVERIFY(screen.adjusted(-2, -2, 2, 2).contains(m->view->frameGeometry()) ||
+                screen.width() < m->view->minimumWidth());
+    }
+
+    void secondStartRaisesAndOpens()
+    {
+        m->view->showMinimized();
+        QTRY_VERIFY(m->view->isMinimized());
+        const QString photo = m->makePhoto(QStringLiteral("ß 1\u00e9.png"));
+        m->view->onMessageReceived(QStringLiteral("Wake up!\n") +
+                                   QUrl::fromLocalFile(photo).toString(QUrl::FullyEncoded));
+        QTRY_VERIFY(!m->view->isMinimized());
+        QTRY_COMPARE(m->photos().size(), 1);
+    }
+
+    void helpNamesThePlace_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QString>("place");
+        QTest::newRow("start") << int(MainView::Start) << QStringLiteral("help_splash");
+        QTest::newRow("editor") << int(MainView::Editor) << QStringLiteral("help_main");
+        QTest::newRow("history") << int(MainView::History) << QStringLiteral("help_history");
+    }
+
+    void helpNamesThePlace()
+    {
+        QFETCH(int, page);
+        QFETCH(QString, place);
+        qputenv("VELMORA_SITE_MANUAL", "test://manual/%1.html");
+        m_addresses.clear();
+        QDesktopServices::setUrlHandler(QStringLiteral("test"), this, "onAddress");
+        m->child<QStackedWidget>("pages")->setCurrentIndex(page);
+        m->click("btnHelp");
+        QCOMPARE(m_addresses, QStringList(QStringLiteral("test://manual/%1.html").arg(place)));
+        QDesktopServices::unsetUrlHandler(QStringLiteral("test"));
+
+        // Without a browser it is a usage event and no message.
+        MetricSender::instance().configure(QUrl(QStringLiteral("http://127.0.0.1:9/")), {}, 99,
+                                           true);
+        m->click("btnHelp");
+        QVERIFY(MetricSender::instance().pending().join(QString()).contains(
+            QStringLiteral("err0:") + place));
+        MetricSender::instance().configure(QUrl(), {}, 99, false);
+        qunsetenv("VELMORA_SITE_MANUAL");
+    }
+
+    void builtInHelpListsTheKeys()
+    {
+        QStringList texts;
+        m->dialogs.expect([&texts](QDialog *dialog) {
+            for (const QLabel *label : dialog->findChildren<QLabel *>())
+                texts.append(label->text());
+            dialog->reject();
+        });
+        m->press(Qt::Key_F1);
+        for (const char *keys : {"Ctrl+O", "Ctrl+Shift+S", "F11", "Ctrl+Z", "Ctrl+R"})
+            QVERIFY2(texts.contains(QLatin1String(keys)), keys);
+        QCOMPARE(texts.count(QStringLiteral("Ctrl+S")), 1);
+    }
+
+    void fullScreenIsToggled()
+    {
+        m->press(Qt::Key_F11);
+        QTRY_VERIFY(m->view->isFullScreen());
+        m->press(Qt::Key_Escape);
+        QTRY_VERIFY(!m->view->isFullScreen());
+    }
+
+    void settingsReachTheEditor()
+    {
+        QSignalSpy saved(m->view.get(), &MainView::settingsSaved);
+        m->press(Qt::Key_Comma, Qt::ControlModifier);
+        auto *panel = m->child<QWidget>("settingsWidget");
+        QTRY_VERIFY(panel->isVisible());
+        m->click("btnSave");
+        QCOMPARE(saved.count(), 1);
+        QTRY_VERIFY(!panel->isVisible());
+    }
+
+    void everyTextIsTranslatedAtOnce()
+    {
+        auto entry = std::make_unique<ProjectFile>(m->settings, ProjectFile::TitleSlide::Create);
+        entry->setFileName(m->folder.filePath(QStringLiteral("new.mp4")));
+        m->history->add(std::move(entry));
+        m->show();
+        PseudoTranslator translator;
+        qApp->installTranslator(&translator);
+        QTRY_COMPARE(firstButton(), PseudoTranslator::of("Add Photo"));
+        for (const char *name : {"startPage", "toolRow", "titleBar"})
+            QCOMPARE(PseudoTranslator::untranslated(*m->child<QWidget>(name),
+                                                    {QStringLiteral("Corvel Velmora")})
+                         .join(QLatin1Char('\n')),
+                     QString());
+        for (const QAction *action : m->view->actions())
+            QVERIFY2(action->text().startsWith(QLatin1Char('[')), qPrintable(action->text()));
+        qApp->removeTranslator(&translator);
+        QTRY_COMPARE(firstButton(), QStringLiteral("Add Photo"));
+    }
+};
+
+QTEST_MAIN(MainViewTest)
+#include "MainViewTest.moc"

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// sharinggallery FOLDER PHOTOS...: saves the pages of history, final page, burning and update
+// notice as pictures, with PHOTOS in the rows of the history.
+#include "app/AppSettings.h"
+#include "chrome/MessageDialog.h"
+#include "chrome/Theme.h"
+#include "platform/null/NullFileManager.h"
+#include "sharing/burning/BurnController.h"
+#include "sharing/burning/BurnDialog.h"
+#include "sharing/burning/FakeDiscWriter.h"
+#include "sharing/history/FinalWindow.h"
+#include "sharing/history/HistoryFixture.h"
+#include "sharing/history/HistoryWidget.h"
+#include "sharing/history/UploadServiceMenu.h"
+#include "sharing/upload/UploadController.h"
+#include "ui/update/UpdateDialog.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSettings>
+#include <QStackedWidget>
+
+using namespace velmora;
+
+namespace
+{
+
+QString s_folder;
+
+void wait(int milliseconds)
+{
+    const QDeadlineTimer deadline(milliseconds);
+    while (!deadline.hasExpired())
+        QApplication::processEvents(QEventLoop::AllEvents, 20);
+}
+
+void save(QWidget &widget, const char *name)
+{
+    widget.show();
+    wait(300);
+    widget.grab().save(QDir(s_folder).filePath(QLatin1String(name)));
+}
+
+void fill(HistoryFixture &history, const QStringList &photos)
+{
+    const char *names[] = {"Summer at the lake.mp4",
+                           "Birthday 2026.mp4",
+                           "Norway.mkv",
+                           "Hochzeit Öl & Wein.mp4",
+                           "A very long name of a video that has to be "
+                           "shortened in the middle to fit its place.mp4",
+                           "Garden.webm",
+                           "First steps.avi"};
+    int i = 0;
+    for (const char *name : names) {
+        ProjectFile *project = history.add("x", -1, {});
+        project->setFileName(history.folder.filePath(QString::fromUtf8(name)));
+        project->setResolution(i % 2 ? QSize(1280, 720) : QSize(3840, 2160));
+        if (!photos.isEmpty())
+            project->addFiles({photos.at(i % photos.size())}, 4, 1);
+        if (i != 2)
+            HistoryFixture::write(project->fileName(), 1048576LL * (3 + i * i * 57),
+                                  QDate(2026, 1 + i, 3 + i));
+        ++i;
+    }
+}
+
+void showHistory(const QStringList &photos)
+{
+    HistoryFixture history;
+    const auto store = openSettings(history.path("settings.ini"));
+    UploadController uploads(ServicesConfig(), *store);
+    HistoryWidget empty(history.store, history.settings);
+    empty.resize(1024, 640);
+    save(empty, "history-empty.png");
+    fill(history, photos);
+    HistoryWidget widget(history.store, history.settings);
+    widget.setUploads(&uploads);
+    widget.resize(1024, 640);
+    save(widget, "history.png");
+    widget.findChild<QFrame *>(QStringLiteral("undoBar"))->show();
+    widget.findChild<QLabel *>(QStringLiteral("lblUndo"))
+        ->setText(QStringLiteral("1 video removed from the history."));
+    widget.resize(1440, 900);
+    save(widget, "history-undo.png");
+    UploadServiceMenu menu(&widget);
+    menu.popUp(*widget.findChild<QPushButton *>(QStringLiteral("btnUpload")));
+    save(menu, "service-menu.png");
+    menu.close();
+    auto *pages = widget.findChild<QStackedWidget *>(QStringLiteral("pages"));
+    widget.findChild<QLabel *>(QStringLiteral("labelUploadText"))
+        ->setText(QStringLiteral("Uploading Summer at the lake.mp4 to Google Drive"));
+    widget.findChild<QLabel *>(QStringLiteral("labelUploadTime"))
+        ->setText(QStringLiteral("Elapsed: 00:01:23"));
+    widget.findChild<QProgressBar *>(QStringLiteral("progressBar"))->setValue(42);
+    widget.findChild<QLabel *>(QStringLiteral("lblWaitingTitle"))
+        ->setText(QStringLiteral("Connect to Google Drive"));
+    widget.resize(1024, 640);
+    pages->setCurrentWidget(widget.findChild<QWidget *>(QStringLiteral("pgUpload")));
+    save(widget, "upload-progress.png");
+    pages->setCurrentWidget(widget.findChild<QWidget *>(QStringLiteral("Oauth2Waiting")));
+    save(widget, "upload-waiting.png");
+}
+
+void showBurning()
+{
+    FakeDiscWriter::State state;
+    state.media.present = true;
+    state.media.appendable = true;
+    state.media.erasable = true;
+    state.media.freeBytes = 4483LL * 1048576;
+    state.media.erasedBytes = 4483LL * 1048576;
+    state.media.volumeName = QStringLiteral("Holidays 2025");
+    BurnController controller(std::make_unique<FakeDiscWriter>(state));
+    BurnDialog dialog(controller, QStringLiteral("/home/me/Summer at the lake.mp4"), QString());
+    save(dialog, "burn-settings.png");
+    dialog.findChild<QPushButton *>(QStringLiteral("btnBurn"))->click();
+    wait(300);
+    save(dialog, "burn-not-empty.png");
+    state.hold = true;
+    dialog.findChild<QPushButton *>(QStringLiteral("btnNo"))->click();
+    wait(300);
+    save(dialog, "burn-progress.png");
+    state.hold = false;
+    wait(500);
+    save(dialog, "burn-result.png");
+    controller.cancel();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    Theme::install(application);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() < 2)
+        return 2;
+    s_folder = arguments.at(1);
+    QDir().mkpath(s_folder);
+    showHistory(arguments.mid(2));
+    showBurning();
+    NullFileManager manager;
+    FinalWindow final(QStringLiteral("/home/me/Summer at the lake.mp4"), manager);
+    save(final, "final.png");
+    UpdateDialog update(QStringLiteral("4.0.1"), QUrl(QStringLiteral("https://example.org/get")),
+                        QUrl(QStringLiteral("https://example.org/notes")));
+    save(update, "update.png");
+    return 0;
+}
