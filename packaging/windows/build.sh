@@ -1,10 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Cross-builds Velmora for 64-bit Windows.
-#   build.sh SDK [--installer] [--test]
+#   build.sh SDK [--installer]
 #     SDK          the archive velmora-windows-sdk.tar.xz, or a folder with its content
 #     --installer  also make an installer (NSIS)
-#     --test       also run the tests under Wine
 # Makes build/windows/velmora-VERSION-windows.zip and the same as a folder; what lies in it runs
 # without installation.
 set -euo pipefail
@@ -16,11 +15,10 @@ source packaging/linux/dependencies.sh
 source packaging/windows/dependencies.sh
 
 usage() { sed -n 's/^#   //p' "$0"; }
-given= installer=no test=no
+given= installer=no
 for argument in "$@"; do
     case $argument in
     --installer) installer=yes ;;
-    --test) test=yes ;;
     -h | --help)
         usage
         exit 0
@@ -37,8 +35,7 @@ VELMORA_WINDOWS_SDK=$(packaging/windows/prepare-sdk.sh "$given")
 export VELMORA_WINDOWS_SDK
 build=$top/build/windows
 mkdir -p "$build"
-cmake --preset windows -DVELMORA_BUILD_TESTS=$([ "$test" = yes ] && echo ON || echo OFF) \
-    >"$build/configure.log" || {
+cmake --preset windows -DVELMORA_BUILD_TESTS=OFF >"$build/configure.log" || {
     cat "$build/configure.log"
     exit 1
 }
@@ -62,4 +59,3 @@ if [ "$installer" = yes ]; then
         -DOUTPUT="$build/velmora-$version-setup.exe" packaging/windows/installer.nsi
     echo "Made build/windows/velmora-$version-setup.exe"
 fi
-[ "$test" = no ] || packaging/windows/test-under-wine.sh

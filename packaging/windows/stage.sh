@@ -14,6 +14,7 @@ for program in velmora velmoratool transcoder; do
 done
 cp "$sdk/bin/ffmpeg.exe" "$folder/"
 cp -r "$bin/translations" "$folder/"
+cp -r "$top/examples" "$folder/"
 for plugin in platforms/qwindows imageformats/qjpeg imageformats/qgif imageformats/qico \
     styles/qwindowsvistastyle audio/qtaudio_windows mediaservice/dsengine \
     mediaservice/qtmedia_audioengine playlistformats/qtmultimedia_m3u; do
