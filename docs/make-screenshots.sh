@@ -5,7 +5,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 bin=build/${1:-dev}/bin
-folder=docs/screenshots
+folder=${SHOTS:-docs/screenshots}
 mkdir -p "$folder"
 export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 screen=(xvfb-run -a -s "-screen 0 1600x1000x24")

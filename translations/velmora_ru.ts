@@ -1846,7 +1846,7 @@ Press "Cancel" to cancel the operation.</source>
     </message>
     <message>
         <source>Duration</source>
-        <translation>Длительность</translation>
+        <translation>Длина</translation>
     </message>
     <message>
         <source>Size</source>

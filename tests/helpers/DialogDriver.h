@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -59,7 +60,7 @@ private:
         // An act may open a dialog of its own, and a timer does not meet itself.
         m_timer.start(kInterval);
         auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (!dialog || !dialog->isVisible())
+        if (!dialog || !dialog->isVisible() || dialog == m_inWork)
             return;
         m_title = dialog->windowTitle();
         const auto *label = dialog->findChild<QLabel *>(QStringLiteral("lblText"));
@@ -72,11 +73,15 @@ private:
             return;
         }
         const Act act = m_acts.takeFirst();
+        const QPointer<QDialog> outer = m_inWork;
+        m_inWork = dialog;
         act(dialog);
+        m_inWork = outer;
     }
 
     QTimer m_timer;
     QVector<Act> m_acts;
+    QPointer<QDialog> m_inWork; ///< The act may process events.
     QString m_title;
     QString m_text;
     QString m_failure;

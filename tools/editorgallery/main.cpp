@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // editorgallery FOLDER LANGUAGE PHOTOS...: saves every page of the main window as a picture.
+#include "app/Identity.h"
 #include "app/Translations.h"
 #include "chrome/Theme.h"
 #include "project/frames/CaptionFont.h"
@@ -13,6 +14,7 @@ using namespace velmora;
 
 int main(int argc, char **argv)
 {
+    applyIdentity();
     QApplication application(argc, argv);
     Theme::install(application);
     registerFontSubstitutes();
@@ -27,6 +29,7 @@ int main(int argc, char **argv)
         QCoreApplication::installTranslator(&translator);
     MainViewFixture fixture;
     fixture.settings.locale = arguments.at(2);
+    fixture.settings.outputProfile = QStringLiteral("original");
     fixture.settings.resolution = QSize(1920, 1080);
     PageTour tour(fixture, [&folder](const QString &name, QWidget &page) {
         QTest::qWait(2000); // Thumbnails and previews come later than the page.

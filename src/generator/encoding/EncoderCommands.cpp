@@ -51,8 +51,11 @@ QString EncoderCommands::frameFile(const QString &imagesFolder, const QString &p
 QStringList EncoderCommands::segment(const QString &imagesFolder, const QString &prefix, int frames,
                                      qint64 duration, const OutputFormat &format)
 {
-    QStringList arguments = frames == 1 ? stillInput(imagesFolder, prefix, duration)
-                                        : sequenceInput(imagesFolder, prefix, frames, duration);
+    // One decoder thread: the encoder's threads use the time that a frame takes to decode, and each
+    // further decoder would only want memory for frames of its own.
+    QStringList arguments{QStringLiteral("-threads"), QStringLiteral("1")};
+    arguments += frames == 1 ? stillInput(imagesFolder, prefix, duration)
+                             : sequenceInput(imagesFolder, prefix, frames, duration);
     arguments << QStringLiteral("-r") << QString::number(EncoderOptions::kFramesPerSecond)
               << QStringLiteral("-vf")
               << EncoderOptions::videoFilter(format.extension, format.profile)

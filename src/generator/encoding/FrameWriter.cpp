@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/encoding/FrameWriter.h"
 
+#include "generator/encoding/JpegBlocks.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -36,6 +38,14 @@ QString writeError(const QFile &file, qint64 needed)
         .arg(QDir::toNativeSeparators(file.fileName()), file.errorString());
 }
 
+QString compressionError(const QSize &size)
+{
+    return QCoreApplication::translate("velmora::FrameWriter",
+                                       "A frame of %1x%2 pixels cannot be compressed.")
+        .arg(size.width())
+        .arg(size.height());
+}
+
 } // namespace
 
 struct FrameWriter::Compressor {
@@ -55,10 +65,29 @@ FrameWriter::~FrameWriter() = default;
 
 bool FrameWriter::write(const QImage &frame, const QString &path, QString *error)
 {
-    const bool direct = frame.format() == QImage::Format_RGB32;
     unsigned long size = 0;
-    return compress(direct ? frame : frame.convertToFormat(QImage::Format_RGB32), &size, error) &&
+    return compress(frame.convertToFormat(QImage::Format_RGB32), &size, error) &&
            store(path, static_cast<qint64>(size), error);
+}
+
+bool FrameWriter::write(const JpegBlocks &frame, const QString &path, QString *error)
+{
+    const size_t size = frame.write(m_buffer);
+    if (size > 0)
+        return store(path, static_cast<qint64>(size), error);
+    *error = compressionError(frame.size());
+    return false;
+}
+
+bool FrameWriter::toBlocks(const QImage &frame, JpegBlocks *blocks, QString *error)
+{
+    unsigned long size = 0;
+    if (!compress(frame.convertToFormat(QImage::Format_RGB32), &size, error))
+        return false;
+    if (blocks->read(m_buffer.data(), size))
+        return true;
+    *error = compressionError(frame.size());
+    return false;
 }
 
 bool FrameWriter::compress(const QImage &frame, unsigned long *size, QString *error)
@@ -74,10 +103,7 @@ bool FrameWriter::compress(const QImage &frame, unsigned long *size, QString *er
                                          frame.bytesPerLine(), frame.height(), kPixelFormat,
                                          &buffer, size, TJSAMP_420, kQuality, TJFLAG_NOREALLOC);
     if (result != 0)
-        *error = QCoreApplication::translate("velmora::FrameWriter",
-                                             "A frame of %1x%2 pixels cannot be compressed.")
-                     .arg(frame.width())
-                     .arg(frame.height());
+        *error = compressionError(frame.size());
     return result == 0;
 }
 

@@ -12,6 +12,8 @@ class QImage;
 namespace velmora
 {
 
+class JpegBlocks;
+
 /// Saves frames as JPEG files of quality 100. Keeps its compressor and its buffer from frame to
 /// frame; one object per thread.
 class FrameWriter
@@ -25,6 +27,9 @@ public:
     /// Replaces @p path. False with a plain reason in @p error ("The disk is full."); the file may
     /// then be incomplete.
     bool write(const QImage &frame, const QString &path, QString *error);
+    bool write(const JpegBlocks &frame, const QString &path, QString *error);
+    /// The blocks of the file that write() would make of @p frame.
+    bool toBlocks(const QImage &frame, JpegBlocks *blocks, QString *error);
 
 private:
     struct Compressor;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "generator/encoding/EncoderOptions.h"
+#include "generator/encoding/FadeComposer.h"
 #include "generator/encoding/FrameWriter.h"
 #include "generator/encoding/ToolRunner.h"
 #include "project/documents/AudioItemList.h"
@@ -91,6 +92,8 @@ public:
 
 private:
     bool fail(const QString &reason);
+    template <typename Frame> bool store(const Frame &frame, const QString &path);
+    bool saveFadeFrame(const Fade &fade, const QImage &from, const QImage &to, const QString &path);
     ToolResult runEncoder(const QStringList &arguments, bool feedProgress) const;
     bool acceptOutput(const ToolResult &result, const QString &temporaryFile,
                       const QString &outputFile);
@@ -98,6 +101,7 @@ private:
     EncodingContext &m_context;
     QString m_errorText;
     QImage m_transitionFrame;
+    FadeComposer m_fadeComposer;
     FrameWriter m_frameWriter;
 };
 

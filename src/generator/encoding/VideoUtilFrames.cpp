@@ -16,9 +16,8 @@ QString VideoUtil::frameFile(const QString &prefix, int number) const
                                       number);
 }
 
-bool VideoUtil::saveFrame(const QImage &frame, const QString &prefix, int number)
+template <typename Frame> bool VideoUtil::store(const Frame &frame, const QString &path)
 {
-    const QString path = frameFile(prefix, number);
     QString error;
     if (m_frameWriter.write(frame, path, &error))
         return true;
@@ -26,11 +25,31 @@ bool VideoUtil::saveFrame(const QImage &frame, const QString &prefix, int number
     return fail(error);
 }
 
+bool VideoUtil::saveFrame(const QImage &frame, const QString &prefix, int number)
+{
+    return store(frame, frameFile(prefix, number));
+}
+
 bool VideoUtil::saveTransitionFrame(TransitionType type, int number, const QImage &from,
                                     const QImage &to, const QString &prefix, int count)
 {
-    renderTransitionFrame(type, from, to, {number - 1, count}, m_transitionFrame);
+    const TransitionPosition position{number - 1, count};
+    const std::optional<Fade> fade = fadeAt(type, position);
+    if (fade && !from.isNull() && from.size() == to.size())
+        return saveFadeFrame(*fade, from, to, frameFile(prefix, number));
+    renderTransitionFrame(type, from, to, position, m_transitionFrame);
     return saveFrame(m_transitionFrame, prefix, number);
+}
+
+bool VideoUtil::saveFadeFrame(const Fade &fade, const QImage &from, const QImage &to,
+                              const QString &path)
+{
+    QString error;
+    const JpegBlocks *frame = m_fadeComposer.compose(fade, from, to, m_frameWriter, &error);
+    if (frame)
+        return store(*frame, path);
+    qCCritical(generatorLog).noquote() << "CAN NOT SAVE IMG TO:" << path;
+    return fail(error);
 }
 
 void VideoUtil::removeFrames(const QString &prefix, int count) const

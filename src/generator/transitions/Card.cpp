@@ -16,7 +16,10 @@ namespace velmora
 namespace
 {
 
-constexpr int kBand = 32; ///< columns painted together
+constexpr int kBand = 64;        ///< columns painted together
+constexpr double kLevel = 0.005; ///< slope up to which the processor foresees what is read
+constexpr int kLine = 16;        ///< pixels that memory gives at a time
+constexpr int kRowsAhead = 12;
 
 std::array<QPointF, 4> cornersOf(const Card &card)
 {
@@ -31,11 +34,25 @@ double length(const QPointF &way)
     return std::hypot(way.x(), way.y());
 }
 
+ColumnSpan cut(ColumnSpan span, ColumnSpan band)
+{
+    return {std::max(span.begin, band.begin), std::min(span.end, band.end)};
+}
+
 /// How often the picture can be halved so that it is still at least as large as it appears.
 int reduction(int pixels, double shown)
 {
     const double halvings = std::floor(std::log2(pixels / std::max(shown, 1.0)) + 1e-6);
     return static_cast<int>(std::clamp(halvings, 0.0, double(ReducedPicture::kMaxLevel)));
+}
+
+/// How steep the upper or the lower edge is, whichever is steeper.
+double slopeOf(const std::array<QPointF, 4> &corners)
+{
+    const auto slope = [](const QPointF &way) {
+        return std::abs(way.y()) / std::max(std::abs(way.x()), 1e-3);
+    };
+    return std::max(slope(corners[1] - corners[0]), slope(corners[2] - corners[3]));
 }
 
 /// What a row shows of a shape: the pixels it touches, those it covers wholly, and among them
@@ -59,15 +76,38 @@ RowSpans spansOf(int row, const QuadShape &shape, const QuadShape *hidden, int w
     return spans;
 }
 
-/// Paints a run of pixels of one row that share an opacity.
+/// Paints parts of single rows of a card.
 class CardPainter
 {
 public:
-    CardPainter(const TargetArea &target, const Card &card, const CardSampler &sampler)
-        : m_target(target), m_card(card), m_sampler(sampler)
+    CardPainter(const TargetArea &target, const Card &card, const QuadShape &shape,
+                const CardSampler &sampler)
+        : m_target(target), m_card(card), m_shape(shape), m_sampler(sampler)
     {
     }
 
+    /// Asks for the memory of a span of a row: the target's, and with a @p step the picture's for
+    /// every so many pixels.
+    void fetch(int row, ColumnSpan span, int step) const
+    {
+        for (int x = span.begin; x < span.end; x += kLine)
+            __builtin_prefetch(m_target.row(row) + x, 1);
+        if (step > 0)
+            m_sampler.fetch(row, span, step);
+    }
+
+    /// The part of a row of the card that lies in @p band, without the hidden pixels.
+    void paintRow(int row, const RowSpans &spans, ColumnSpan band) const
+    {
+        const auto inBand = [band](int begin, int end) { return cut({begin, end}, band); };
+        const ColumnSpan &inner = spans.inner;
+        paintEdge(row, inBand(spans.touched.begin, inner.begin));
+        paint(row, inBand(inner.begin, std::min(spans.gap.begin, inner.end)), m_card.opacity);
+        paint(row, inBand(std::max(spans.gap.end, inner.begin), inner.end), m_card.opacity);
+        paintEdge(row, inBand(inner.end, spans.touched.end));
+    }
+
+private:
     void paint(int row, ColumnSpan span, int opacity) const
     {
         std::array<QRgb, CardSampler::kRun> pixels;
@@ -83,24 +123,10 @@ public:
         }
     }
 
-    /// The part of a row of the card that lies in @p band, without the hidden pixels.
-    void paintRow(int row, const RowSpans &spans, ColumnSpan band, const QuadShape &shape) const
-    {
-        const auto inBand = [band](int begin, int end) {
-            return ColumnSpan{std::max(begin, band.begin), std::min(end, band.end)};
-        };
-        const ColumnSpan &inner = spans.inner;
-        paintEdge(row, inBand(spans.touched.begin, inner.begin), shape);
-        paint(row, inBand(inner.begin, std::min(spans.gap.begin, inner.end)), m_card.opacity);
-        paint(row, inBand(std::max(spans.gap.end, inner.begin), inner.end), m_card.opacity);
-        paintEdge(row, inBand(inner.end, spans.touched.end), shape);
-    }
-
-private:
-    void paintEdge(int row, ColumnSpan span, const QuadShape &shape) const
+    void paintEdge(int row, ColumnSpan span) const
     {
         for (int x = span.begin; x < span.end; ++x) {
-            const double covered = shape.coverage(x, row);
+            const double covered = m_shape.coverage(x, row);
             if (covered > 0)
                 paint(row, {x, x + 1}, weightOf(covered * m_card.opacity / kFullWeight));
         }
@@ -108,6 +134,7 @@ private:
 
     TargetArea m_target;
     const Card &m_card;
+    const QuadShape &m_shape;
     const CardSampler &m_sampler;
 };
 
@@ -135,6 +162,31 @@ void shadeRow(const TargetArea &target, const QuadShape &shape, int row, ColumnS
     }
 }
 
+/// Columns that are painted together, and how steeply a row of them crosses the picture.
+struct Band {
+    ColumnSpan columns;
+    double slope;
+};
+
+/// A row of a turned card crosses many rows of the picture, which the processor does not foresee:
+/// in a narrow band, memory is asked for some rows before it is read and written.
+void paintBand(const CardPainter &painter, const Band &band, const ColumnSpan &rows,
+               const std::vector<RowSpans> &spans)
+{
+    const bool narrow = band.slope > kLevel;
+    const double slope = std::clamp(band.slope, 1.0 / kLine, 1.0);
+    const int pixelsTogether = static_cast<int>(1 / slope);
+    const int rowsTogether = std::max(1, static_cast<int>(kLine / 2 * slope));
+    for (int y = rows.begin; y < rows.end; ++y) {
+        const int next = y + kRowsAhead;
+        if (narrow && next < rows.end)
+            painter.fetch(next,
+                          cut(spans[static_cast<size_t>(next - rows.begin)].touched, band.columns),
+                          y % rowsTogether == 0 ? pixelsTogether : 0);
+        painter.paintRow(y, spans[static_cast<size_t>(y - rows.begin)], band.columns);
+    }
+}
+
 /// Reads the picture in the size that suits its placement and paints it row by row.
 void paintCard(const TargetArea &target, const Card &card, const QuadShape *hidden)
 {
@@ -150,18 +202,17 @@ void paintCard(const TargetArea &target, const Card &card, const QuadShape *hidd
     const ReducedPicture reduced(card.picture, xLevel, yLevel);
     const QTransform enlarge = QTransform::fromScale(1 << xLevel, 1 << yLevel);
     const CardSampler sampler(reduced.area(), (enlarge * card.placement).inverted());
-    const CardPainter painter(target, card, sampler);
+    const CardPainter painter(target, card, shape, sampler);
     const ColumnSpan rows = shape.rows(1, target.height);
     std::vector<RowSpans> spans;
     for (int y = rows.begin; y < rows.end; ++y)
         spans.push_back(spansOf(y, shape, hidden, target.width));
-    // A row of a turned card crosses many rows of the picture: narrow bands find the lines of
-    // memory that the row before has fetched still in the cache.
-    const int step = std::abs(card.placement.m12()) > 0.05 ? kBand : target.width;
-    for (int x = 0; x < target.width; x += step) {
-        const ColumnSpan band = {x, std::min(x + step, target.width)};
-        for (int y = rows.begin; y < rows.end; ++y)
-            painter.paintRow(y, spans[static_cast<size_t>(y - rows.begin)], band, shape);
+    const Band whole = {{0, target.width}, slopeOf(corners)};
+    if (whole.slope > kLevel) {
+        for (int x = 0; x < target.width; x += kBand)
+            paintBand(painter, {{x, std::min(x + kBand, target.width)}, whole.slope}, rows, spans);
+    } else {
+        paintBand(painter, whole, rows, spans);
     }
 }
 

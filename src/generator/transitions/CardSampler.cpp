@@ -86,4 +86,18 @@ void CardSampler::sample(QRgb *target, int column, int row, int count) const
     lanes::storePixels(target, mixed.data(), count);
 }
 
+void CardSampler::fetch(int row, ColumnSpan span, int step) const
+{
+    const QTransform &t = m_toPicture;
+    const double y = row + 0.5;
+    for (int column = span.begin; column < span.end; column += step) {
+        const double x = column + 0.5;
+        const double w = t.isAffine() ? 1 : t.m13() * x + t.m23() * y + t.m33();
+        const auto u = static_cast<float>((t.m11() * x + t.m21() * y + t.m31()) / w * kUnit);
+        const auto v = static_cast<float>((t.m12() * x + t.m22() * y + t.m32()) / w * kUnit);
+        __builtin_prefetch(m_picture.row(heldPosition(v, m_lastDown) >> 8) +
+                           (heldPosition(u, m_lastAcross) >> 8));
+    }
+}
+
 } // namespace velmora

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "generator/transitions/PixelArea.h"
+#include "generator/transitions/QuadShape.h"
 
 #include <QTransform>
 
@@ -25,6 +26,9 @@ public:
 
     /// The @p count pixels of the frame that begin at (@p column, @p row).
     void sample(QRgb *target, int column, int row, int count) const;
+
+    /// Has the memory fetched that sample() will read for every @p step th pixel of a row's span.
+    void fetch(int row, ColumnSpan span, int step) const;
 
 private:
     void locate(int column, int row, int count, qint32 *across, qint32 *down) const;

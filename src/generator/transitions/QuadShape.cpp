@@ -74,6 +74,8 @@ void QuadShape::distances(int column, int row, int count, float *result) const
     for (const Side &side : m_sides) {
         const auto first = static_cast<float>(side.at(column, row));
         const auto step = static_cast<float>(side.x);
+        if (first >= 0 && first + step * static_cast<float>(count - 1) >= 0)
+            continue; // the whole run lies on the inner side
         for (int i = 0; i < count; ++i) {
             const float inside = first + step * static_cast<float>(i);
             const float outside = inside < 0 ? inside : 0;

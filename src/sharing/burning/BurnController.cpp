@@ -13,7 +13,7 @@ namespace velmora
 namespace
 {
 
-QVector<BurnDevice> search(DiscWriter *writer)
+QVector<BurnDevice> search(const std::shared_ptr<DiscWriter> &writer)
 {
     QVector<BurnDevice> devices;
     const QVector<DiscRecorder> recorders = writer->recorders();
@@ -53,14 +53,12 @@ BurnController::BurnController(std::unique_ptr<DiscWriter> writer, QObject *pare
 BurnController::~BurnController()
 {
     delete m_thread; // Waits.
-    m_search.waitForFinished();
-    m_check.waitForFinished();
 }
 
 void BurnController::findDevices()
 {
     if (!m_search.isRunning())
-        m_search.setFuture(QtConcurrent::run(search, m_writer.get()));
+        m_search.setFuture(QtConcurrent::run(search, m_writer));
 }
 
 void BurnController::checkMedia(int index)
@@ -69,8 +67,7 @@ void BurnController::checkMedia(int index)
         return;
     m_checked = index;
     const QString id = m_devices.at(index).recorder.id;
-    m_check.setFuture(
-        QtConcurrent::run([writer = m_writer.get(), id] { return writer->media(id); }));
+    m_check.setFuture(QtConcurrent::run([writer = m_writer, id] { return writer->media(id); }));
 }
 
 void BurnController::burn(const BurnJob &job)

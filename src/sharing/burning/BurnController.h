@@ -30,7 +30,7 @@ class BurnController : public QObject
     Q_OBJECT
 public:
     explicit BurnController(std::unique_ptr<DiscWriter> writer, QObject *parent = nullptr);
-    /// Ends a running burn and waits for it.
+    /// Ends a running burn and waits for it, but not for drives that are slow to answer.
     ~BurnController() override;
 
     const QVector<BurnDevice> &devices() const { return m_devices; }
@@ -58,7 +58,7 @@ private:
     void onProgress(int current, int total);
     void onThreadFinished();
 
-    std::unique_ptr<DiscWriter> m_writer;
+    std::shared_ptr<DiscWriter> m_writer; ///< Questions that still run keep it, too.
     QVector<BurnDevice> m_devices;
     QFutureWatcher<QVector<BurnDevice>> m_search;
     QFutureWatcher<DiscMedia> m_check;

@@ -54,8 +54,7 @@ void BurnDialog::setUpFields(const QString &diskTitle)
     m_ui->leFileName->setText(QFileInfo(m_video).fileName());
     m_ui->btnBurn->setIcon(Theme::icon(QStringLiteral("disc-white")));
     m_ui->btnRefresh->setIcon(Theme::icon(QStringLiteral("repeat")));
-    m_ui->lbDiscPicture->setPixmap(Theme::icon(QStringLiteral("disc")).pixmap(48, 48));
-    m_ui->lbQuestionPicture->setPixmap(Theme::icon(QStringLiteral("question")).pixmap(48, 48));
+    m_ui->lbQuestionPicture->setPixmap(Theme::icon(QStringLiteral("question")).pixmap(40, 40));
     m_ui->pages->setCurrentWidget(m_ui->pgSettings);
     m_ui->lbProblem->hide();
     for (QWidget *field :

@@ -5,6 +5,7 @@
 #include "sharing/history/HistoryColumns.h"
 
 #include <QPainter>
+#include <QWidget>
 
 namespace velmora
 {
@@ -22,6 +23,12 @@ void HistoryDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     }
     painter->fillRect(QRect(area.left(), area.bottom(), area.width(), 1), QColor(Theme::Border));
     painter->restore();
+}
+
+void HistoryDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                                           const QModelIndex &) const
+{
+    editor->setGeometry(option.rect);
 }
 
 QSize HistoryDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const

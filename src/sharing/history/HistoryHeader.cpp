@@ -53,6 +53,13 @@ QPushButton *HistoryHeader::createButton(const char *name, const QString &text)
     return button;
 }
 
+void HistoryHeader::setFreeSpace(int width)
+{
+    QMargins margins = layout()->contentsMargins();
+    margins.setRight(HistoryColumns::Margin + width);
+    layout()->setContentsMargins(margins);
+}
+
 void HistoryHeader::showArrow(bool byDate, bool ascending)
 {
     const QIcon arrow =

@@ -15,6 +15,8 @@ class HistoryHeader : public QWidget
 public:
     explicit HistoryHeader(QWidget *parent = nullptr);
 
+    /// Keeps the columns above those of a list that leaves @p width px free at its right.
+    void setFreeSpace(int width);
     /// Marks the column that sorts, by an arrow; the other one has none.
     void showArrow(bool byDate, bool ascending);
 

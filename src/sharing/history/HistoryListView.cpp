@@ -177,6 +177,7 @@ void HistoryListView::selectionChanged(const QItemSelection &selected,
 void HistoryListView::resizeEvent(QResizeEvent *event)
 {
     QListView::resizeEvent(event);
+    emit freeSpaceChanged(width() - viewport()->width());
     updateRows();
 }
 

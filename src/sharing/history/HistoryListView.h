@@ -28,6 +28,8 @@ public:
     HistoryRowWidget *rowWidget(int row) const;
 
 signals:
+    /// The room of the scroll bar beside the rows, px.
+    void freeSpaceChanged(int width);
     // From the buttons of the row that is selected by pressing them.
     void openProject(const QString &fileName);
     void previewProject(const QString &fileName);

@@ -73,7 +73,7 @@ HistoryEntry HistoryModel::entry(int row) const
         return {};
     HistoryEntry entry = m_entries.at(m_order.at(row));
     entry.facts.duration = m_prober->duration(entry.fileName, entry.facts);
-    if (entry.facts.duration < 0)
+    if (entry.facts.duration <= 0) // Not opened yet, or it does not say.
         entry.facts.duration =
             Timeline::ofProject(*entry.project, m_settings.transitionTime).totalLength();
     return entry;

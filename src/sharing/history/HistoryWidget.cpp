@@ -27,12 +27,14 @@ HistoryWidget::HistoryWidget(HistoryStore &history, const AppSettings &settings,
       m_removal(std::make_unique<HistoryRemoval>(history))
 {
     m_ui->setupUi(this);
+    setFocusProxy(m_ui->listHistory);
     setUpList();
     setUpPages();
     setUpUndoBar();
     m_timer.setInterval(1000);
     connect(&m_timer, &QTimer::timeout, this, &HistoryWidget::showElapsed);
     reload();
+    m_ui->listHistory->setFocus();
 }
 
 HistoryWidget::~HistoryWidget() = default;
@@ -49,6 +51,7 @@ void HistoryWidget::setUpList()
     connect(list, &HistoryListView::deleteProject, this, &HistoryWidget::onDeleteProject);
     connect(list, &HistoryListView::burnProject, this, &HistoryWidget::onBurnProject);
     connect(m_model, &QAbstractItemModel::dataChanged, this, &HistoryWidget::updateButtons);
+    connect(list, &HistoryListView::freeSpaceChanged, m_ui->header, &HistoryHeader::setFreeSpace);
     connect(m_ui->header, &HistoryHeader::dateClicked, this, &HistoryWidget::onBtnDateClicked);
     connect(m_ui->header, &HistoryHeader::fileNameClicked, this,
             &HistoryWidget::onBtnFileNameClicked);
@@ -63,9 +66,6 @@ void HistoryWidget::setUpPages()
     m_ui->btnResumeProject->setIcon(Theme::icon(QStringLiteral("edit")));
     m_ui->btnBurn->setIcon(Theme::icon(QStringLiteral("disc")));
     m_ui->btnUpload->setIcon(Theme::icon(QStringLiteral("burgerdrop")));
-    m_ui->lblUploadPicture->setPixmap(Theme::icon(QStringLiteral("upload")).pixmap(48, 48));
-    m_ui->lblWaitingPicture->setPixmap(
-        Theme::icon(QStringLiteral("oauth2_not_connected")).pixmap(96, 96));
     m_ui->pages->setCurrentWidget(m_ui->pgHistory);
 }
 

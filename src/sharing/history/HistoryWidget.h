@@ -55,6 +55,12 @@ public:
     /// Starts the upload of one file to "youtube", "googledrive" or "dropbox".
     void startUpload(const QString &fileName, const QString &title, const QString &uploadService);
 
+    // What choosing a service for the selected entry does. They are no slots, because setupUi()
+    // would look for a button for each.
+    void on_btnUpload_Youtube();
+    void on_btnUpload_Dropbox();
+    void on_btnUpload_GoogleDrive();
+
 public slots:
     /// Reads the list from the history again and keeps the selection where it can.
     void reload();
@@ -79,9 +85,6 @@ public slots:
     void on_btnClearHistory_clicked();
     void on_btnResumeProject_clicked();
     void on_btnBurn_clicked();
-    void on_btnUpload_Youtube();
-    void on_btnUpload_Dropbox();
-    void on_btnUpload_GoogleDrive();
     void on_btnCancel_clicked();
 
 signals:

@@ -54,7 +54,7 @@ MainWindowWidget::MainWindowWidget(AppSettings &settings, HistoryStore &history,
     row->setContentsMargins(kGap, kGap, kGap, kGap);
     row->setSpacing(kGap);
     row->addWidget(m_stack, 1);
-    row->addWidget(m_side);
+    row->addWidget(m_side, 1000); // up to its greatest width
     setUpUndo();
     connectParts();
 }
@@ -77,6 +77,7 @@ void MainWindowWidget::setUpSlideStack()
 void MainWindowWidget::setUpSide()
 {
     m_side->setObjectName(QStringLiteral("editorSide"));
+    m_side->setMinimumWidth(kSmallestSide);
     m_side->addGroup(m_video, false);
     m_side->addGroup(m_audio, true);
     const auto showHeading = [this](EditorSide::Mode mode) {
@@ -226,7 +227,7 @@ void MainWindowWidget::resizeEvent(QResizeEvent *event)
     QWidget::resizeEvent(event);
     const int width = std::min(
         std::max(static_cast<int>(kSideShare * event->size().width()), kSmallestSide), kWidestSide);
-    m_side->setFixedWidth(width);
+    m_side->setMaximumWidth(width);
 }
 
 void MainWindowWidget::setProject(ProjectFile *project)

@@ -85,8 +85,8 @@ void SlideTextDelegate::paintCell(QPainter &painter, const QStyleOptionViewItem 
                                   const QModelIndex &index) const
 {
     const bool focused = option.state & QStyle::State_HasFocus;
-    const bool active =
-        isRowHovered(index) || option.state & QStyle::State_Selected || isHiddenTitle(index);
+    const bool marked = isRowHovered(index) || option.state & QStyle::State_Selected;
+    const bool active = option.state & QStyle::State_Enabled && (marked || isHiddenTitle(index));
     const Layout layout = layOut(option.rect, index, active);
     if (layout.relocate.isNull())
         paintTexts(painter, layout.text, index);

@@ -110,8 +110,8 @@ private:
     BusyNote *m_note;
     SlideActions *m_actions;
     SlideSorter *m_sorter;
+    QWidget *m_hint; ///< Invites while there are no photos.
     QLabel *m_hintText;
-    QWidget *m_hint;                  ///< Invites while there are no photos.
     QTimer m_update;                  ///< Many changes at once update the controls once.
     ProjectEditor::Slides m_kept;     ///< The selection while the rows change.
     ProjectEditor::Slides m_keptRows; ///< All slides before the change.

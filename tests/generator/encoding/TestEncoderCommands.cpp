@@ -30,30 +30,33 @@ private slots:
         QTest::addColumn<qint64>("duration");
         QTest::addColumn<QString>("expected");
         const QString tail = QStringLiteral(" -b:v 6.5M -crf 0 -y -s 1280x720");
-        QTest::newRow("still") << kImages << QStringLiteral("_i12") << 1 << qint64(3000)
-                               << QStringLiteral(
-                                      "-loop 1 -framerate 1 -i /c/images/img_i12_00001.jpg "
-                                      "-t 3.000 -r 25 -vf fps=25 -frames:v 75") +
-                                      tail;
+        QTest::newRow("still")
+            << kImages << QStringLiteral("_i12") << 1 << qint64(3000)
+            << QStringLiteral("-threads 1 -loop 1 -framerate 1 -i /c/images/img_i12_00001.jpg "
+                              "-t 3.000 -r 25 -vf fps=25 -frames:v 75") +
+                   tail;
         QTest::newRow("sequence")
             << kImages << QStringLiteral("_p3") << 50 << qint64(2000)
-            << QStringLiteral("-r 25.000 -start_number 1 -i "
+            << QStringLiteral("-threads 1 -r 25.000 -start_number 1 -i "
                               "/c/images/img_p3_%05d.jpg -r 25 -vf fps=25 -frames:v 50") +
                    tail;
         QTest::newRow("fewer frames than the output has")
             << kImages << QStringLiteral("_t3") << 50 << qint64(3000)
-            << QStringLiteral("-r 16.667 -start_number 1 -i /c/images/img_t3_%05d.jpg -r 25 "
-                              "-vf fps=25 -frames:v 75") +
+            << QStringLiteral(
+                   "-threads 1 -r 16.667 -start_number 1 -i /c/images/img_t3_%05d.jpg -r 25 "
+                   "-vf fps=25 -frames:v 75") +
                    tail;
         QTest::newRow("still below a percent sign")
             << QStringLiteral("/50%d/") << QStringLiteral("_i1") << 1 << qint64(1000)
-            << QStringLiteral("-loop 1 -framerate 1 -pattern_type none -i /50%d/img_i1_00001.jpg "
-                              "-t 1.000 -r 25 -vf fps=25 -frames:v 25") +
+            << QStringLiteral(
+                   "-threads 1 -loop 1 -framerate 1 -pattern_type none -i /50%d/img_i1_00001.jpg "
+                   "-t 1.000 -r 25 -vf fps=25 -frames:v 25") +
                    tail;
         QTest::newRow("percent sign in the folder")
             << QStringLiteral("/50%d/") << QStringLiteral("_p1") << 25 << qint64(1000)
-            << QStringLiteral("-r 25.000 -start_number 1 -i /50%%d/img_p1_%05d.jpg -r 25 "
-                              "-vf fps=25 -frames:v 25") +
+            << QStringLiteral(
+                   "-threads 1 -r 25.000 -start_number 1 -i /50%%d/img_p1_%05d.jpg -r 25 "
+                   "-vf fps=25 -frames:v 25") +
                    tail;
     }
     void segment()

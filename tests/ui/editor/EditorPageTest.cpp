@@ -11,9 +11,27 @@
 #include <QSignalSpy>
 #include <QTextEdit>
 #include <QToolButton>
+#include <QTranslator>
 #include <QUndoStack>
 
 using namespace velmora;
+
+namespace
+{
+
+/// Marks every text, as another language would change it.
+class MarkingTranslator : public QTranslator
+{
+public:
+    using QTranslator::QTranslator;
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return QLatin1Char('~') + QString::fromUtf8(text);
+    }
+};
+
+} // namespace
 
 class EditorPageTest : public QObject
 {
@@ -261,7 +279,7 @@ private slots:
         m->select({1});
         const int steps = m->page->editor().undoStack()->count();
         action("actCaption")->trigger();
-        m->child<QTextEdit>("teProjectItemText")->setPlainText(QStringLiteral("Hello"));
+        QTest::keyClicks(m->child<QTextEdit>("teProjectItemText"), QStringLiteral("Hello"));
         m->click("butCancelText");
         QVERIFY(!m->page->isEditingText());
         QCOMPARE(m->page->editor().undoStack()->count(), steps);
@@ -269,6 +287,25 @@ private slots:
         QVERIFY(m->page->isEditingText());
         m->page->setProject(nullptr);
         QVERIFY(!m->page->isEditingText());
+    }
+
+    void languageChangesAtOnce()
+    {
+        m->addPhotos(QStringLiteral("a"));
+        MarkingTranslator translator;
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        QCoreApplication::processEvents();
+        const QChar mark = QLatin1Char('~');
+        for (const char *name : {"btnUp", "btnSort", "m_btnRotate", "btnUndo", "btnOutResolution",
+                                 "btnHelpRatio", "btnCreate", "btnPauseResume"})
+            QVERIFY2(m->child<QWidget>(name)->toolTip().startsWith(mark), name);
+        for (const char *name : {"lblChangeAll", "lblFilename", "lblResolution"})
+            QVERIFY2(m->child<QLabel>(name)->text().startsWith(mark), name);
+        QVERIFY(m->child<QPushButton>("btnClear")->text().contains(QLatin1String("(2)")));
+        QCOMPARE(m->child<QPopupButton>("btnDefaultTime")->text(), QStringLiteral("~1 sec"));
+        QCOMPARE(m->child<QPushButton>("btnCreate")->shortcut(),
+                 QKeySequence(Qt::CTRL + Qt::Key_Return));
+        QCoreApplication::removeTranslator(&translator);
     }
 
     void missingPhotosAreRelocatedTogether()

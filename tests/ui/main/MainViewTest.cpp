@@ -6,11 +6,13 @@
 
 #include <QAction>
 #include <QDesktopServices>
+#include <QDialogButtonBox>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPushButton>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QStackedWidget>
@@ -57,8 +59,19 @@ private:
             for (const QString &file : files)
                 quoted.append(QLatin1Char('"') + file + QLatin1Char('"'));
             auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-            name->setText(quoted.size() == 1 ? files.first() : quoted.join(QLatin1Char(' ')));
-            QTest::keyClick(name, Qt::Key_Return);
+            const QString text = quoted.size() == 1 ? files.first() : quoted.join(QLatin1Char(' '));
+            if (fileDialog->acceptMode() == QFileDialog::AcceptSave) {
+                // Only typed text takes the place of the name that is proposed.
+                name->selectAll();
+                QTest::keyClicks(name, text);
+            } else {
+                name->setText(text);
+            }
+            const auto *buttons = dialog->findChild<QDialogButtonBox *>();
+            const auto accept = fileDialog->acceptMode() == QFileDialog::AcceptSave
+                                    ? QDialogButtonBox::Save
+                                    : QDialogButtonBox::Open;
+            QTest::mouseClick(buttons->button(accept), Qt::LeftButton);
         });
     }
 

@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "generator/encoding/FadeComposer.h"
+#include "generator/encoding/FrameWriter.h"
+#include "generator/transitions/Transition.h"
+
+#include <QImage>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace velmora;
+
+namespace
+{
+
+/// Soft shapes with a little grain, as photos have it.
+QImage photo(const QSize &size, int seed)
+{
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        auto *row = reinterpret_cast<QRgb *>(image.scanLine(y));
+        for (int x = 0; x < size.width(); ++x) {
+            const int grain = (x * 7 + y * 13 + seed) % 5;
+            row[x] = qRgb((x * seed / 4 + grain) % 256 / 2 + 60, (y + seed * 9) % 200 + grain,
+                          (x + y) / 4 % 256);
+        }
+    }
+    return image;
+}
+
+struct Difference {
+    double mean = 0;
+    int largest = 0;
+};
+
+Difference difference(const QImage &a, const QImage &b)
+{
+    Difference result;
+    for (int y = 0; y < a.height(); ++y) {
+        const auto *p = a.constScanLine(y);
+        const auto *q = b.constScanLine(y);
+        for (int i = 0; i < a.width() * 4; ++i) {
+            const int channel = i % 4 == 3 ? 0 : std::abs(p[i] - q[i]);
+            result.mean += channel;
+            result.largest = std::max(result.largest, channel);
+        }
+    }
+    result.mean /= 3.0 * a.width() * a.height();
+    return result;
+}
+
+class Folder
+{
+public:
+    template <typename Frame> QImage written(const Frame &frame)
+    {
+        const QString path = m_folder.filePath(QStringLiteral("f.jpg"));
+        QString error;
+        if (!m_writer.write(frame, path, &error))
+            qWarning() << error;
+        return QImage(path, "JPEG").convertToFormat(QImage::Format_RGB32);
+    }
+    FrameWriter &writer() { return m_writer; }
+
+private:
+    QTemporaryDir m_folder;
+    FrameWriter m_writer;
+};
+
+} // namespace
+
+class TestFadeComposer : public QObject
+{
+    Q_OBJECT
+private slots:
+    void showsWhatThePainterShows_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QSize>("size");
+        for (const auto type : {TransitionType::CrossFade, TransitionType::FadeToBlack,
+                                TransitionType::FadeToWhite}) {
+            for (const QSize &size : {QSize(160, 96), QSize(158, 90), QSize(2, 2)})
+                QTest::addRow("%d at %dx%d", int(type), size.width(), size.height())
+                    << int(type) << size;
+        }
+    }
+    void showsWhatThePainterShows()
+    {
+        QFETCH(int, type);
+        QFETCH(QSize, size);
+        const auto effect = static_cast<TransitionType>(type);
+        const QImage from = photo(size, 3);
+        const QImage to = photo(size, 11);
+        Folder folder;
+        FadeComposer composer;
+        QString error;
+        constexpr int count = 12;
+        for (int frame = 0; frame < count; ++frame) {
+            const auto fade = fadeAt(effect, {frame, count});
+            QVERIFY(fade);
+            const JpegBlocks *made = composer.compose(*fade, from, to, folder.writer(), &error);
+            QVERIFY2(made, qPrintable(error));
+            QImage painted;
+            renderTransitionFrame(effect, from, to, {frame, count}, painted);
+            const Difference off = difference(folder.written(*made), folder.written(painted));
+            // One rounded coefficient weighs more in the smallest pictures.
+            QVERIFY2(off.mean < (size.width() < 8 ? 2.0 : 1.2),
+                     qPrintable(QString::number(off.mean)));
+            QVERIFY2(off.largest <= 9, qPrintable(QString::number(off.largest)));
+        }
+    }
+
+    void beginsAndEndsOnTheStills()
+    {
+        const QImage from = photo({160, 90}, 5);
+        const QImage to = photo({160, 90}, 8);
+        Folder folder;
+        FadeComposer composer;
+        QString error;
+        for (const int frame : {0, 10}) {
+            const auto fade = fadeAt(TransitionType::CrossFade, {frame, 10});
+            const JpegBlocks *made = composer.compose(*fade, from, to, folder.writer(), &error);
+            QVERIFY(made);
+            QCOMPARE(folder.written(*made), folder.written(frame == 0 ? from : to));
+        }
+    }
+
+    void followsAnExchangedPicture()
+    {
+        const Fade onlyAbove{Fade::Layer::From, Fade::Layer::To, 256};
+        Folder folder;
+        FadeComposer composer;
+        QString error;
+        QImage from = photo({64, 64}, 1);
+        for (int seed = 2; seed < 6; ++seed) {
+            const QImage to = photo({64, 64}, seed);
+            const JpegBlocks *made = composer.compose(onlyAbove, from, to, folder.writer(), &error);
+            QVERIFY(made);
+            QCOMPARE(folder.written(*made), folder.written(to));
+            from = to;
+        }
+    }
+
+    void knowsOnlyFades_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<bool>("fades");
+        for (int type = 0; type < kTransitionCount; ++type)
+            QTest::addRow("%d", type) << type << (type == 1 || type >= 26);
+    }
+    void knowsOnlyFades()
+    {
+        QFETCH(int, type);
+        QFETCH(bool, fades);
+        QCOMPARE(fadeAt(static_cast<TransitionType>(type), {1, 2}).has_value(), fades);
+    }
+
+    void refusesForeignFiles_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QBuffer coarse;
+        coarse.open(QIODevice::WriteOnly);
+        photo({40, 40}, 2).save(&coarse, "JPEG", 50);
+        QBuffer grey;
+        grey.open(QIODevice::WriteOnly);
+        photo({40, 40}, 2).convertToFormat(QImage::Format_Grayscale8).save(&grey, "JPEG", 100);
+        QTest::newRow("nothing") << QByteArray("");
+        QTest::newRow("no picture") << QByteArray("not a picture at all");
+        QTest::newRow("lower quality") << coarse.data();
+        QTest::newRow("grey") << grey.data();
+    }
+    void refusesForeignFiles()
+    {
+        QFETCH(QByteArray, file);
+        JpegBlocks blocks;
+        QVERIFY(!blocks.read(reinterpret_cast<const uchar *>(file.constData()),
+                             static_cast<size_t>(file.size())));
+        QVERIFY(blocks.size().isEmpty());
+        std::vector<uchar> written;
+        QCOMPARE(blocks.write(written), size_t(0));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestFadeComposer)
+#include "TestFadeComposer.moc"
