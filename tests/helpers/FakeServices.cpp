@@ -67,7 +67,8 @@ ServicesConfig FakeServices::config(const QHash<QString, QString> &extra) const
     {
         QSettings file(name, QSettings::IniFormat);
         for (const char *service : {"youtube", "googledrive", "dropbox"})
-            file.setValue(QLatin1String(service) + QStringLiteral("/port"), QString::number(freePort()));
+            file.setValue(QLatin1String(service) + QStringLiteral("/port"),
+                          QString::number(freePort()));
         file.setValue(QStringLiteral("network/retry_delay"), QStringLiteral("1"));
         for (auto value = extra.begin(); value != extra.end(); ++value)
             file.setValue(value.key(), value.value());

@@ -36,9 +36,9 @@ public:
     /// True from run() until the worker process is gone, also after cancel().
     bool isRunning() const;
     bool isPaused() const { return m_paused; }
-    qint64 elapsed() const;   ///< ms since the last run() started its worker, pauses included.
+    qint64 elapsed() const;     ///< ms since the last run() started its worker, pauses included.
     qint64 runningTime() const; ///< The same without the pauses.
-    qint64 remaining() const; ///< Estimated ms until the video is finished; -1 while unknown.
+    qint64 remaining() const;   ///< Estimated ms until the video is finished; -1 while unknown.
     /// The stage that the worker last reported, untranslated.
     const QString &stage() const { return m_stage; }
     /// Why the last run failed; not set before failed() and after a new run().

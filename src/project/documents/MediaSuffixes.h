@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QOperatingSystemVersion>
 #include <QCollator>
+#include <QOperatingSystemVersion>
 #include <QStringList>
 
 namespace velmora

@@ -2,8 +2,8 @@
 #include "sharing/history/HistoryModel.h"
 
 #include "app/AppSettings.h"
-#include "project/documents/MediaSuffixes.h"
 #include "project/documents/HistoryStore.h"
+#include "project/documents/MediaSuffixes.h"
 #include "project/documents/Timeline.h"
 #include "sharing/history/VideoProber.h"
 

@@ -66,7 +66,8 @@ public:
     void setAudioFade(int seconds);
     void setAudioLoop(bool on);
 
-    // The slideshow. The transition length is kept in the settings, as documents take it from there.
+    // The slideshow. The transition length is kept in the settings, as documents take it from
+    // there.
     void setResolution(const QSize &size);
     void setFormat(const QString &extension);
     void setOrigRatio(bool on);
@@ -76,13 +77,13 @@ public:
     void setName(const QString &name);
 
 signals:
-    void projectChanged();                  ///< Another project was set: refresh everything.
-    void slidesAboutToChange();             ///< Slides are about to come, go or move.
-    void slidesChanged();                   ///< Slides came, went or moved.
+    void projectChanged();      ///< Another project was set: refresh everything.
+    void slidesAboutToChange(); ///< Slides are about to come, go or move.
+    void slidesChanged();       ///< Slides came, went or moved.
     void slideChanged(velmora::ProjectItem *slide); ///< Time, transition, angle, caption, file ...
     void audioChanged();
-    void settingsChanged();                 ///< Anything of the last group, offset, fade, loop.
-    void totalsChanged();                   ///< The running time may have changed.
+    void settingsChanged(); ///< Anything of the last group, offset, fade, loop.
+    void totalsChanged();   ///< The running time may have changed.
     void modifiedChanged(bool modified);
 
 private:
