@@ -56,6 +56,6 @@ if [ "$installer" = yes ]; then
     ) >"$build/installed-files.nsh"
     makensis -V2 -DVERSION="$version" -DSOURCE="$build/$name" \
         -DFILELIST="$build/installed-files.nsh" \
-        -DOUTPUT="$build/velmora-$version-setup.exe" packaging/windows/installer.nsi
+        -DOUTPUT="$build/velmora-$version-setup.exe" "$top/packaging/windows/installer.nsi"
     echo "Made build/windows/velmora-$version-setup.exe"
 fi

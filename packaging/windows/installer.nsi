@@ -27,11 +27,11 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
 VIAddVersionKey "CompanyName" "Corvel"
 VIAddVersionKey "LegalCopyright" "GNU General Public License, version 3 or later"
 
-!define MUI_ICON "${__FILEDIR__}\..\..\resources\velmora.ico"
-!define MUI_UNICON "${__FILEDIR__}\..\..\resources\velmora.ico"
+!define MUI_ICON "${__FILEDIR__}/../../resources/velmora.ico"
+!define MUI_UNICON "${__FILEDIR__}/../../resources/velmora.ico"
 !define MUI_FINISHPAGE_RUN "$INSTDIR\velmora.exe"
 !define MUI_FINISHPAGE_RUN_PARAMETERS "--inst"
-!insertmacro MUI_PAGE_LICENSE "${SOURCE}\licences\Velmora.txt"
+!insertmacro MUI_PAGE_LICENSE "${SOURCE}/licences/Velmora.txt"
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_PAGE_FINISH
@@ -49,7 +49,7 @@ VIAddVersionKey "LegalCopyright" "GNU General Public License, version 3 or later
 
 Section
   SetOutPath "$INSTDIR"
-  File /r "${SOURCE}\*"
+  File /r "${SOURCE}/*"
   CreateDirectory "$SMPROGRAMS\Velmora"
   CreateShortcut "$SMPROGRAMS\Velmora\Velmora.lnk" "$INSTDIR\velmora.exe"
   CreateShortcut "$SMPROGRAMS\Velmora\Uninstall Velmora.lnk" "$INSTDIR\uninstall.exe"

@@ -120,7 +120,10 @@ bool TiffHandler::isTiff(QIODevice &device)
 
 bool TiffHandler::canRead() const
 {
-    return m_source ? !m_source->size.isEmpty() : device() && isTiff(*device());
+    const bool readable = m_source ? !m_source->size.isEmpty() : device() && isTiff(*device());
+    if (readable)
+        setFormat("tiff"); // Nobody told it where the content decides.
+    return readable;
 }
 
 bool TiffHandler::read(QImage *image)
