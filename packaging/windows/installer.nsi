@@ -3,7 +3,8 @@
 ; FILELIST holds the Delete and RMDir lines for everything in SOURCE, so that the uninstaller leaves
 ; files of others alone.
 ; Installs for the user who runs it, without administrator's rights.
-Unicode true
+; The program is for 64-bit Windows only, so the installer can be too.
+Target amd64-unicode
 ManifestDPIAware true
 RequestExecutionLevel user
 SetCompressor /SOLID lzma
