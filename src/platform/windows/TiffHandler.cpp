@@ -54,9 +54,9 @@ struct TiffHandler::Source {
 
     HRESULT open()
     {
-        HRESULT result = CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
-                                          IID_IWICImagingFactory,
-                                          reinterpret_cast<void **>(factory.receive()));
+        HRESULT result =
+            CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+                             IID_IWICImagingFactory, reinterpret_cast<void **>(factory.receive()));
         Com<IWICBitmapDecoder> decoder;
         if (SUCCEEDED(result))
             result = factory->CreateDecoderFromStream(
@@ -78,9 +78,8 @@ struct TiffHandler::Source {
         HRESULT result = factory->CreateFormatConverter(converter.receive());
         if (SUCCEEDED(result))
             result =
-                converter->Initialize(frame, GUID_WICPixelFormat32bppBGRA,
-                                      WICBitmapDitherTypeNone, nullptr, 0.0,
-                                      WICBitmapPaletteTypeCustom);
+                converter->Initialize(frame, GUID_WICPixelFormat32bppBGRA, WICBitmapDitherTypeNone,
+                                      nullptr, 0.0, WICBitmapPaletteTypeCustom);
         if (SUCCEEDED(result))
             result = converter->CopyPixels(nullptr, static_cast<UINT>(image.bytesPerLine()),
                                            static_cast<UINT>(image.sizeInBytes()), image.bits());

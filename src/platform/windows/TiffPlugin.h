@@ -6,7 +6,8 @@
 namespace velmora
 {
 
-/// Reads the first picture of TIFF files through the Windows Imaging Component, in 8 bits a channel.
+/// Reads the first picture of TIFF files through the Windows Imaging Component, in 8 bits a
+/// channel.
 class TiffPlugin : public QImageIOPlugin
 {
     Q_OBJECT
