@@ -1,8 +1,9 @@
 #!/bin/bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Renders the icons: every icons/svg/NAME.svg becomes images/NAME.png at its own size and
-# images/NAME@2x.png at twice that, and images.qrc lists them all. Needs rsvg-convert
-# (librsvg2-bin). Some icons exist in further colours, made from the same drawing.
+# images/NAME@2x.png at twice that, and images.qrc lists them all; the program's icon also becomes
+# velmora.ico. Needs rsvg-convert (librsvg2-bin) and convert (imagemagick). Some icons exist in
+# further colours, made from the same drawing.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -43,6 +44,9 @@ recolour arrow-down disabled '#8a97a1'
 for size in "${application_sizes[@]}"; do
     rsvg-convert --width "$size" --height "$size" --output "images/velmora-$size.png" icons/svg/velmora.svg
 done
+
+icons=("${application_sizes[@]/#/images/velmora-}")
+convert "${icons[@]/%/.png}" velmora.ico
 
 {
     echo '<!DOCTYPE RCC>'

@@ -3196,4 +3196,18 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <translation>Die Anforderung „%1“ ist nicht verwendbar: %2</translation>
     </message>
 </context>
+<context>
+    <name>velmora::UploaderFactory</name>
+    <message>
+        <source>This copy of the program cannot upload videos: it was built without the component that signs in to services (Qt NetworkAuth).</source>
+        <translation>Dieses Exemplar des Programms kann keine Videos hochladen: Es wurde ohne den Bestandteil gebaut, der sich bei Diensten anmeldet (Qt NetworkAuth).</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::DiscWriter</name>
+    <message>
+        <source>This copy of the program cannot burn discs on this system.</source>
+        <translation>Dieses Exemplar des Programms kann auf diesem System keine Discs brennen.</translation>
+    </message>
+</context>
 </TS>

@@ -3196,4 +3196,18 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <translation>La petición «%1» no se puede usar: %2</translation>
     </message>
 </context>
+<context>
+    <name>velmora::UploaderFactory</name>
+    <message>
+        <source>This copy of the program cannot upload videos: it was built without the component that signs in to services (Qt NetworkAuth).</source>
+        <translation>Esta copia del programa no puede subir vídeos: se compiló sin el componente que inicia sesión en los servicios (Qt NetworkAuth).</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::DiscWriter</name>
+    <message>
+        <source>This copy of the program cannot burn discs on this system.</source>
+        <translation>Esta copia del programa no puede grabar discos en este sistema.</translation>
+    </message>
+</context>
 </TS>

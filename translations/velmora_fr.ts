@@ -3196,4 +3196,18 @@ Press "Cancel" to cancel the operation.</source>
         <translation>La demande « %1 » est inutilisable : %2</translation>
     </message>
 </context>
+<context>
+    <name>velmora::UploaderFactory</name>
+    <message>
+        <source>This copy of the program cannot upload videos: it was built without the component that signs in to services (Qt NetworkAuth).</source>
+        <translation>Cet exemplaire du programme ne peut pas envoyer de vidéos : il a été compilé sans le composant qui se connecte aux services (Qt NetworkAuth).</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::DiscWriter</name>
+    <message>
+        <source>This copy of the program cannot burn discs on this system.</source>
+        <translation>Cet exemplaire du programme ne peut pas graver de disques sur ce système.</translation>
+    </message>
+</context>
 </TS>

@@ -3196,4 +3196,18 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <translation>La richiesta "%1" non può essere usata: %2</translation>
     </message>
 </context>
+<context>
+    <name>velmora::UploaderFactory</name>
+    <message>
+        <source>This copy of the program cannot upload videos: it was built without the component that signs in to services (Qt NetworkAuth).</source>
+        <translation>Questa copia del programma non può caricare video: è stata compilata senza il componente che accede ai servizi (Qt NetworkAuth).</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::DiscWriter</name>
+    <message>
+        <source>This copy of the program cannot burn discs on this system.</source>
+        <translation>Questa copia del programma non può masterizzare dischi su questo sistema.</translation>
+    </message>
+</context>
 </TS>

@@ -3196,4 +3196,18 @@ Press "Cancel" to cancel the operation.</source>
         <translation>要求「%1」は使用できません: %2</translation>
     </message>
 </context>
+<context>
+    <name>velmora::UploaderFactory</name>
+    <message>
+        <source>This copy of the program cannot upload videos: it was built without the component that signs in to services (Qt NetworkAuth).</source>
+        <translation>このプログラムではビデオをアップロードできません。サービスにサインインするための部品 (Qt NetworkAuth) なしで作成されています。</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::DiscWriter</name>
+    <message>
+        <source>This copy of the program cannot burn discs on this system.</source>
+        <translation>このプログラムでは、このシステムでディスクに書き込むことはできません。</translation>
+    </message>
+</context>
 </TS>

@@ -3196,4 +3196,18 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Nie można użyć żądania „%1”: %2</translation>
     </message>
 </context>
+<context>
+    <name>velmora::UploaderFactory</name>
+    <message>
+        <source>This copy of the program cannot upload videos: it was built without the component that signs in to services (Qt NetworkAuth).</source>
+        <translation>Ta kopia programu nie może przesyłać filmów: została zbudowana bez składnika, który loguje się do usług (Qt NetworkAuth).</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::DiscWriter</name>
+    <message>
+        <source>This copy of the program cannot burn discs on this system.</source>
+        <translation>Ta kopia programu nie może nagrywać płyt w tym systemie.</translation>
+    </message>
+</context>
 </TS>

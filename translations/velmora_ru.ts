@@ -3196,4 +3196,18 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Запрос «%1» непригоден: %2</translation>
     </message>
 </context>
+<context>
+    <name>velmora::UploaderFactory</name>
+    <message>
+        <source>This copy of the program cannot upload videos: it was built without the component that signs in to services (Qt NetworkAuth).</source>
+        <translation>Этот экземпляр программы не может загружать видео: он собран без компонента для входа в сервисы (Qt NetworkAuth).</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::DiscWriter</name>
+    <message>
+        <source>This copy of the program cannot burn discs on this system.</source>
+        <translation>Этот экземпляр программы не может записывать диски в этой системе.</translation>
+    </message>
+</context>
 </TS>

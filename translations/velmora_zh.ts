@@ -3196,4 +3196,18 @@ Press "Cancel" to cancel the operation.</source>
         <translation>无法使用请求“%1”: %2</translation>
     </message>
 </context>
+<context>
+    <name>velmora::UploaderFactory</name>
+    <message>
+        <source>This copy of the program cannot upload videos: it was built without the component that signs in to services (Qt NetworkAuth).</source>
+        <translation>此程序副本无法上传视频：构建时未包含用于登录服务的组件（Qt NetworkAuth）。</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::DiscWriter</name>
+    <message>
+        <source>This copy of the program cannot burn discs on this system.</source>
+        <translation>此程序副本无法在此系统上刻录光盘。</translation>
+    </message>
+</context>
 </TS>

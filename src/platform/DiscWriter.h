@@ -39,6 +39,9 @@ public:
     DiscWriter(const DiscWriter &) = delete;
     DiscWriter &operator=(const DiscWriter &) = delete;
 
+    /// Why this copy of the program can write no disc at all, as a text for the user; empty if it
+    /// can.
+    virtual QString hindrance() const { return {}; }
     /// The connected drives that can write. Those that fail are logged and left out.
     virtual QVector<DiscRecorder> recorders() = 0;
     /// What lies in a drive; nothing is present when it cannot be asked.

@@ -20,6 +20,7 @@ namespace
 
 constexpr UINT kIconMessage = WM_APP + 1;
 constexpr UINT kIconId = 1;
+constexpr WORD kProgramIcon = 1; // In the resources of the program.
 const wchar_t kClassName[] = L"VelmoraNotificationIcon";
 
 LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -91,7 +92,7 @@ void NotificationIcon::show(const QString &title, const QString &text)
     NOTIFYICONDATAW data = iconData(m_window);
     data.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP | NIF_INFO;
     data.uCallbackMessage = kIconMessage;
-    data.hIcon = LoadIconW(nullptr, IDI_APPLICATION);
+    data.hIcon = LoadIconW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(kProgramIcon));
     data.dwInfoFlags = NIIF_INFO;
     copyText(data.szTip, QCoreApplication::applicationName());
     copyText(data.szInfoTitle, title);

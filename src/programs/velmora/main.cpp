@@ -7,6 +7,7 @@
 #include "platform/DesktopNotification.h"
 #include "platform/FileManager.h"
 #include "platform/FileNames.h"
+#include "platform/ImageFormats.h"
 #include "platform/SystemInfo.h"
 #include "platform/TaskbarProgress.h"
 #include "programs/velmora/Application.h"
@@ -105,6 +106,7 @@ int main(int argc, char **argv)
 {
     velmora::FileNames::allowAllLetters();
     velmora::applyIdentity();
+    velmora::installImageFormats();
     velmora::Log::install(QStringLiteral("log"));
     qputenv("QT_AUTO_SCREEN_SCALE_FACTOR", "1");
     QGuiApplication::setDesktopFileName(QStringLiteral("velmora"));

@@ -8,7 +8,9 @@
 #include "generator/worker/WorkerMain.h"
 #include "generator/worker/WorkerProtocol.h"
 #include "platform/FileNames.h"
+#include "platform/ImageFormats.h"
 #include "platform/StandardOutput.h"
+#include "platform/WindowlessPlatform.h"
 #include "programs/velmoratool/HelpText.h"
 #include "programs/velmoratool/MakeCommand.h"
 #include "project/frames/CaptionFont.h"
@@ -57,9 +59,9 @@ int main(int argc, char *argv[])
     velmora::StandardOutput::ensureOpen();
     velmora::FileNames::allowAllLetters();
     velmora::applyIdentity();
+    velmora::installImageFormats();
     velmora::Log::install(QStringLiteral("log_tool"));
-    qputenv("QT_QPA_PLATFORM",
-            QByteArrayLiteral("offscreen")); // pictures and fonts, but never a window
+    velmora::chooseWindowlessPlatform();
     int result = 0;
     {
         QGuiApplication application(argc, argv);

@@ -34,6 +34,8 @@ public:
     ~BurnController() override;
 
     const QVector<BurnDevice> &devices() const { return m_devices; }
+    /// Why no disc can be written at all, as a text for the user; empty if one can.
+    QString hindrance() const { return m_writer->hindrance(); }
     bool isBurning() const { return m_thread != nullptr; }
 
     /// Looks for drives; devicesChanged() follows.

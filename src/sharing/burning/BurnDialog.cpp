@@ -102,7 +102,9 @@ void BurnDialog::onDevicesChanged()
         m_ui->cbDevices->setCurrentIndex(index);
     setBusy(QString());
     if (devices.isEmpty())
-        showProblem(tr("No drive that can write discs was found."));
+        showProblem(m_controller.hindrance().isEmpty()
+                        ? tr("No drive that can write discs was found.")
+                        : m_controller.hindrance());
 }
 
 void BurnDialog::setBusy(const QString &text)

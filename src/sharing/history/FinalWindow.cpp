@@ -4,6 +4,7 @@
 #include "chrome/MessageDialog.h"
 #include "chrome/Theme.h"
 #include "platform/FileManager.h"
+#include "sharing/upload/UploaderFactory.h"
 #include "ui_FinalWindow.h"
 
 #include <QDir>
@@ -36,6 +37,7 @@ FinalWindow::FinalWindow(const QString &video, FileManager &fileManager, QWidget
         emit burnDvd();
     });
     const auto offer = [this](QPushButton *button, const char *key) {
+        button->setToolTip(uploadHindrance());
         connect(button, &QPushButton::clicked, this, [this, key] {
             accept();
             emit uploadService(QLatin1String(key));

@@ -4,6 +4,7 @@
 #include "chrome/Theme.h"
 #include "services/MetricSender.h"
 #include "sharing/upload/UploadServices.h"
+#include "sharing/upload/UploaderFactory.h"
 
 #include <QKeyEvent>
 #include <QPushButton>
@@ -28,6 +29,7 @@ UploadServiceMenu::UploadServiceMenu(QWidget *parent) : QFrame(parent, Qt::Popup
         button->setProperty("flat", true);
         button->setIconSize({24, 24});
         button->setAutoDefault(false);
+        button->setToolTip(uploadHindrance());
         connect(button, &QPushButton::clicked, this, [this, key = service.key] {
             close();
             MetricSender::instance().record(QStringLiteral("upld"), key);

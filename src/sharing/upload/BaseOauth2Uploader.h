@@ -2,14 +2,11 @@
 #pragma once
 
 #include "sharing/upload/BaseUploader.h"
-#include "sharing/upload/ServiceSetup.h"
-#include "sharing/upload/TokenStore.h"
+#include "sharing/upload/UploadContext.h"
 #include "sharing/upload/net/ServiceNetwork.h"
 
 #include <QElapsedTimer>
 #include <QNetworkReply>
-#include <QPointer>
-#include <QWidget>
 
 #include <functional>
 #include <memory>
@@ -20,13 +17,6 @@ namespace velmora
 class LoopbackReplyHandler;
 class SignIn;
 struct HttpAnswer;
-
-/// What an uploader is given.
-struct UploadContext {
-    ServiceSetup setup;
-    TokenStore tokens;
-    QPointer<QWidget> window; ///< Above which a sign-in page may be shown.
-};
 
 /// What the services share: sign-in with its tokens, refresh of the access token, the request in
 /// flight, and the one end of an upload.

@@ -56,7 +56,8 @@ void UploadController::upload(const QString &serviceKey, const QString &videoFil
     m_uploader = uploader.release();
     m_uploader->setParent(this);
     connectUploader();
-    const bool complete = context.setup.isComplete();
+    // What no configuration helps against is said first.
+    const bool complete = context.setup.isComplete() || !uploadHindrance().isEmpty();
     QMetaObject::invokeMethod(
         m_uploader,
         [this, made = m_uploader, complete, serviceKey, videoFile, title] {

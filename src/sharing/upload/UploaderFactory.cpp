@@ -20,4 +20,9 @@ std::unique_ptr<BaseUploader> createUploader(const UploadContext &context)
     return nullptr;
 }
 
+QString uploadHindrance()
+{
+    return {};
+}
+
 } // namespace velmora

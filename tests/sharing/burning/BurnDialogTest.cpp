@@ -3,6 +3,7 @@
 #include "chrome/MessageDialog.h"
 #include "chrome/Theme.h"
 #include "helpers/LogCapture.h"
+#include "platform/null/NullDiscWriter.h"
 #include "sharing/burning/BurnController.h"
 #include "sharing/burning/FakeDiscWriter.h"
 
@@ -85,6 +86,7 @@ private slots:
     void cleanup();
     void offersDevices();
     void noDevice();
+    void noBurningService();
     void fieldsStart_data();
     void fieldsStart();
     void namesAreChecked_data();
@@ -171,6 +173,17 @@ void BurnDialogTest::noDevice()
     open(QString(), 0);
     QVERIFY(!ready());
     QVERIFY(find<QLabel>("lbProblem")->isVisible());
+}
+
+void BurnDialogTest::noBurningService()
+{
+    m_controller = std::make_unique<BurnController>(std::make_unique<NullDiscWriter>());
+    m_dialog = std::make_unique<BurnDialog>(*m_controller, m_video, QString());
+    m_dialog->show();
+    QTRY_VERIFY(find<QLabel>("lbProblem")->isVisible());
+    QCOMPARE(find<QLabel>("lbProblem")->text(),
+             QStringLiteral("This copy of the program cannot burn discs on this system."));
+    QVERIFY(!ready());
 }
 
 void BurnDialogTest::fieldsStart_data()

@@ -1,0 +1,20 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Cross-compiles for 64-bit Windows with MinGW-w64 (posix threads). VELMORA_WINDOWS_SDK, a CMake or
+# environment variable, is the folder that holds Qt, FFmpeg and the other libraries.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
+set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
+set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
+
+if(NOT VELMORA_WINDOWS_SDK)
+  set(VELMORA_WINDOWS_SDK "$ENV{VELMORA_WINDOWS_SDK}")
+endif()
+set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES VELMORA_WINDOWS_SDK)
+set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32 "${VELMORA_WINDOWS_SDK}")
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+
+set(ENV{PKG_CONFIG_LIBDIR} "${VELMORA_WINDOWS_SDK}/lib/pkgconfig")
