@@ -20,7 +20,7 @@ QStringList words(const char *line)
 
 } // namespace
 
-class TestToolRunner : public QObject
+class ToolRunnerTest : public QObject
 {
     Q_OBJECT
 private slots:
@@ -149,5 +149,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestToolRunner)
-#include "TestToolRunner.moc"
+QTEST_GUILESS_MAIN(ToolRunnerTest)
+#include "ToolRunnerTest.moc"

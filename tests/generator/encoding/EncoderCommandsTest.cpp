@@ -18,7 +18,7 @@ QString joined(const QStringList &arguments)
 
 } // namespace
 
-class TestEncoderCommands : public QObject
+class EncoderCommandsTest : public QObject
 {
     Q_OBJECT
 private slots:
@@ -106,5 +106,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestEncoderCommands)
-#include "TestEncoderCommands.moc"
+QTEST_APPLESS_MAIN(EncoderCommandsTest)
+#include "EncoderCommandsTest.moc"

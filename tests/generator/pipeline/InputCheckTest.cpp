@@ -9,7 +9,7 @@
 
 using namespace velmora;
 
-class TestInputCheck : public QObject
+class InputCheckTest : public QObject
 {
     Q_OBJECT
 
@@ -73,5 +73,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestInputCheck)
-#include "tst_inputcheck.moc"
+QTEST_MAIN(InputCheckTest)
+#include "InputCheckTest.moc"

@@ -6,7 +6,7 @@
 
 using namespace velmora;
 
-class TestEncoderLocator : public QObject
+class EncoderLocatorTest : public QObject
 {
     Q_OBJECT
 
@@ -113,5 +113,5 @@ private:
     QByteArray m_path;
 };
 
-QTEST_GUILESS_MAIN(TestEncoderLocator)
-#include "TestEncoderLocator.moc"
+QTEST_GUILESS_MAIN(EncoderLocatorTest)
+#include "EncoderLocatorTest.moc"

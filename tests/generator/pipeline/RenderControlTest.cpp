@@ -11,7 +11,7 @@
 using namespace velmora;
 
 /// Pause and cancel.
-class TestRenderControl : public QObject
+class RenderControlTest : public QObject
 {
     Q_OBJECT
 
@@ -166,5 +166,5 @@ private:
     }
 };
 
-QTEST_MAIN(TestRenderControl)
-#include "tst_rendercontrol.moc"
+QTEST_MAIN(RenderControlTest)
+#include "RenderControlTest.moc"

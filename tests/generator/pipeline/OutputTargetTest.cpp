@@ -9,7 +9,7 @@
 
 using namespace velmora;
 
-class TestOutputTarget : public QObject
+class OutputTargetTest : public QObject
 {
     Q_OBJECT
 
@@ -189,5 +189,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestOutputTarget)
-#include "tst_outputtarget.moc"
+QTEST_GUILESS_MAIN(OutputTargetTest)
+#include "OutputTargetTest.moc"

@@ -25,7 +25,7 @@ RenderPlan::Random scripted(QVector<int> numbers)
 
 } // namespace
 
-class TestRenderPlan : public QObject
+class RenderPlanTest : public QObject
 {
     Q_OBJECT
 
@@ -126,5 +126,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestRenderPlan)
-#include "tst_renderplan.moc"
+QTEST_APPLESS_MAIN(RenderPlanTest)
+#include "RenderPlanTest.moc"

@@ -14,7 +14,7 @@
 
 using namespace velmora;
 
-class TestCacheSweeper : public QObject
+class CacheSweeperTest : public QObject
 {
     Q_OBJECT
 
@@ -110,5 +110,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCacheSweeper)
-#include "tst_cachesweeper.moc"
+QTEST_GUILESS_MAIN(CacheSweeperTest)
+#include "CacheSweeperTest.moc"

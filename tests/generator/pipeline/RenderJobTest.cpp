@@ -61,7 +61,7 @@ QVector<QImage> expectedFrames(const RenderRequest &request)
 } // namespace
 
 /// Whole renders of tiny slideshows.
-class TestRenderJob : public QObject
+class RenderJobTest : public QObject
 {
     Q_OBJECT
 
@@ -230,5 +230,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestRenderJob)
-#include "tst_renderjob.moc"
+QTEST_MAIN(RenderJobTest)
+#include "RenderJobTest.moc"

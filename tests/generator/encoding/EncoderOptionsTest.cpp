@@ -5,7 +5,7 @@
 
 using namespace velmora;
 
-class TestEncoderOptions : public QObject
+class EncoderOptionsTest : public QObject
 {
     Q_OBJECT
 private slots:
@@ -130,5 +130,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestEncoderOptions)
-#include "TestEncoderOptions.moc"
+QTEST_APPLESS_MAIN(EncoderOptionsTest)
+#include "EncoderOptionsTest.moc"

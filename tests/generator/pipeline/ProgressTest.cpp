@@ -5,7 +5,7 @@
 
 using namespace velmora;
 
-class TestProgress : public QObject
+class ProgressTest : public QObject
 {
     Q_OBJECT
 private slots:
@@ -75,5 +75,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestProgress)
-#include "tst_progress.moc"
+QTEST_APPLESS_MAIN(ProgressTest)
+#include "ProgressTest.moc"

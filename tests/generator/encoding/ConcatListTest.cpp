@@ -6,7 +6,7 @@
 
 using namespace velmora;
 
-class TestConcatList : public QObject
+class ConcatListTest : public QObject
 {
     Q_OBJECT
 private slots:
@@ -66,5 +66,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestConcatList)
-#include "TestConcatList.moc"
+QTEST_APPLESS_MAIN(ConcatListTest)
+#include "ConcatListTest.moc"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "generator/worker/WorkerOutputReader.h"
 #include "generator/worker/WorkerProtocol.h"
+#include "generator/worker/WorkerOutputReader.h"
 
 #include <QtTest>
 
@@ -29,7 +29,7 @@ WorkerMessage failedMessage(const QString &text)
 
 } // namespace
 
-class TestWorkerProtocol : public QObject
+class WorkerProtocolTest : public QObject
 {
     Q_OBJECT
 private slots:
@@ -137,5 +137,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestWorkerProtocol)
-#include "TestWorkerProtocol.moc"
+QTEST_APPLESS_MAIN(WorkerProtocolTest)
+#include "WorkerProtocolTest.moc"

@@ -11,7 +11,7 @@
 using namespace velmora;
 
 /// Renders that cannot succeed.
-class TestRenderFailures : public QObject
+class RenderFailuresTest : public QObject
 {
     Q_OBJECT
 
@@ -234,5 +234,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestRenderFailures)
-#include "tst_renderfailures.moc"
+QTEST_MAIN(RenderFailuresTest)
+#include "RenderFailuresTest.moc"

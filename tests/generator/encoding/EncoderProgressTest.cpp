@@ -5,7 +5,7 @@
 
 using namespace velmora;
 
-class TestEncoderProgress : public QObject
+class EncoderProgressTest : public QObject
 {
     Q_OBJECT
 private slots:
@@ -50,5 +50,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestEncoderProgress)
-#include "TestEncoderProgress.moc"
+QTEST_APPLESS_MAIN(EncoderProgressTest)
+#include "EncoderProgressTest.moc"

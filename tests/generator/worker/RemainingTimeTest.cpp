@@ -17,7 +17,7 @@ bool isWithin(double share, qint64 value, qint64 expected)
 
 } // namespace
 
-class TestRemainingTime : public QObject
+class RemainingTimeTest : public QObject
 {
     Q_OBJECT
 private slots:
@@ -95,5 +95,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestRemainingTime)
-#include "TestRemainingTime.moc"
+QTEST_APPLESS_MAIN(RemainingTimeTest)
+#include "RemainingTimeTest.moc"

@@ -38,7 +38,7 @@ int largestDifference(const QImage &a, const QImage &b)
 
 } // namespace
 
-class TestFrameWriter : public QObject
+class FrameWriterTest : public QObject
 {
     Q_OBJECT
 private slots:
@@ -99,5 +99,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestFrameWriter)
-#include "TestFrameWriter.moc"
+QTEST_GUILESS_MAIN(FrameWriterTest)
+#include "FrameWriterTest.moc"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "generator/encoding/EncoderLocator.h"
 #include "generator/encoding/VideoUtil.h"
+#include "generator/encoding/EncoderLocator.h"
 #include "helpers/VideoProbe.h"
 
 #include <QDir>
@@ -47,7 +47,7 @@ void writeFile(const QString &path, const QByteArray &content)
 
 } // namespace
 
-class TestVideoUtil : public QObject
+class VideoUtilTest : public QObject
 {
     Q_OBJECT
 private slots:
@@ -359,5 +359,5 @@ private:
     std::unique_ptr<EncodingContext> m_context;
 };
 
-QTEST_GUILESS_MAIN(TestVideoUtil)
-#include "TestVideoUtil.moc"
+QTEST_GUILESS_MAIN(VideoUtilTest)
+#include "VideoUtilTest.moc"

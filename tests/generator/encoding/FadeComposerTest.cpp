@@ -68,7 +68,7 @@ private:
 
 } // namespace
 
-class TestFadeComposer : public QObject
+class FadeComposerTest : public QObject
 {
     Q_OBJECT
 private slots:
@@ -178,5 +178,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestFadeComposer)
-#include "TestFadeComposer.moc"
+QTEST_GUILESS_MAIN(FadeComposerTest)
+#include "FadeComposerTest.moc"

@@ -35,7 +35,7 @@ QByteArray finishedLine(const QString &file)
 
 } // namespace
 
-class TestComposer : public QObject
+class ComposerTest : public QObject
 {
     Q_OBJECT
 private slots:
@@ -255,5 +255,5 @@ private:
     QStringList m_signals;
 };
 
-QTEST_GUILESS_MAIN(TestComposer)
-#include "TestComposer.moc"
+QTEST_GUILESS_MAIN(ComposerTest)
+#include "ComposerTest.moc"
