@@ -5,6 +5,7 @@
 #include "generator/pipeline/FramePainter.h"
 #include "generator/pipeline/SlideFrames.h"
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -38,6 +39,11 @@ FrameProducer::~FrameProducer()
 bool FrameProducer::waitForStage(int order, int stage)
 {
     const int work = workOf(order, stage);
+    {
+        const std::lock_guard<std::mutex> locker(m_mutex);
+        m_wanted = std::max(m_wanted, work);
+        m_changed.notify_all();
+    }
     return paintWhile([this, work] { return m_works.at(work).painted < m_works.at(work).pictures; },
                       work);
 }
@@ -45,9 +51,7 @@ bool FrameProducer::waitForStage(int order, int stage)
 void FrameProducer::stageEncoded(int order, int stage)
 {
     const std::lock_guard<std::mutex> locker(m_mutex);
-    const int work = workOf(order, stage);
-    m_ahead -= m_works.at(work).pictures;
-    m_encoding = work + 1;
+    m_ahead -= m_works.at(workOf(order, stage)).pictures;
     m_changed.notify_all();
 }
 
@@ -100,7 +104,7 @@ bool FrameProducer::take(int lastWork, Picture *picture)
 
 bool FrameProducer::mayBegin(int work) const
 {
-    return m_works.at(work).given > 0 || work <= m_encoding + 1 ||
+    return m_works.at(work).given > 0 || work <= m_wanted + 1 ||
            m_ahead + m_works.at(work).pictures <= kPicturesAhead;
 }
 

@@ -23,6 +23,8 @@ class RenderFailuresTest : public QObject
         RenderRequest made =
             m_fixture.request(m_photos, m_fixture.output(QStringLiteral("video.mp4")));
         made.parallel = parallel;
+        // This profile has the joined picture copied into the output, by one more run.
+        made.profile = OutputProfile::PlaysEverywhere;
         return made;
     }
 
