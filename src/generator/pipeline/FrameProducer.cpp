@@ -34,6 +34,9 @@ FrameProducer::FrameProducer(const RenderPlan &plan, SlideFrames &frames, Encodi
 FrameProducer::~FrameProducer()
 {
     wait();
+    // The encoding threads left under the lock. Taking it shows the thread sanitizer, which does
+    // not see Qt's thread pool wait for them, that they are done.
+    const std::lock_guard<std::mutex> locker(m_mutex);
 }
 
 bool FrameProducer::waitForStage(int order, int stage)
