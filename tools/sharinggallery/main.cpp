@@ -117,7 +117,7 @@ void showHistory(const QStringList &photos)
     widget.on_btnClearHistory_clicked();
     widget.findChild<QFrame *>(QStringLiteral("undoBar"))->show();
     widget.findChild<QLabel *>(QStringLiteral("lblUndo"))
-        ->setText(QStringLiteral("1 video removed from the history."));
+        ->setText(QStringLiteral("Videos removed from the history: 1"));
     widget.resize(1440, 900);
     save(widget, "history-undo.png");
     UploadServiceMenu menu(&widget);
