@@ -12,9 +12,14 @@ export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 screen=(xvfb-run -a -s "-screen 0 1600x1000x24")
 "${screen[@]}" "$bin/editorgallery" "$folder" en examples/photos/*.jpg
 "${screen[@]}" "$bin/sharinggallery" "$folder" examples/photos/*.jpg
+if [ -x "$bin/EmbeddedSignInTest" ]; then # Built with VELMORA_WITH_WEBENGINE.
+    VELMORA_SCREENSHOTS=$folder "${screen[@]}" "$bin/EmbeddedSignInTest" >/dev/null 2>&1
+fi
+browser=(chromium --headless "--window-size=640,400")
+[ "$(id -u)" -ne 0 ] || browser+=(--no-sandbox)
 for page in "$folder"/answer-*.html; do
-    ! command -v chromium >/dev/null || chromium --headless $([ "$(id -u)" -ne 0 ] || echo --no-sandbox) --window-size=640,400 \
-        --screenshot="${page%.html}.png" "file://$PWD/$page" 2>/dev/null
+    ! command -v chromium >/dev/null ||
+        "${browser[@]}" --screenshot="${page%.html}.png" "file://$PWD/$page" 2>/dev/null
     rm -f "$page"
 done
 if command -v pngquant >/dev/null; then

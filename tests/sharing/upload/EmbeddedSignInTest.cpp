@@ -95,6 +95,7 @@ int main(int argc, char **argv)
     // The component's sandbox does not work for the superuser, as whom tests in containers run.
     if (geteuid() == 0)
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+    qputenv("QT_QUICK_BACKEND", "software"); // Without a display there is no OpenGL.
     QApplication application(argc, argv);
     EmbeddedSignInTest test;
     return QTest::qExec(&test, argc, argv);

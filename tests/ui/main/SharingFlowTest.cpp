@@ -2,6 +2,7 @@
 #include "app/Identity.h"
 #include "helpers/FakeServices.h"
 #include "platform/Secrets.h"
+#include "services/MetricSender.h"
 #include "sharing/history/HistoryWidget.h"
 #include "ui/main/MainViewFixture.h"
 
@@ -81,6 +82,11 @@ private:
         return find<QStackedWidget>(&history(), "pages")->currentWidget()->objectName();
     }
 
+    static bool isRecorded(const QByteArray &event)
+    {
+        return MetricSender::instance().pending().contains(QLatin1String("&m1=" + event));
+    }
+
     FakeServices m_services{true};
     ScriptedBrowser m_browser;
     std::unique_ptr<MainViewFixture> m;
@@ -96,6 +102,8 @@ void SharingFlowTest::init()
     m->settings.resolution = {320, 240};
     m->settings.defaultTime = 1;
     m->settings.transitionTime = 1;
+    // Gathers the usage events of the test, and never has enough of them to send.
+    MetricSender::instance().configure(QUrl(QStringLiteral("http://127.0.0.1:9/")), {}, 999, true);
     configure();
 }
 
@@ -103,6 +111,7 @@ void SharingFlowTest::cleanup()
 {
     QCOMPARE(m->dialogs.failure(), QString());
     m.reset();
+    MetricSender::instance().configure(QUrl(), {}, 999, false);
 }
 
 void SharingFlowTest::configure(const QHash<QString, QString> &extra)
@@ -215,6 +224,7 @@ void SharingFlowTest::videoIsUploaded()
     QTRY_VERIFY(m_browser.lastPage.contains("Here is your video"));
     QCOMPARE(m->taskbar.value, 100);
     QVERIFY(!m->taskbar.visible);
+    QVERIFY(isRecorded("upld:ok"));
 }
 
 void SharingFlowTest::failureIsTold_data()
@@ -274,6 +284,7 @@ void SharingFlowTest::failureIsTold()
     QCOMPARE(page(), QStringLiteral("pgHistory"));
     QVERIFY(!m->taskbar.visible);
     QCOMPARE(m_services.files().size(), 0);
+    QVERIFY(isRecorded("upld:failed") && isRecorded("upld:" + service.toLatin1()));
 }
 
 void SharingFlowTest::cancelReturnsToTheList()
@@ -318,6 +329,7 @@ void SharingFlowTest::videoIsBurnt()
     QTRY_VERIFY(!result.isEmpty());
     qunsetenv("VELMORA_DISC_IMAGES");
     QCOMPARE(result, QStringLiteral("Succeeded"));
+    QVERIFY(isRecorded("wdvd:1"));
     QCOMPARE(title, QStringLiteral("By the sea"));
     QCOMPARE(name, QFileInfo(m_video).fileName());
     QVERIFY(!contentOf(m_video).isEmpty());
