@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Makes the pictures in docs/screenshots anew, from the bundled photos: run it after a change that
-# can be seen, and look at what it made. Needs the preset "dev" to be built, xvfb-run and pngquant.
+# can be seen, and look at what it made. Needs the preset "dev" to be built, xvfb-run and, for the
+# pages that a browser shows after a sign-in, chromium; pngquant makes the files small.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 bin=build/${1:-dev}/bin
@@ -11,6 +12,16 @@ export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 screen=(xvfb-run -a -s "-screen 0 1600x1000x24")
 "${screen[@]}" "$bin/editorgallery" "$folder" en examples/photos/*.jpg
 "${screen[@]}" "$bin/sharinggallery" "$folder" examples/photos/*.jpg
+if [ -x "$bin/EmbeddedSignInTest" ]; then # Built with VELMORA_WITH_WEBENGINE.
+    VELMORA_SCREENSHOTS=$folder "${screen[@]}" "$bin/EmbeddedSignInTest" >/dev/null 2>&1
+fi
+browser=(chromium --headless "--window-size=640,400")
+[ "$(id -u)" -ne 0 ] || browser+=(--no-sandbox)
+for page in "$folder"/answer-*.html; do
+    ! command -v chromium >/dev/null ||
+        "${browser[@]}" --screenshot="${page%.html}.png" "file://$PWD/$page" 2>/dev/null
+    rm -f "$page"
+done
 if command -v pngquant >/dev/null; then
     pngquant --force --skip-if-larger --ext .png "$folder"/*.png || true
 fi

@@ -1946,7 +1946,7 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <translation>Den Verlauf löschen</translation>
     </message>
     <message numerus="yes">
-        <source>Remove all %n video(s) from the history?</source>
+        <source>Remove all videos (%n) from the history?</source>
         <translation><numerusform>%n Video aus dem Verlauf entfernen?</numerusform><numerusform>Alle %n Videos aus dem Verlauf entfernen?</numerusform></translation>
     </message>
     <message>
@@ -1962,7 +1962,7 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <translation>Einige Videodateien konnten nicht in den Papierkorb verschoben werden. Sie sind, wo sie waren.</translation>
     </message>
     <message numerus="yes">
-        <source>%n video(s) removed from the history.</source>
+        <source>Videos removed from the history: %n</source>
         <translation><numerusform>%n Video aus dem Verlauf entfernt.</numerusform><numerusform>%n Videos aus dem Verlauf entfernt.</numerusform></translation>
     </message>
     <message>

@@ -1946,7 +1946,7 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <translation>Borrar el historial</translation>
     </message>
     <message numerus="yes">
-        <source>Remove all %n video(s) from the history?</source>
+        <source>Remove all videos (%n) from the history?</source>
         <translation><numerusform>¿Quitar %n vídeo del historial?</numerusform><numerusform>¿Quitar los %n vídeos del historial?</numerusform></translation>
     </message>
     <message>
@@ -1962,7 +1962,7 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <translation>Algunos archivos de vídeo no se han podido mover a la papelera. Siguen donde estaban.</translation>
     </message>
     <message numerus="yes">
-        <source>%n video(s) removed from the history.</source>
+        <source>Videos removed from the history: %n</source>
         <translation><numerusform>%n vídeo quitado del historial.</numerusform><numerusform>%n vídeos quitados del historial.</numerusform></translation>
     </message>
     <message>

@@ -1946,7 +1946,7 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Effacer l'historique</translation>
     </message>
     <message numerus="yes">
-        <source>Remove all %n video(s) from the history?</source>
+        <source>Remove all videos (%n) from the history?</source>
         <translation><numerusform>Retirer %n vidéo de l'historique ?</numerusform><numerusform>Retirer les %n vidéos de l'historique ?</numerusform></translation>
     </message>
     <message>
@@ -1962,7 +1962,7 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Certains fichiers vidéo n'ont pas pu être mis à la corbeille. Ils sont restés à leur place.</translation>
     </message>
     <message numerus="yes">
-        <source>%n video(s) removed from the history.</source>
+        <source>Videos removed from the history: %n</source>
         <translation><numerusform>%n vidéo retirée de l'historique.</numerusform><numerusform>%n vidéos retirées de l'historique.</numerusform></translation>
     </message>
     <message>

@@ -1946,7 +1946,7 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <translation>Cancella la cronologia</translation>
     </message>
     <message numerus="yes">
-        <source>Remove all %n video(s) from the history?</source>
+        <source>Remove all videos (%n) from the history?</source>
         <translation><numerusform>Rimuovere %n video dalla cronologia?</numerusform><numerusform>Rimuovere tutti i %n video dalla cronologia?</numerusform></translation>
     </message>
     <message>
@@ -1962,7 +1962,7 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <translation>Alcuni file video non possono essere spostati nel cestino. Sono rimasti dov'erano.</translation>
     </message>
     <message numerus="yes">
-        <source>%n video(s) removed from the history.</source>
+        <source>Videos removed from the history: %n</source>
         <translation><numerusform>%n video rimosso dalla cronologia.</numerusform><numerusform>%n video rimossi dalla cronologia.</numerusform></translation>
     </message>
     <message>

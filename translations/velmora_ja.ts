@@ -1946,7 +1946,7 @@ Press "Cancel" to cancel the operation.</source>
         <translation>履歴を消去</translation>
     </message>
     <message numerus="yes">
-        <source>Remove all %n video(s) from the history?</source>
+        <source>Remove all videos (%n) from the history?</source>
         <translation><numerusform>%n 本の動画をすべて履歴から削除しますか?</numerusform></translation>
     </message>
     <message>
@@ -1962,7 +1962,7 @@ Press "Cancel" to cancel the operation.</source>
         <translation>一部の動画ファイルをごみ箱に移動できませんでした。元の場所にあります。</translation>
     </message>
     <message numerus="yes">
-        <source>%n video(s) removed from the history.</source>
+        <source>Videos removed from the history: %n</source>
         <translation><numerusform>%n 本の動画を履歴から削除しました。</numerusform></translation>
     </message>
     <message>

@@ -1946,7 +1946,7 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Wyczyść historię</translation>
     </message>
     <message numerus="yes">
-        <source>Remove all %n video(s) from the history?</source>
+        <source>Remove all videos (%n) from the history?</source>
         <translation><numerusform>Usunąć %n film z historii?</numerusform><numerusform>Usunąć wszystkie %n filmy z historii?</numerusform><numerusform>Usunąć wszystkie %n filmów z historii?</numerusform></translation>
     </message>
     <message>
@@ -1962,7 +1962,7 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Niektórych plików nie udało się przenieść do kosza. Pozostały na swoim miejscu.</translation>
     </message>
     <message numerus="yes">
-        <source>%n video(s) removed from the history.</source>
+        <source>Videos removed from the history: %n</source>
         <translation><numerusform>Usunięto z historii %n film.</numerusform><numerusform>Usunięto z historii %n filmy.</numerusform><numerusform>Usunięto z historii %n filmów.</numerusform></translation>
     </message>
     <message>

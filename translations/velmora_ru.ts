@@ -1946,7 +1946,7 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Очистить историю</translation>
     </message>
     <message numerus="yes">
-        <source>Remove all %n video(s) from the history?</source>
+        <source>Remove all videos (%n) from the history?</source>
         <translation><numerusform>Убрать из истории %n видео?</numerusform><numerusform>Убрать из истории все %n видео?</numerusform><numerusform>Убрать из истории все %n видео?</numerusform></translation>
     </message>
     <message>
@@ -1962,7 +1962,7 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Некоторые видеофайлы не удалось переместить в корзину. Они остались на месте.</translation>
     </message>
     <message numerus="yes">
-        <source>%n video(s) removed from the history.</source>
+        <source>Videos removed from the history: %n</source>
         <translation><numerusform>%n видео убрано из истории.</numerusform><numerusform>%n видео убраны из истории.</numerusform><numerusform>%n видео убраны из истории.</numerusform></translation>
     </message>
     <message>

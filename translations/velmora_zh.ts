@@ -1946,7 +1946,7 @@ Press "Cancel" to cancel the operation.</source>
         <translation>清除历史记录</translation>
     </message>
     <message numerus="yes">
-        <source>Remove all %n video(s) from the history?</source>
+        <source>Remove all videos (%n) from the history?</source>
         <translation><numerusform>要从历史记录中移除全部 %n 个视频吗？</numerusform></translation>
     </message>
     <message>
@@ -1962,7 +1962,7 @@ Press "Cancel" to cancel the operation.</source>
         <translation>部分视频文件无法移到回收站，它们仍在原处。</translation>
     </message>
     <message numerus="yes">
-        <source>%n video(s) removed from the history.</source>
+        <source>Videos removed from the history: %n</source>
         <translation><numerusform>已从历史记录中移除 %n 个视频。</numerusform></translation>
     </message>
     <message>

@@ -66,6 +66,11 @@ fuzz_packages=(
     clang
 )
 
+# For the option VELMORA_WITH_WEBENGINE alone.
+webengine_packages=(
+    qtwebengine5-dev
+)
+
 benchmark_packages=(
     libbenchmark-dev
     melt

@@ -102,6 +102,11 @@ void FakeServices::reset()
     control({{QStringLiteral("reset"), true}, {QStringLiteral("answer"), QStringLiteral("allow")}});
 }
 
+QJsonObject FakeServices::action(const char *json)
+{
+    return QJsonDocument::fromJson(json).object();
+}
+
 void FakeServices::fail(const QString &step, QJsonObject action, int times)
 {
     action.insert(QStringLiteral("times"), times);

@@ -28,6 +28,8 @@ public:
     /// See control() in tests/fakes/services/server.py.
     QJsonObject control(const QJsonObject &orders);
     void reset();
+    /// Of JSON text.
+    static QJsonObject action(const char *json);
     /// The next @p times requests of @p step end as @p action says.
     void fail(const QString &step, QJsonObject action, int times = 1);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// sharinggallery FOLDER PHOTOS...: saves the pages of history, final page, burning and update
-// notice as pictures, with PHOTOS in the rows of the history.
+// sharinggallery FOLDER PHOTOS...: saves the pages of history, final page, uploads, burning and
+// update notice as pictures, with PHOTOS in the rows of the history, and as HTML what a browser
+// shows after a sign-in.
 #include "app/AppSettings.h"
 #include "chrome/MessageDialog.h"
 #include "chrome/Theme.h"
@@ -13,6 +14,9 @@
 #include "sharing/history/HistoryWidget.h"
 #include "sharing/history/UploadServiceMenu.h"
 #include "sharing/upload/UploadController.h"
+#include "sharing/upload/UploadFailWindow.h"
+#include "sharing/upload/UploadSuccessWindow.h"
+#include "sharing/upload/signin/AnswerPage.h"
 #include "ui/update/UpdateDialog.h"
 
 #include <QApplication>
@@ -23,6 +27,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QStackedWidget>
+#include <QTimer>
 
 using namespace velmora;
 
@@ -38,11 +43,35 @@ void wait(int milliseconds)
         QApplication::processEvents(QEventLoop::AllEvents, 20);
 }
 
-void save(QWidget &widget, const char *name)
+void save(QWidget &widget, const QString &name)
 {
     widget.show();
     wait(300);
-    widget.grab().save(QDir(s_folder).filePath(QLatin1String(name)));
+    widget.grab().save(QDir(s_folder).filePath(name));
+}
+
+void save(QWidget &widget, const char *name)
+{
+    save(widget, QString::fromLatin1(name));
+}
+
+/// The dialog that is about to block its caller.
+void saveNextDialog(const char *name)
+{
+    QTimer::singleShot(300, qApp, [name] {
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        save(*dialog, name);
+        dialog->reject();
+    });
+}
+
+void writePage(const char *name, const QString &html)
+{
+    QFile file(QDir(s_folder).filePath(QLatin1String(name)));
+    if (file.open(QIODevice::WriteOnly))
+        file.write(html.toUtf8());
 }
 
 void fill(HistoryFixture &history, const QStringList &photos)
@@ -82,9 +111,13 @@ void showHistory(const QStringList &photos)
     widget.setUploads(&uploads);
     widget.resize(1024, 640);
     save(widget, "history.png");
+    saveNextDialog("history-remove.png");
+    widget.onDeleteProject(widget.selectedFile());
+    saveNextDialog("history-clear.png");
+    widget.on_btnClearHistory_clicked();
     widget.findChild<QFrame *>(QStringLiteral("undoBar"))->show();
     widget.findChild<QLabel *>(QStringLiteral("lblUndo"))
-        ->setText(QStringLiteral("1 video removed from the history."));
+        ->setText(QStringLiteral("Videos removed from the history: 1"));
     widget.resize(1440, 900);
     save(widget, "history-undo.png");
     UploadServiceMenu menu(&widget);
@@ -104,6 +137,22 @@ void showHistory(const QStringList &photos)
     save(widget, "upload-progress.png");
     pages->setCurrentWidget(widget.findChild<QWidget *>(QStringLiteral("Oauth2Waiting")));
     save(widget, "upload-waiting.png");
+}
+
+void showUploadResults()
+{
+    for (const char *service : {"youtube", "googledrive", "dropbox"}) {
+        UploadSuccessWindow success(QLatin1String(service),
+                                    QStringLiteral("https://example.org/watch"));
+        save(success, QStringLiteral("upload-success-%1.png").arg(QLatin1String(service)));
+    }
+    UploadFailWindow failure(
+        QStringLiteral("Error uploading video:The user has exceeded the number "
+                       "of videos they may upload."));
+    save(failure, "upload-fail.png");
+    const AnswerPage page;
+    writePage("answer-connected.html", page.success());
+    writePage("answer-not-connected.html", page.failure());
 }
 
 void showBurning()
@@ -143,6 +192,7 @@ int main(int argc, char **argv)
     s_folder = arguments.at(1);
     QDir().mkpath(s_folder);
     showHistory(arguments.mid(2));
+    showUploadResults();
     showBurning();
     NullFileManager manager;
     FinalWindow final(QStringLiteral("/home/me/Summer at the lake.mp4"), manager);

@@ -17,8 +17,9 @@ class WebEnginePage : public EmbeddedPage
 public:
     WebEnginePage() : m_view(new QWebEngineView(this))
     {
-        // A profile without a name keeps nothing: each sign-in begins without cookies.
-        auto *profile = new QWebEngineProfile(m_view);
+        // A profile without a name keeps nothing: each sign-in begins without cookies. It is made
+        // after the view, and hence ends after the view's page, as it must.
+        auto *profile = new QWebEngineProfile(this);
         m_view->setPage(new QWebEnginePage(profile, m_view));
         auto *layout = new QVBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);

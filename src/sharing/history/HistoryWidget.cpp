@@ -227,7 +227,7 @@ void HistoryWidget::on_btnClearHistory_clicked()
     MessageDialog::Message message;
     message.kind = MessageDialog::Kind::Question;
     message.title = tr("Clear the history");
-    message.text = tr("Remove all %n video(s) from the history?", nullptr, m_model->rowCount());
+    message.text = tr("Remove all videos (%n) from the history?", nullptr, m_model->rowCount());
     message.checkText = tr("Also move the video files to the trash");
     message.buttons = QStringList{tr("REMOVE ALL"), tr("CANCEL")};
     message.dangerous = true;
@@ -260,7 +260,7 @@ void HistoryWidget::remove(const QVector<const ProjectFile *> &projects, bool tr
 
 void HistoryWidget::showUndoBar(int count)
 {
-    m_ui->lblUndo->setText(tr("%n video(s) removed from the history.", nullptr, count));
+    m_ui->lblUndo->setText(tr("Videos removed from the history: %n", nullptr, count));
     m_ui->btnUndo->setFocus();
 }
 

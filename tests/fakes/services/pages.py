@@ -19,7 +19,7 @@ FAILURES = {
 }
 
 HEAD = """<!DOCTYPE html><html><head><meta charset="utf-8"><title>%s</title><style>
-body { font: 16px/1.5 sans-serif; margin: 40px auto; max-width: 640px; color: #1f2a33; }
+body { font: 16px/1.5 sans-serif; margin: 40px auto; padding: 0 24px; max-width: 640px; color: #1f2a33; }
 button, select { font: inherit; padding: 6px 16px; } table { border-collapse: collapse; }
 td, th { padding: 4px 12px 4px 0; text-align: left; } .wrong { color: #c0392b; }
 </style></head><body><h1>%s</h1>"""

@@ -28,40 +28,344 @@ public slots:
     void play(const QUrl &file) { m_played.append(file.toLocalFile()); }
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void rowShowsTheFacts();
-    void removedVideo();
-    void buttonsActOnTheSelection();
-    void rowButtonsSelectTheirRow();
-    void doubleClickPlays();
-    void headerSorts();
-    void deletingAsks_data();
-    void deletingAsks();
-    void undoBringsEverythingBack();
-    void clearingCanBeUndone();
-    void videosGoToTheTrashOnlyWhenTicked();
-    void historyThatCannotBeWritten();
-    void selectionSurvivesReload();
-    void emptyHistory();
-    void serviceMenu_data();
-    void serviceMenu();
-    void uploadPages();
-    void uploadFails();
-    void uploadIsCancelled_data();
-    void uploadIsCancelled();
-    void unknownService();
-    void manyEntries();
+    void initTestCase()
+    {
+        Theme::install(*qApp);
+        QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "play");
+    }
+
+    void init()
+    {
+        m_played.clear();
+        m_history = std::make_unique<HistoryFixture>();
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_history->path("data"))); // Of the trash.
+        m_history->add("old.mp4", 3 * 1048576, QDate(2026, 1, 2), QStringLiteral("Old\ntitle"));
+        m_history->add("gone.mp4", -1, {});
+        m_history->add("new.mp4", 250 * 1048576LL, QDate(2026, 3, 4));
+        QVERIFY(m_history->store.save());
+    }
+
+    void cleanup()
+    {
+        m_widget.reset();
+        m_uploads.reset();
+    }
+
+    void rowShowsTheFacts()
+    {
+        show();
+        HistoryRowWidget *old = row("old.mp4");
+        QVERIFY(old);
+        QCOMPARE(text(old, "lblDate"), QStringLiteral("02.01.2026"));
+        QCOMPARE(text(old, "lblFileName"), QStringLiteral("old.mp4"));
+        QCOMPARE(text(old, "lblResolution"), QStringLiteral("1024x768"));
+        QCOMPARE(text(old, "lblDuration").count(QLatin1Char(':')), 2);
+        QCOMPARE(text(old, "lblDuration").size(), 8);
+        QCOMPARE(text(old, "lblSize"), QStringLiteral("3.0 MB"));
+        QCOMPARE(text(row("new.mp4"), "lblSize"), QStringLiteral("250 MB"));
+    }
+
+    void removedVideo()
+    {
+        show();
+        HistoryRowWidget *gone = row("gone.mp4");
+        QCOMPARE(text(gone, "lblSize"), QStringLiteral("removed"));
+        QVERIFY(!gone->findChild<QToolButton *>(QStringLiteral("btnPreview"))->isEnabled());
+        QVERIFY(m_widget->select(m_history->path("gone.mp4")));
+        QVERIFY(!find<QPushButton>("btnUpload")->isEnabled());
+        QVERIFY(!find<QPushButton>("btnBurn")->isEnabled());
+        QVERIFY(find<QPushButton>("btnResumeProject")->isEnabled());
+        DialogDriver driver;
+        driver.expect([](QDialog *dialog) {
+            QVERIFY(!dialog->findChild<QCheckBox *>()); // No file to delete.
+            QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("button0")),
+                              Qt::LeftButton);
+        });
+        clickIn(gone, "btnDelete");
+        QCOMPARE(driver.failure(), QString());
+        QCOMPARE(m_history->saved(),
+                 (QStringList{QStringLiteral("old.mp4"), QStringLiteral("new.mp4")}));
+    }
+
+    void buttonsActOnTheSelection()
+    {
+        show();
+        QVERIFY(m_widget->select(m_history->path("old.mp4")));
+        QSignalSpy opened(m_widget.get(), &HistoryWidget::openProject);
+        QSignalSpy burnt(m_widget.get(), &HistoryWidget::burnDvd);
+        click("btnResumeProject");
+        click("btnBurn");
+        QCOMPARE(opened.first().first().toString(), m_history->path("old.mp4"));
+        QCOMPARE(m_widget->selectedProject()->name(), QStringLiteral("old.mp4"));
+        QCOMPARE(burnt.first().at(0).toString(), QStringLiteral("Old title"));
+        QCOMPARE(burnt.first().at(1).toString(), m_history->path("old.mp4"));
+    }
+
+    void rowButtonsSelectTheirRow()
+    {
+        show();
+        QVERIFY(m_widget->select(m_history->path("new.mp4")));
+        QSignalSpy opened(m_widget.get(), &HistoryWidget::openProject);
+        QSignalSpy burnt(m_widget.get(), &HistoryWidget::burnDvd);
+        clickIn(row("old.mp4"), "btnOpen");
+        QCOMPARE(opened.first().first().toString(), m_history->path("old.mp4"));
+        QCOMPARE(m_widget->selectedFile(), m_history->path("old.mp4"));
+        clickIn(row("new.mp4"), "btnBurn");
+        QCOMPARE(burnt.first().at(1).toString(), m_history->path("new.mp4"));
+        clickIn(row("new.mp4"), "btnPreview");
+        QCOMPARE(m_played, QStringList{m_history->path("new.mp4")});
+    }
+
+    void doubleClickPlays()
+    {
+        show();
+        auto *list = find<HistoryListView>("listHistory");
+        const QPoint place = list->visualRect(list->model()->index(0, 0)).center();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
+        QCOMPARE(m_played, QStringList{m_history->path("new.mp4")});
+        QTest::keyClick(list, Qt::Key_Return);
+        QCOMPARE(m_played.size(), 2);
+        QVERIFY(QFile::remove(m_history->path("new.mp4")));
+        DialogDriver driver;
+        driver.press(QStringLiteral("CLOSE"));
+        QTest::keyClick(list, Qt::Key_Return);
+        QCOMPARE(driver.title(), QStringLiteral("Open file Error"));
+        QCOMPARE(driver.text(),
+                 QStringLiteral("File '%1' not found").arg(m_history->path("new.mp4")));
+        QCOMPARE(m_played.size(), 2);
+    }
+
+    void headerSorts()
+    {
+        show();
+        const auto arrow = [this](const char *button) {
+            return find<QPushButton>(button)->icon().pixmap(16, 16).toImage();
+        };
+        const QImage up = Theme::icon(QStringLiteral("arrow-up")).pixmap(16, 16).toImage();
+        const QImage down = Theme::icon(QStringLiteral("arrow-down")).pixmap(16, 16).toImage();
+        QVERIFY(m_widget->select(m_history->path("new.mp4")));
+        auto *list = find<HistoryListView>("listHistory");
+        QCOMPARE(list->currentIndex().row(), 0);
+        QCOMPARE(arrow("btnDate"), down);
+        click("btnDate");
+        QCOMPARE(arrow("btnDate"), up);
+        QCOMPARE(list->currentIndex().row(), 2);
+        QCOMPARE(m_widget->selectedFile(), m_history->path("new.mp4"));
+        click("btnFileName");
+        QCOMPARE(arrow("btnFileName"), up);
+        QVERIFY(arrow("btnDate").isNull());
+        click("btnFileName");
+        QCOMPARE(arrow("btnFileName"), down);
+        QCOMPARE(list->currentIndex().row(), 1);
+    }
+
+    void deletingAsks_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<int>("left");
+        QTest::newRow("remove") << QStringLiteral("REMOVE") << 2;
+        QTest::newRow("cancel") << QStringLiteral("CANCEL") << 3;
+    }
+
+    void deletingAsks()
+    {
+        QFETCH(QString, button);
+        QFETCH(int, left);
+        show();
+        QVERIFY(m_widget->select(m_history->path("old.mp4")));
+        DialogDriver driver;
+        driver.press(button);
+        QTest::keyClick(find<HistoryListView>("listHistory"), Qt::Key_Delete);
+        QCOMPARE(driver.failure(), QString());
+        QCOMPARE(count(), left);
+        QCOMPARE(m_history->saved().size(), left);
+        QVERIFY(QFile::exists(m_history->path("old.mp4")));
+        QCOMPARE(find<QFrame>("undoBar")->isVisible(), left == 2);
+        QVERIFY(!m_widget->selectedFile().isEmpty());
+    }
+
+    void undoBringsEverythingBack()
+    {
+        show();
+        const QStringList before = m_history->saved();
+        DialogDriver driver;
+        driver.press(QStringLiteral("REMOVE"));
+        clickIn(row("old.mp4"), "btnDelete");
+        QCOMPARE(count(), 2);
+        QTest::keyClick(m_widget.get(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(m_history->saved(), before);
+        QCOMPARE(count(), 3);
+        QVERIFY(!find<QFrame>("undoBar")->isVisible());
+    }
+
+    void clearingCanBeUndone()
+    {
+        show();
+        const QStringList before = m_history->saved();
+        DialogDriver driver;
+        driver.press(QStringLiteral("REMOVE ALL"));
+        click("btnClearHistory");
+        QCOMPARE(driver.failure(), QString());
+        QCOMPARE(count(), 0);
+        QCOMPARE(m_history->saved(), QStringList());
+        QVERIFY(!find<QPushButton>("btnClearHistory")->isEnabled());
+        QVERIFY(QFile::exists(m_history->path("new.mp4")));
+        click("btnUndo");
+        QCOMPARE(m_history->saved(), before);
+        QCOMPARE(count(), 3);
+    }
+
+    void videosGoToTheTrashOnlyWhenTicked()
+    {
+        show();
+        DialogDriver driver;
+        driver.expect([](QDialog *dialog) {
+            auto *tick = dialog->findChild<QCheckBox *>();
+            QVERIFY(tick && !tick->isChecked());
+            QTest::mouseClick(tick, Qt::LeftButton, {}, QPoint(8, tick->height() / 2));
+            QVERIFY(tick->isChecked());
+            QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("button0")),
+                              Qt::LeftButton);
+        });
+        clickIn(row("old.mp4"), "btnDelete");
+        QCOMPARE(driver.failure(), QString());
+        if (QFile::exists(m_history->path("old.mp4")))
+            QSKIP("There is no trash for this folder.");
+        QVERIFY(QFile::exists(m_history->path("new.mp4")));
+        click("btnUndo");
+        QCOMPARE(QFileInfo(m_history->path("old.mp4")).size(), 3 * 1048576);
+        QCOMPARE(m_history->saved().size(), 3);
+    }
+
+    void historyThatCannotBeWritten()
+    {
+        show();
+        const QString file = m_history->path("project_history.json");
+        QVERIFY(QFile::remove(file) && QDir().mkpath(file + QStringLiteral("/in the way")));
+        DialogDriver driver;
+        driver.press(QStringLiteral("REMOVE"));
+        driver.press(QStringLiteral("CLOSE"));
+        clickIn(row("old.mp4"), "btnDelete");
+        QCOMPARE(driver.failure(), QString());
+        QCOMPARE(count(), 3);
+        QCOMPARE(static_cast<int>(m_history->store.projects().size()), 3);
+        QVERIFY(!find<QFrame>("undoBar")->isVisible());
+    }
+
+    void selectionSurvivesReload()
+    {
+        show();
+        QVERIFY(m_widget->select(m_history->path("old.mp4")));
+        m_history->add("newest.mp4", 10, QDate(2026, 4, 4));
+        m_widget->reload();
+        QCOMPARE(count(), 4);
+        QCOMPARE(m_widget->selectedFile(), m_history->path("old.mp4"));
+        QVERIFY(m_widget->select(m_history->path("newest.mp4")));
+        QTRY_VERIFY(row("newest.mp4"));
+        QVERIFY(!m_widget->select(m_history->path("never.mp4")));
+    }
+
+    void emptyHistory()
+    {
+        m_history->store.clear();
+        show();
+        QCOMPARE(count(), 0);
+        for (const char *name : {"btnUpload", "btnBurn", "btnResumeProject", "btnClearHistory"})
+            QVERIFY2(!find<QPushButton>(name)->isEnabled(), name);
+        QVERIFY(!m_widget->selectedProject());
+        QSignalSpy opened(m_widget.get(), &HistoryWidget::openProject);
+        m_widget->on_btnResumeProject_clicked();
+        m_widget->onStartUpload(QStringLiteral("youtube"));
+        QCOMPARE(opened.size(), 0);
+        QVERIFY(!m_widget->isUploading());
+    }
+
+    void uploadPages()
+    {
+        show();
+        QVERIFY(m_widget->select(m_history->path("new.mp4")));
+        m_widget->onStartUpload(QStringLiteral("dropbox"));
+        QVERIFY(m_widget->isUploading());
+        QCOMPARE(page(), QStringLiteral("pgUpload"));
+        QCOMPARE(find<QLabel>("labelUploadText")->text(),
+                 QStringLiteral("Uploading new.mp4 to DropBox"));
+        QCOMPARE(find<QLabel>("labelUploadTime")->text(), QStringLiteral("Elapsed: --:--:--"));
+        emit m_uploads->signInStarted();
+        QCOMPARE(page(), QStringLiteral("Oauth2Waiting"));
+        QCOMPARE(find<QLabel>("lblWaitingTitle")->text(), QStringLiteral("Connect to DropBox"));
+        emit m_uploads->started();
+        QCOMPARE(page(), QStringLiteral("pgUpload"));
+        QCOMPARE(find<QLabel>("labelUploadTime")->text(), QStringLiteral("Elapsed: 00:00:00"));
+        emit m_uploads->progress(37);
+        QCOMPARE(find<QProgressBar>("progressBar")->value(), 37);
+        click("btnCancel");
+        QTRY_COMPARE(page(), QStringLiteral("pgHistory"));
+        QVERIFY(!QApplication::activeModalWidget());
+    }
+
+    void unknownService()
+    {
+        show();
+        LogCapture log;
+        m_widget->startUpload(m_history->path("new.mp4"), QStringLiteral("x"),
+                              QStringLiteral("nosuch"));
+        QVERIFY(log.lines().contains(QStringLiteral("IS NULL UPLOADER")));
+        QCOMPARE(page(), QStringLiteral("pgHistory"));
+        QVERIFY(!m_widget->isUploading());
+    }
+
+    void manyEntries()
+    {
+        for (int i = 0; i < 2000; ++i)
+            m_history->add(qPrintable(QStringLiteral("video%1.mp4").arg(i)), -1, {});
+        QBENCHMARK_ONCE
+        {
+            show();
+        }
+        auto *list = find<HistoryListView>("listHistory");
+        const auto widgets = [list] {
+            return list->viewport()->findChildren<HistoryRowWidget *>().size();
+        };
+        QVERIFY(widgets() < 40); // Only those in sight.
+        list->verticalScrollBar()->setValue(list->verticalScrollBar()->maximum());
+        QTRY_VERIFY(row("old.mp4"));
+        QTRY_VERIFY(widgets() < 40);
+    }
 
 private:
     template <typename T> T *find(const char *name)
     {
         return m_widget->findChild<T *>(QLatin1String(name));
     }
-    void show();
+
+    void show()
+    {
+        m_store = openSettings(m_history->path("settings.ini"));
+        m_uploads = std::make_unique<UploadController>(ServicesConfig(), *m_store);
+        m_widget = std::make_unique<HistoryWidget>(m_history->store, m_history->settings);
+        m_widget->setUploads(m_uploads.get());
+        m_widget->resize(1000, 600);
+        m_widget->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_widget.get()));
+        if (count() > 0) {
+            QTRY_VERIFY(find<QLabel>("lblSize") && !find<QLabel>("lblSize")->text().isEmpty());
+        }
+    }
+
     void click(const char *name) { QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton); }
-    HistoryRowWidget *row(const char *file);
+
+    HistoryRowWidget *row(const char *file)
+    {
+        auto *list = find<HistoryListView>("listHistory");
+        for (int i = 0; i < count(); ++i) {
+            HistoryRowWidget *candidate = list->rowWidget(i);
+            if (candidate && candidate->entry().fileName == m_history->path(file))
+                return candidate;
+        }
+        return nullptr;
+    }
+
     static QString text(HistoryRowWidget *row, const char *label)
     {
         return row->findChild<QLabel *>(QLatin1String(label))->text();
@@ -79,417 +383,6 @@ private:
     std::unique_ptr<HistoryWidget> m_widget;
     QStringList m_played;
 };
-
-void HistoryWidgetTest::initTestCase()
-{
-    Theme::install(*qApp);
-    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "play");
-}
-
-void HistoryWidgetTest::init()
-{
-    m_played.clear();
-    m_history = std::make_unique<HistoryFixture>();
-    qputenv("XDG_DATA_HOME", QFile::encodeName(m_history->path("data"))); // Of the trash.
-    m_history->add("old.mp4", 3 * 1048576, QDate(2026, 1, 2), QStringLiteral("Old\ntitle"));
-    m_history->add("gone.mp4", -1, {});
-    m_history->add("new.mp4", 250 * 1048576LL, QDate(2026, 3, 4));
-    QVERIFY(m_history->store.save());
-}
-
-void HistoryWidgetTest::cleanup()
-{
-    m_widget.reset();
-    m_uploads.reset();
-}
-
-void HistoryWidgetTest::show()
-{
-    m_store = openSettings(m_history->path("settings.ini"));
-    m_uploads = std::make_unique<UploadController>(ServicesConfig(), *m_store);
-    m_widget = std::make_unique<HistoryWidget>(m_history->store, m_history->settings);
-    m_widget->setUploads(m_uploads.get());
-    m_widget->resize(1000, 600);
-    m_widget->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_widget.get()));
-    if (count() > 0) {
-        QTRY_VERIFY(find<QLabel>("lblSize") && !find<QLabel>("lblSize")->text().isEmpty());
-    }
-}
-
-HistoryRowWidget *HistoryWidgetTest::row(const char *file)
-{
-    auto *list = find<HistoryListView>("listHistory");
-    for (int i = 0; i < count(); ++i) {
-        HistoryRowWidget *candidate = list->rowWidget(i);
-        if (candidate && candidate->entry().fileName == m_history->path(file))
-            return candidate;
-    }
-    return nullptr;
-}
-
-void HistoryWidgetTest::rowShowsTheFacts()
-{
-    show();
-    HistoryRowWidget *old = row("old.mp4");
-    QVERIFY(old);
-    QCOMPARE(text(old, "lblDate"), QStringLiteral("02.01.2026"));
-    QCOMPARE(text(old, "lblFileName"), QStringLiteral("old.mp4"));
-    QCOMPARE(text(old, "lblResolution"), QStringLiteral("1024x768"));
-    QCOMPARE(text(old, "lblDuration").count(QLatin1Char(':')), 2);
-    QCOMPARE(text(old, "lblDuration").size(), 8);
-    QCOMPARE(text(old, "lblSize"), QStringLiteral("3.0 MB"));
-    QCOMPARE(text(row("new.mp4"), "lblSize"), QStringLiteral("250 MB"));
-}
-
-void HistoryWidgetTest::removedVideo()
-{
-    show();
-    HistoryRowWidget *gone = row("gone.mp4");
-    QCOMPARE(text(gone, "lblSize"), QStringLiteral("removed"));
-    QVERIFY(!gone->findChild<QToolButton *>(QStringLiteral("btnPreview"))->isEnabled());
-    QVERIFY(m_widget->select(m_history->path("gone.mp4")));
-    QVERIFY(!find<QPushButton>("btnUpload")->isEnabled());
-    QVERIFY(!find<QPushButton>("btnBurn")->isEnabled());
-    QVERIFY(find<QPushButton>("btnResumeProject")->isEnabled());
-    DialogDriver driver;
-    driver.expect([](QDialog *dialog) {
-        QVERIFY(!dialog->findChild<QCheckBox *>()); // No file to delete.
-        QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("button0")),
-                          Qt::LeftButton);
-    });
-    clickIn(gone, "btnDelete");
-    QCOMPARE(driver.failure(), QString());
-    QCOMPARE(m_history->saved(),
-             (QStringList{QStringLiteral("old.mp4"), QStringLiteral("new.mp4")}));
-}
-
-void HistoryWidgetTest::buttonsActOnTheSelection()
-{
-    show();
-    QVERIFY(m_widget->select(m_history->path("old.mp4")));
-    QSignalSpy opened(m_widget.get(), &HistoryWidget::openProject);
-    QSignalSpy burnt(m_widget.get(), &HistoryWidget::burnDvd);
-    click("btnResumeProject");
-    click("btnBurn");
-    QCOMPARE(opened.first().first().toString(), m_history->path("old.mp4"));
-    QCOMPARE(m_widget->selectedProject()->name(), QStringLiteral("old.mp4"));
-    QCOMPARE(burnt.first().at(0).toString(), QStringLiteral("Old title"));
-    QCOMPARE(burnt.first().at(1).toString(), m_history->path("old.mp4"));
-}
-
-void HistoryWidgetTest::rowButtonsSelectTheirRow()
-{
-    show();
-    QVERIFY(m_widget->select(m_history->path("new.mp4")));
-    QSignalSpy opened(m_widget.get(), &HistoryWidget::openProject);
-    QSignalSpy burnt(m_widget.get(), &HistoryWidget::burnDvd);
-    clickIn(row("old.mp4"), "btnOpen");
-    QCOMPARE(opened.first().first().toString(), m_history->path("old.mp4"));
-    QCOMPARE(m_widget->selectedFile(), m_history->path("old.mp4"));
-    clickIn(row("new.mp4"), "btnBurn");
-    QCOMPARE(burnt.first().at(1).toString(), m_history->path("new.mp4"));
-    clickIn(row("new.mp4"), "btnPreview");
-    QCOMPARE(m_played, QStringList{m_history->path("new.mp4")});
-}
-
-void HistoryWidgetTest::doubleClickPlays()
-{
-    show();
-    auto *list = find<HistoryListView>("listHistory");
-    const QPoint place = list->visualRect(list->model()->index(0, 0)).center();
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
-    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
-    QCOMPARE(m_played, QStringList{m_history->path("new.mp4")});
-    QTest::keyClick(list, Qt::Key_Return);
-    QCOMPARE(m_played.size(), 2);
-    QVERIFY(QFile::remove(m_history->path("new.mp4")));
-    DialogDriver driver;
-    driver.press(QStringLiteral("CLOSE"));
-    QTest::keyClick(list, Qt::Key_Return);
-    QCOMPARE(driver.title(), QStringLiteral("Open file Error"));
-    QCOMPARE(driver.text(), QStringLiteral("File '%1' not found").arg(m_history->path("new.mp4")));
-    QCOMPARE(m_played.size(), 2);
-}
-
-void HistoryWidgetTest::headerSorts()
-{
-    show();
-    const auto arrow = [this](const char *button) {
-        return find<QPushButton>(button)->icon().pixmap(16, 16).toImage();
-    };
-    const QImage up = Theme::icon(QStringLiteral("arrow-up")).pixmap(16, 16).toImage();
-    const QImage down = Theme::icon(QStringLiteral("arrow-down")).pixmap(16, 16).toImage();
-    QVERIFY(m_widget->select(m_history->path("new.mp4")));
-    auto *list = find<HistoryListView>("listHistory");
-    QCOMPARE(list->currentIndex().row(), 0);
-    QCOMPARE(arrow("btnDate"), down);
-    click("btnDate");
-    QCOMPARE(arrow("btnDate"), up);
-    QCOMPARE(list->currentIndex().row(), 2);
-    QCOMPARE(m_widget->selectedFile(), m_history->path("new.mp4"));
-    click("btnFileName");
-    QCOMPARE(arrow("btnFileName"), up);
-    QVERIFY(arrow("btnDate").isNull());
-    click("btnFileName");
-    QCOMPARE(arrow("btnFileName"), down);
-    QCOMPARE(list->currentIndex().row(), 1);
-}
-
-void HistoryWidgetTest::deletingAsks_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<int>("left");
-    QTest::newRow("remove") << QStringLiteral("REMOVE") << 2;
-    QTest::newRow("cancel") << QStringLiteral("CANCEL") << 3;
-}
-
-void HistoryWidgetTest::deletingAsks()
-{
-    QFETCH(QString, button);
-    QFETCH(int, left);
-    show();
-    QVERIFY(m_widget->select(m_history->path("old.mp4")));
-    DialogDriver driver;
-    driver.press(button);
-    QTest::keyClick(find<HistoryListView>("listHistory"), Qt::Key_Delete);
-    QCOMPARE(driver.failure(), QString());
-    QCOMPARE(count(), left);
-    QCOMPARE(m_history->saved().size(), left);
-    QVERIFY(QFile::exists(m_history->path("old.mp4")));
-    QCOMPARE(find<QFrame>("undoBar")->isVisible(), left == 2);
-    QVERIFY(!m_widget->selectedFile().isEmpty());
-}
-
-void HistoryWidgetTest::undoBringsEverythingBack()
-{
-    show();
-    const QStringList before = m_history->saved();
-    DialogDriver driver;
-    driver.press(QStringLiteral("REMOVE"));
-    clickIn(row("old.mp4"), "btnDelete");
-    QCOMPARE(count(), 2);
-    QTest::keyClick(m_widget.get(), Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(m_history->saved(), before);
-    QCOMPARE(count(), 3);
-    QVERIFY(!find<QFrame>("undoBar")->isVisible());
-}
-
-void HistoryWidgetTest::clearingCanBeUndone()
-{
-    show();
-    const QStringList before = m_history->saved();
-    DialogDriver driver;
-    driver.press(QStringLiteral("REMOVE ALL"));
-    click("btnClearHistory");
-    QCOMPARE(driver.failure(), QString());
-    QCOMPARE(count(), 0);
-    QCOMPARE(m_history->saved(), QStringList());
-    QVERIFY(!find<QPushButton>("btnClearHistory")->isEnabled());
-    QVERIFY(QFile::exists(m_history->path("new.mp4")));
-    click("btnUndo");
-    QCOMPARE(m_history->saved(), before);
-    QCOMPARE(count(), 3);
-}
-
-void HistoryWidgetTest::videosGoToTheTrashOnlyWhenTicked()
-{
-    show();
-    DialogDriver driver;
-    driver.expect([](QDialog *dialog) {
-        auto *tick = dialog->findChild<QCheckBox *>();
-        QVERIFY(tick && !tick->isChecked());
-        QTest::mouseClick(tick, Qt::LeftButton, {}, QPoint(8, tick->height() / 2));
-        QVERIFY(tick->isChecked());
-        QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("button0")),
-                          Qt::LeftButton);
-    });
-    clickIn(row("old.mp4"), "btnDelete");
-    QCOMPARE(driver.failure(), QString());
-    if (QFile::exists(m_history->path("old.mp4")))
-        QSKIP("There is no trash for this folder.");
-    QVERIFY(QFile::exists(m_history->path("new.mp4")));
-    click("btnUndo");
-    QCOMPARE(QFileInfo(m_history->path("old.mp4")).size(), 3 * 1048576);
-    QCOMPARE(m_history->saved().size(), 3);
-}
-
-void HistoryWidgetTest::historyThatCannotBeWritten()
-{
-    show();
-    const QString file = m_history->path("project_history.json");
-    QVERIFY(QFile::remove(file) && QDir().mkpath(file + QStringLiteral("/in the way")));
-    DialogDriver driver;
-    driver.press(QStringLiteral("REMOVE"));
-    driver.press(QStringLiteral("CLOSE"));
-    clickIn(row("old.mp4"), "btnDelete");
-    QCOMPARE(driver.failure(), QString());
-    QCOMPARE(count(), 3);
-    QCOMPARE(static_cast<int>(m_history->store.projects().size()), 3);
-    QVERIFY(!find<QFrame>("undoBar")->isVisible());
-}
-
-void HistoryWidgetTest::selectionSurvivesReload()
-{
-    show();
-    QVERIFY(m_widget->select(m_history->path("old.mp4")));
-    m_history->add("newest.mp4", 10, QDate(2026, 4, 4));
-    m_widget->reload();
-    QCOMPARE(count(), 4);
-    QCOMPARE(m_widget->selectedFile(), m_history->path("old.mp4"));
-    QVERIFY(m_widget->select(m_history->path("newest.mp4")));
-    QTRY_VERIFY(row("newest.mp4"));
-    QVERIFY(!m_widget->select(m_history->path("never.mp4")));
-}
-
-void HistoryWidgetTest::emptyHistory()
-{
-    m_history->store.clear();
-    show();
-    QCOMPARE(count(), 0);
-    for (const char *name : {"btnUpload", "btnBurn", "btnResumeProject", "btnClearHistory"})
-        QVERIFY2(!find<QPushButton>(name)->isEnabled(), name);
-    QVERIFY(!m_widget->selectedProject());
-    QSignalSpy opened(m_widget.get(), &HistoryWidget::openProject);
-    m_widget->on_btnResumeProject_clicked();
-    m_widget->onStartUpload(QStringLiteral("youtube"));
-    QCOMPARE(opened.size(), 0);
-    QVERIFY(!m_widget->isUploading());
-}
-
-void HistoryWidgetTest::serviceMenu_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("button");
-    QTest::newRow("video") << QStringLiteral("youtube") << QStringLiteral("YOUTUBE");
-    QTest::newRow("drive") << QStringLiteral("googledrive") << QStringLiteral("GOOGLE DRIVE");
-    QTest::newRow("box") << QStringLiteral("dropbox") << QStringLiteral("DROPBOX");
-}
-
-void HistoryWidgetTest::serviceMenu()
-{
-    QFETCH(QString, key);
-    QFETCH(QString, button);
-    show();
-    QSignalSpy chosen(m_widget.get(), &HistoryWidget::uploadClicked);
-    click("btnUpload");
-    auto *menu = find<QFrame>("uploadServiceMenu");
-    QVERIFY(menu && menu->isVisible());
-    auto *entry = menu->findChild<QPushButton *>(key);
-    QCOMPARE(entry->text(), button);
-    QTest::mouseClick(entry, Qt::LeftButton);
-    QCOMPARE(chosen.size(), 1);
-    QCOMPARE(chosen.first().first().toString(), key);
-    QTRY_VERIFY(!find<QFrame>("uploadServiceMenu"));
-}
-
-void HistoryWidgetTest::uploadPages()
-{
-    show();
-    QVERIFY(m_widget->select(m_history->path("new.mp4")));
-    QSignalSpy started(m_widget.get(), &HistoryWidget::uploadProgressStarted);
-    QSignalSpy ended(m_widget.get(), &HistoryWidget::uploadProgressFinished);
-    QSignalSpy finished(m_widget.get(), &HistoryWidget::uploadFinished);
-    QSignalSpy percent(m_widget.get(), &HistoryWidget::progressUpload);
-    DialogDriver driver;
-    driver.press(QStringLiteral("CLOSE")); // Without services the upload itself ends in this one.
-    m_widget->onStartUpload(QStringLiteral("dropbox"));
-    QVERIFY(m_widget->isUploading());
-    QCOMPARE(page(), QStringLiteral("pgUpload"));
-    QCOMPARE(find<QLabel>("labelUploadText")->text(),
-             QStringLiteral("Uploading new.mp4 to DropBox"));
-    QCOMPARE(find<QLabel>("labelUploadTime")->text(), QStringLiteral("Elapsed: --:--:--"));
-    emit m_uploads->signInStarted();
-    QCOMPARE(page(), QStringLiteral("Oauth2Waiting"));
-    QCOMPARE(find<QLabel>("lblWaitingTitle")->text(), QStringLiteral("Connect to DropBox"));
-    QCOMPARE(started.size(), 0);
-    emit m_uploads->started();
-    QCOMPARE(page(), QStringLiteral("pgUpload"));
-    QCOMPARE(started.size(), 1);
-    QCOMPARE(find<QLabel>("labelUploadTime")->text(), QStringLiteral("Elapsed: 00:00:00"));
-    emit m_uploads->progress(37);
-    QCOMPARE(find<QProgressBar>("progressBar")->value(), 37);
-    QCOMPARE(percent.first().first().toInt(), 37);
-    driver.expect([this](QDialog *dialog) {
-        QCOMPARE(page(), QStringLiteral("pgHistory"));
-        dialog->reject();
-    });
-    m_uploads->disconnect(m_widget.get()); // From here on by hand.
-    m_widget->onUploadFinished(QStringLiteral("id"), QStringLiteral("https://example.org/id"));
-    QCOMPARE(ended.size(), 1);
-    QCOMPARE(finished.first().at(1).toString(), QStringLiteral("https://example.org/id"));
-    QVERIFY(!m_widget->isUploading());
-}
-
-void HistoryWidgetTest::uploadFails()
-{
-    show();
-    QVERIFY(m_widget->select(m_history->path("new.mp4")));
-    QSignalSpy failed(m_widget.get(), &HistoryWidget::uploadFailed);
-    QSignalSpy ended(m_widget.get(), &HistoryWidget::uploadProgressFinished);
-    DialogDriver driver;
-    driver.press(QStringLiteral("CLOSE"));
-    m_widget->onStartUpload(QStringLiteral("youtube")); // It is not configured.
-    QVERIFY(failed.wait());
-    QTRY_VERIFY(driver.failure().isEmpty());
-    QVERIFY(!failed.first().first().toString().isEmpty());
-    QCOMPARE(ended.size(), 0); // It never started.
-    QCOMPARE(page(), QStringLiteral("pgHistory"));
-}
-
-void HistoryWidgetTest::uploadIsCancelled_data()
-{
-    QTest::addColumn<bool>("signIn");
-    QTest::newRow("at the sign-in") << true;
-    QTest::newRow("while sending") << false;
-}
-
-void HistoryWidgetTest::uploadIsCancelled()
-{
-    QFETCH(bool, signIn);
-    show();
-    QVERIFY(m_widget->select(m_history->path("new.mp4")));
-    QSignalSpy ended(m_widget.get(), &HistoryWidget::uploadProgressFinished);
-    m_widget->onStartUpload(QStringLiteral("youtube"));
-    if (signIn)
-        emit m_uploads->signInStarted();
-    else
-        emit m_uploads->started();
-    click(signIn ? "btnCancelWaiting" : "btnCancel");
-    QTRY_COMPARE(page(), QStringLiteral("pgHistory"));
-    QVERIFY(!m_widget->isUploading());
-    QCOMPARE(ended.size(), signIn ? 0 : 1);
-    QVERIFY(!QApplication::activeModalWidget());
-}
-
-void HistoryWidgetTest::unknownService()
-{
-    show();
-    LogCapture log;
-    m_widget->startUpload(m_history->path("new.mp4"), QStringLiteral("x"),
-                          QStringLiteral("nosuch"));
-    QVERIFY(log.lines().contains(QStringLiteral("IS NULL UPLOADER")));
-    QCOMPARE(page(), QStringLiteral("pgHistory"));
-    QVERIFY(!m_widget->isUploading());
-}
-
-void HistoryWidgetTest::manyEntries()
-{
-    for (int i = 0; i < 2000; ++i)
-        m_history->add(qPrintable(QStringLiteral("video%1.mp4").arg(i)), -1, {});
-    QBENCHMARK_ONCE
-    {
-        show();
-    }
-    auto *list = find<HistoryListView>("listHistory");
-    const auto widgets = [list] {
-        return list->viewport()->findChildren<HistoryRowWidget *>().size();
-    };
-    QVERIFY(widgets() < 40); // Only those in sight.
-    list->verticalScrollBar()->setValue(list->verticalScrollBar()->maximum());
-    QTRY_VERIFY(row("old.mp4"));
-    QTRY_VERIFY(widgets() < 40);
-}
 
 QTEST_MAIN(HistoryWidgetTest)
 #include "HistoryWidgetTest.moc"

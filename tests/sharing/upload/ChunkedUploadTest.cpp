@@ -14,10 +14,13 @@ constexpr int kChunk = 4194304;
 constexpr int kLarge = 3 * kChunk + 12345;
 const QString kService = QStringLiteral("dropbox");
 
-QJsonObject action(const char *json)
-{
-    return QJsonDocument::fromJson(json).object();
-}
+struct Refusal {
+    const char *name;
+    const char *step;
+    const char *failure;
+    const char *error;
+    int requests;
+};
 
 } // namespace
 
@@ -28,143 +31,186 @@ class ChunkedUploadTest : public QObject
 
 private slots:
     void initTestCase() { QVERIFY(m_services.isRunning()); }
-    void cutsAtBoundaries_data();
-    void cutsAtBoundaries();
-    void namesSurvive_data();
-    void namesSurvive();
-    void goesOnAfterTrouble_data();
-    void goesOnAfterTrouble();
+
+    void cutsAtBoundaries_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<QString>("steps");
+        QTest::addColumn<QVector<int>>("pieces");
+        QTest::newRow("empty") << 0 << "single" << QVector<int>{0};
+        QTest::newRow("4 MiB - 1") << kChunk - 1 << "single" << QVector<int>{kChunk - 1};
+        QTest::newRow("4 MiB") << kChunk << "single" << QVector<int>{kChunk};
+        QTest::newRow("4 MiB + 1") << kChunk + 1 << "start finish" << QVector<int>{kChunk, 1};
+        QTest::newRow("8 MiB") << 2 * kChunk << "start finish" << QVector<int>{kChunk, kChunk};
+        QTest::newRow("8 MiB + 1")
+            << 2 * kChunk + 1 << "start append finish" << QVector<int>{kChunk, kChunk, 1};
+    }
+
+    void cutsAtBoundaries()
+    {
+        QFETCH(int, size);
+        QFETCH(QString, steps);
+        QFETCH(QVector<int>, pieces);
+        UploadFixture user(m_services);
+        user.grant(kService, QStringLiteral("db"));
+        const UploadCourse course = user.run(kService, user.video(size));
+        QCOMPARE(course.failed.join(QString()), QString());
+        QCOMPARE(m_services.problems().join(QLatin1Char('\n')), QString());
+        QCOMPARE(m_services.steps().join(QLatin1Char(' ')), steps);
+        QCOMPARE(lengths(), pieces);
+        QCOMPARE(m_services.files().at(0).toObject().value(QLatin1String("sha256")).toString(),
+                 user.hash());
+        QVERIFY(size == 0 || course.progress.last() == 100);
+        QVERIFY(std::is_sorted(course.progress.begin(), course.progress.end()));
+    }
+
+    void namesSurvive_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("query");
+        QTest::newRow("placeholders") << "100%1 %2.mp4"
+                                      << "100%251%20%252.mp4";
+        QTest::newRow("quotes") << "a \"b\" \\c.mp4"
+                                << "a%20%22b%22%20%5Cc.mp4";
+        QTest::newRow("letters") << QStringLiteral("\u00fc\u65e5&=#.mp4")
+                                 << "%C3%BC%E6%97%A5%26%3D%23.mp4";
+        QTest::newRow("line break") << "a\nb.mp4"
+                                    << "a%0Ab.mp4";
+    }
+
+    void namesSurvive()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, query);
+        for (const int size : {10, kChunk + 1}) {
+            UploadFixture user(m_services);
+            user.grant(kService, QStringLiteral("db"));
+            const UploadCourse course = user.run(kService, user.video(size, name));
+            const QString page =
+                m_services.url() + QStringLiteral("/home/Apps/Velmora%20Videos?preview=");
+            QCOMPARE(course.finished, (QStringList{QLatin1Char('/') + name, page + query}));
+            QCOMPARE(m_services.files().at(0).toObject().value(QLatin1String("title")).toString(),
+                     QLatin1Char('/') + name);
+            QCOMPARE(m_services.problems().join(QLatin1Char('\n')), QString());
+        }
+    }
+
+    void goesOnAfterTrouble_data()
+    {
+        QTest::addColumn<QString>("step");
+        QTest::addColumn<QJsonObject>("failure");
+        QTest::addColumn<int>("times");
+        const auto rows = [](const char *name, const char *json, int times) {
+            for (const char *step : {"start", "append", "finish"})
+                QTest::addRow("%s, %s", name, step)
+                    << QString::fromLatin1(step) << FakeServices::action(json) << times;
+        };
+        // Qt itself repeats a request whose connection broke, twice.
+        rows("lost at once", R"({"drop": 0})", 4);
+        rows("lost in the middle", R"({"drop": 10000})", 4);
+        rows("answer lost", R"({"drop": "answer"})", 1);
+        rows("server error", R"({"status": 500})", 3);
+        rows("busy", R"({"status": 429, "headers": {"Retry-After": "0"}})", 2);
+        rows("silent", R"({"hang": true})", 1);
+    }
+
+    void goesOnAfterTrouble()
+    {
+        QFETCH(QString, step);
+        QFETCH(QJsonObject, failure);
+        QFETCH(int, times);
+        UploadFixture user(m_services);
+        user.configure({{QStringLiteral("network/timeout"), QStringLiteral("1")}});
+        user.grant(kService, QStringLiteral("db"));
+        m_services.fail(step, failure, times);
+        const UploadCourse course = user.run(kService, user.video(kLarge));
+        QCOMPARE(course.failed.join(QString()), QString());
+        QCOMPARE(m_services.problems().join(QLatin1Char('\n')), QString());
+        QCOMPARE(m_services.files().size(), 1);
+        QCOMPARE(m_services.files().at(0).toObject().value(QLatin1String("sha256")).toString(),
+                 user.hash());
+        // Only the piece in trouble was sent again.
+        if (step != QLatin1String("start"))
+            QCOMPARE(lengths(QStringLiteral("start")).size(), 1);
+        if (step != QLatin1String("append"))
+            QCOMPARE(lengths(QStringLiteral("append")).size(), 2);
+        QCOMPARE(course.starts, 1);
+        QCOMPARE(course.progress.last(), 100);
+    }
+
     void givesUp_data();
-    void givesUp();
-    void expiredTokenIsRenewed_data();
+    void givesUp()
+    {
+        QFETCH(QString, step);
+        QFETCH(QJsonObject, failure);
+        QFETCH(QString, error);
+        QFETCH(int, requests);
+        UploadFixture user(m_services);
+        user.grant(kService, QStringLiteral("db"));
+        m_services.fail(step, failure, 99);
+        const UploadCourse course = user.run(kService, user.video(kLarge));
+        QCOMPARE(course.failed, QStringList{error});
+        QCOMPARE(course.ends(), 1);
+        QCOMPARE(lengths(step).size(), requests);
+    }
+
+    void expiredTokenIsRenewed_data()
+    {
+        QTest::addColumn<QString>("step");
+        QTest::addColumn<bool>("refreshes");
+        for (const char *step : {"start", "append", "finish"}) {
+            QTest::addRow("%s, refresh", step) << QString::fromLatin1(step) << true;
+            QTest::addRow("%s, sign-in", step) << QString::fromLatin1(step) << false;
+        }
+    }
+
     void expiredTokenIsRenewed();
+
     void refusedTokenEndsAfterOneSignIn();
-    void cancelWhileWaiting();
-    void shrinkingFileFails();
+    void cancelWhileWaiting()
+    {
+        UploadFixture user(m_services);
+        user.configure({{QStringLiteral("network/retry_delay"), QStringLiteral("60000")}});
+        user.grant(kService, QStringLiteral("db"));
+        m_services.fail(QStringLiteral("append"), FakeServices::action(R"({"status": 500})"));
+        LogCapture log;
+        user.start(kService, user.video(kLarge));
+        QTRY_VERIFY(
+            !log.lines().filter(QStringLiteral("The upload goes on in 60000 ms")).isEmpty());
+        user.controller().cancel();
+        QCOMPARE(user.course.canceled, 1);
+        QCOMPARE(user.course.ends(), 1);
+    }
+
+    void shrinkingFileFails()
+    {
+        UploadFixture user(m_services);
+        user.grant(kService, QStringLiteral("db"));
+        const QString file = user.video(kLarge);
+        m_services.fail(QStringLiteral("append"), FakeServices::action(R"({"delay": 0.5})"));
+        user.start(kService, file);
+        QTRY_VERIFY(m_services.steps().contains(QStringLiteral("append")));
+        QVERIFY(QFile::resize(file, kChunk + 5));
+        QCOMPARE(user.wait().failed,
+                 QStringList{QStringLiteral("can't open source file for reading")});
+    }
 
 private:
-    QVector<int> lengths(const QString &step = QString());
+    QVector<int> lengths(const QString &step = QString())
+    {
+        QVector<int> all;
+        const QJsonArray requests = m_services.requests();
+        for (const QJsonValue &request : requests) {
+            if (step.isEmpty() ||
+                request.toObject().value(QLatin1String("step")).toString() == step)
+                all.append(request.toObject().value(QLatin1String("length")).toInt());
+        }
+        return all;
+    }
 
     FakeServices m_services{false};
     ScriptedBrowser m_browser;
 };
-
-QVector<int> ChunkedUploadTest::lengths(const QString &step)
-{
-    QVector<int> all;
-    const QJsonArray requests = m_services.requests();
-    for (const QJsonValue &request : requests) {
-        if (step.isEmpty() || request.toObject().value(QLatin1String("step")).toString() == step)
-            all.append(request.toObject().value(QLatin1String("length")).toInt());
-    }
-    return all;
-}
-
-void ChunkedUploadTest::cutsAtBoundaries_data()
-{
-    QTest::addColumn<int>("size");
-    QTest::addColumn<QString>("steps");
-    QTest::addColumn<QVector<int>>("pieces");
-    QTest::newRow("empty") << 0 << "single" << QVector<int>{0};
-    QTest::newRow("4 MiB - 1") << kChunk - 1 << "single" << QVector<int>{kChunk - 1};
-    QTest::newRow("4 MiB") << kChunk << "single" << QVector<int>{kChunk};
-    QTest::newRow("4 MiB + 1") << kChunk + 1 << "start finish" << QVector<int>{kChunk, 1};
-    QTest::newRow("8 MiB") << 2 * kChunk << "start finish" << QVector<int>{kChunk, kChunk};
-    QTest::newRow("8 MiB + 1") << 2 * kChunk + 1 << "start append finish"
-                               << QVector<int>{kChunk, kChunk, 1};
-}
-
-void ChunkedUploadTest::cutsAtBoundaries()
-{
-    QFETCH(int, size);
-    QFETCH(QString, steps);
-    QFETCH(QVector<int>, pieces);
-    UploadFixture user(m_services);
-    user.grant(kService, QStringLiteral("db"));
-    const UploadCourse course = user.run(kService, user.video(size));
-    QCOMPARE(course.failed.join(QString()), QString());
-    QCOMPARE(m_services.problems().join(QLatin1Char('\n')), QString());
-    QCOMPARE(m_services.steps().join(QLatin1Char(' ')), steps);
-    QCOMPARE(lengths(), pieces);
-    QCOMPARE(m_services.files().at(0).toObject().value(QLatin1String("sha256")).toString(),
-             user.hash());
-    QVERIFY(size == 0 || course.progress.last() == 100);
-    QVERIFY(std::is_sorted(course.progress.begin(), course.progress.end()));
-}
-
-void ChunkedUploadTest::namesSurvive_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("query");
-    QTest::newRow("placeholders") << "100%1 %2.mp4"
-                                  << "100%251%20%252.mp4";
-    QTest::newRow("quotes") << "a \"b\" \\c.mp4"
-                            << "a%20%22b%22%20%5Cc.mp4";
-    QTest::newRow("letters") << QStringLiteral("\u00fc\u65e5&=#.mp4")
-                             << "%C3%BC%E6%97%A5%26%3D%23.mp4";
-    QTest::newRow("line break") << "a\nb.mp4"
-                                << "a%0Ab.mp4";
-}
-
-void ChunkedUploadTest::namesSurvive()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, query);
-    for (const int size : {10, kChunk + 1}) {
-        UploadFixture user(m_services);
-        user.grant(kService, QStringLiteral("db"));
-        const UploadCourse course = user.run(kService, user.video(size, name));
-        const QString page =
-            m_services.url() + QStringLiteral("/home/Apps/Velmora%20Videos?preview=");
-        QCOMPARE(course.finished, (QStringList{QLatin1Char('/') + name, page + query}));
-        QCOMPARE(m_services.files().at(0).toObject().value(QLatin1String("title")).toString(),
-                 QLatin1Char('/') + name);
-        QCOMPARE(m_services.problems().join(QLatin1Char('\n')), QString());
-    }
-}
-
-void ChunkedUploadTest::goesOnAfterTrouble_data()
-{
-    QTest::addColumn<QString>("step");
-    QTest::addColumn<QJsonObject>("failure");
-    QTest::addColumn<int>("times");
-    const auto rows = [](const char *name, const char *json, int times) {
-        for (const char *step : {"start", "append", "finish"})
-            QTest::addRow("%s, %s", name, step)
-                << QString::fromLatin1(step) << action(json) << times;
-    };
-    // Qt itself repeats a request whose connection broke, twice.
-    rows("lost at once", R"({"drop": 0})", 4);
-    rows("lost in the middle", R"({"drop": 10000})", 4);
-    rows("answer lost", R"({"drop": "answer"})", 1);
-    rows("server error", R"({"status": 500})", 3);
-    rows("busy", R"({"status": 429, "headers": {"Retry-After": "0"}})", 2);
-    rows("silent", R"({"hang": true})", 1);
-}
-
-void ChunkedUploadTest::goesOnAfterTrouble()
-{
-    QFETCH(QString, step);
-    QFETCH(QJsonObject, failure);
-    QFETCH(int, times);
-    UploadFixture user(m_services);
-    user.configure({{QStringLiteral("network/timeout"), QStringLiteral("1")}});
-    user.grant(kService, QStringLiteral("db"));
-    m_services.fail(step, failure, times);
-    const UploadCourse course = user.run(kService, user.video(kLarge));
-    QCOMPARE(course.failed.join(QString()), QString());
-    QCOMPARE(m_services.problems().join(QLatin1Char('\n')), QString());
-    QCOMPARE(m_services.files().size(), 1);
-    QCOMPARE(m_services.files().at(0).toObject().value(QLatin1String("sha256")).toString(),
-             user.hash());
-    // Only the piece in trouble was sent again.
-    if (step != QLatin1String("start"))
-        QCOMPARE(lengths(QStringLiteral("start")).size(), 1);
-    if (step != QLatin1String("append"))
-        QCOMPARE(lengths(QStringLiteral("append")).size(), 2);
-    QCOMPARE(course.starts, 1);
-    QCOMPARE(course.progress.last(), 100);
-}
 
 void ChunkedUploadTest::givesUp_data()
 {
@@ -172,66 +218,37 @@ void ChunkedUploadTest::givesUp_data()
     QTest::addColumn<QJsonObject>("failure");
     QTest::addColumn<QString>("error");
     QTest::addColumn<int>("requests");
-    const QString append = QStringLiteral("append");
-    QTest::newRow("server stays down")
-        << append << action(R"({"status": 503})") << "503: Unknown error" << 6;
-    QTest::newRow("forbidden")
-        << append << action(R"({"status": 403, "body": "{\"error_summary\": \"no_permission/\"}"})")
-        << "403: no_permission/" << 1;
-    QTest::newRow("user's message")
-        << append
-        << action(
-               R"({"status": 409, "body": "{\"error_summary\": \"full/\", \"user_message\": \"Your space is full.\"}"})")
-        << "409: Your space is full." << 1;
-    QTest::newRow("message with language")
-        << append
-        << action(R"({"status": 409, "body": "{\"user_message\": {\"text\": \"Full.\"}}"})")
-        << "409: Full." << 1;
-    QTest::newRow("not JSON") << append << action(R"({"status": 400, "body": "<html>"})")
-                              << "400: Unknown error" << 1;
-    QTest::newRow("offset before")
-        << append << action(R"({"status": 409, "body": "{\"error\": {\"correct_offset\": 5}}"})")
-        << "409: Unknown error" << 1;
-    QTest::newRow("offset beyond")
-        << append << action(R"({"status": 409, "body": "{\"error\": {\"correct_offset\": 1e15}}"})")
-        << "409: Unknown error" << 1;
-    QTest::newRow("offset unchanged")
-        << append
-        << action(R"({"status": 409, "body": "{\"error\": {\"correct_offset\": 4194304}}"})")
-        << "409: Unknown error" << 6;
-    QTest::newRow("redirect") << append
-                              << action(R"({"status": 307, "headers": {"Location": "/"}})")
-                              << "307: The answer of the service cannot be understood." << 1;
-    QTest::newRow("no session") << "start" << action(R"({"status": 200, "body": "{}"})")
-                                << "The answer of the service cannot be understood." << 1;
-    QTest::newRow("bad session")
-        << "start" << action(R"({"status": 200, "body": "{\"session_id\": \"a\\r\\nb\"}"})")
-        << "The answer of the service cannot be understood." << 1;
-}
-
-void ChunkedUploadTest::givesUp()
-{
-    QFETCH(QString, step);
-    QFETCH(QJsonObject, failure);
-    QFETCH(QString, error);
-    QFETCH(int, requests);
-    UploadFixture user(m_services);
-    user.grant(kService, QStringLiteral("db"));
-    m_services.fail(step, failure, 99);
-    const UploadCourse course = user.run(kService, user.video(kLarge));
-    QCOMPARE(course.failed, QStringList{error});
-    QCOMPARE(course.ends(), 1);
-    QCOMPARE(lengths(step).size(), requests);
-}
-
-void ChunkedUploadTest::expiredTokenIsRenewed_data()
-{
-    QTest::addColumn<QString>("step");
-    QTest::addColumn<bool>("refreshes");
-    for (const char *step : {"start", "append", "finish"}) {
-        QTest::addRow("%s, refresh", step) << QString::fromLatin1(step) << true;
-        QTest::addRow("%s, sign-in", step) << QString::fromLatin1(step) << false;
-    }
+    const char *append = "append";
+    const char *unclear = "The answer of the service cannot be understood.";
+    const Refusal rows[] = {
+        {"server stays down", append, R"({"status": 503})", "503: Unknown error", 6},
+        {"forbidden", append,
+         R"({"status": 403, "body": "{\"error_summary\": \"no_permission/\"}"})",
+         "403: no_permission/", 1},
+        {"user's message", append,
+         R"({"status": 409, "body": "{\"error_summary\": \"full/\", \"user_message\": \"No space.\"}"})",
+         "409: No space.", 1},
+        {"message with language", append,
+         R"({"status": 409, "body": "{\"user_message\": {\"text\": \"Full.\"}}"})", "409: Full.",
+         1},
+        {"not JSON", append, R"({"status": 400, "body": "<html>"})", "400: Unknown error", 1},
+        {"offset before", append,
+         R"({"status": 409, "body": "{\"error\": {\"correct_offset\": 5}}"})", "409: Unknown error",
+         1},
+        {"offset beyond", append,
+         R"({"status": 409, "body": "{\"error\": {\"correct_offset\": 1e15}}"})",
+         "409: Unknown error", 1},
+        {"offset unchanged", append,
+         R"({"status": 409, "body": "{\"error\": {\"correct_offset\": 4194304}}"})",
+         "409: Unknown error", 6},
+        {"redirect", append, R"({"status": 307, "headers": {"Location": "/"}})",
+         "307: The answer of the service cannot be understood.", 1},
+        {"no session", "start", R"({"status": 200, "body": "{}"})", unclear, 1},
+        {"bad session", "start", R"({"status": 200, "body": "{\"session_id\": \"a\\r\\nb\"}"})",
+         unclear, 1}};
+    for (const Refusal &row : rows)
+        QTest::newRow(row.name) << row.step << FakeServices::action(row.failure) << row.error
+                                << row.requests;
 }
 
 void ChunkedUploadTest::expiredTokenIsRenewed()
@@ -248,8 +265,8 @@ void ChunkedUploadTest::expiredTokenIsRenewed()
         user.save(QStringLiteral("db"), QString::fromUtf8(QJsonDocument(access).toJson()));
     }
     m_services.fail(
-        step,
-        action(R"({"status": 401, "body": "{\"error_summary\": \"expired_access_token/\"}"})"));
+        step, FakeServices::action(
+                  R"({"status": 401, "body": "{\"error_summary\": \"expired_access_token/\"}"})"));
     const UploadCourse course = user.run(kService, user.video(kLarge));
     QCOMPARE(course.failed.join(QString()), QString());
     QCOMPARE(course.signIns, refreshes ? 0 : 1);
@@ -268,39 +285,15 @@ void ChunkedUploadTest::refusedTokenEndsAfterOneSignIn()
 {
     UploadFixture user(m_services);
     user.grant(kService, QStringLiteral("db"));
-    m_services.fail(QStringLiteral("single"),
-                    action(R"({"status": 401, "body": "{\"error_summary\": \"no\"}"})"), 99);
-    m_services.fail(QStringLiteral("refresh"),
-                    action(R"({"status": 400, "body": "{\"error\": \"invalid_grant\"}"})"));
+    m_services.fail(
+        QStringLiteral("single"),
+        FakeServices::action(R"({"status": 401, "body": "{\"error_summary\": \"no\"}"})"), 99);
+    m_services.fail(
+        QStringLiteral("refresh"),
+        FakeServices::action(R"({"status": 400, "body": "{\"error\": \"invalid_grant\"}"})"));
     const UploadCourse course = user.run(kService, user.video(10));
     QCOMPARE(course.failed, QStringList{QStringLiteral("401: no")});
     QCOMPARE(course.signIns, 1);
-}
-
-void ChunkedUploadTest::cancelWhileWaiting()
-{
-    UploadFixture user(m_services);
-    user.configure({{QStringLiteral("network/retry_delay"), QStringLiteral("60000")}});
-    user.grant(kService, QStringLiteral("db"));
-    m_services.fail(QStringLiteral("append"), action(R"({"status": 500})"));
-    LogCapture log;
-    user.start(kService, user.video(kLarge));
-    QTRY_VERIFY(!log.lines().filter(QStringLiteral("The upload goes on in 60000 ms")).isEmpty());
-    user.controller().cancel();
-    QCOMPARE(user.course.canceled, 1);
-    QCOMPARE(user.course.ends(), 1);
-}
-
-void ChunkedUploadTest::shrinkingFileFails()
-{
-    UploadFixture user(m_services);
-    user.grant(kService, QStringLiteral("db"));
-    const QString file = user.video(kLarge);
-    m_services.fail(QStringLiteral("append"), action(R"({"delay": 0.5})"));
-    user.start(kService, file);
-    QTRY_VERIFY(m_services.steps().contains(QStringLiteral("append")));
-    QVERIFY(QFile::resize(file, kChunk + 5));
-    QCOMPARE(user.wait().failed, QStringList{QStringLiteral("can't open source file for reading")});
 }
 
 QTEST_MAIN(ChunkedUploadTest)

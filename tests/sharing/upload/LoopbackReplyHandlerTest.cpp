@@ -60,16 +60,150 @@ private slots:
                                                &YoutubeHandler::convertedCallbackReceived);
         m_denied = std::make_unique<QSignalSpy>(m_handler.get(), &LoopbackReplyHandler::denied);
     }
-    void browserIsAnswered();
-    void strayRequestsAreNot_data();
-    void strayRequestsAreNot();
-    void requestInPieces();
-    void secondVisitChangesNothing();
-    void denialEnds();
-    void silentVisitorsHoldUpNobody();
-    void onlyThisMachineIsHeard();
-    void takenPortIsReported();
-    void callbacks();
+
+    void browserIsAnswered()
+    {
+        m_handler->acceptCode(QString()); // A page that ended without telling the code.
+        QCOMPARE(m_codes->size(), 0);
+        const QByteArray page = ask(m_port, kGood);
+        QVERIFY(page.startsWith("HTTP/1.1 200 OK\r\n"));
+        QVERIFY(page.contains("Content-Type: text/html; charset=utf-8\r\n"));
+        for (const char *part :
+             {"data:image/png;base64,iVBOR", "Service has been connected", "successfully",
+              "You can close this page", "#F4EBD1", "#282828", "#c3bcaf"})
+            QVERIFY2(page.contains(part), part);
+        QVERIFY(!page.contains("%1") && !page.contains("a+b") && !page.contains("the-state"));
+        QCOMPARE(m_codes->size(), 1);
+        QCOMPARE(m_codes->at(0).at(0).toMap().value(QStringLiteral("code")).toString(),
+                 QStringLiteral("4/a+b"));
+    }
+
+    void strayRequestsAreNot_data()
+    {
+        QTest::addColumn<QByteArray>("request");
+        QTest::addColumn<QByteArray>("status");
+        const QByteArray end = " HTTP/1.1\r\n\r\n";
+        QTest::newRow("icon") << "GET /favicon.ico?state=the-state&code=x" + end
+                              << QByteArray("404");
+        QTest::newRow("no query") << "GET /" + end << QByteArray("400");
+        QTest::newRow("no state") << "GET /?code=x" + end << QByteArray("400");
+        QTest::newRow("wrong state") << "GET /?code=x&state=the-statf" + end << QByteArray("400");
+        QTest::newRow("denial without state")
+            << "GET /?error=access_denied" + end << QByteArray("400");
+        QTest::newRow("state twice")
+            << "GET /?state=x&state=the-state&code=x" + end << QByteArray("400");
+        QTest::newRow("post") << "POST /?code=x&state=the-state" + end << QByteArray("405");
+        QTest::newRow("options") << "OPTIONS *" + end << QByteArray("400");
+        QTest::newRow("whole address")
+            << "GET http://127.0.0.1/?code=x&state=the-state" + end << QByteArray("400");
+        QTest::newRow("HTTP/2") << QByteArray("PRI * HTTP/2.0\r\n\r\nSM\r\n\r\n")
+                                << QByteArray("400");
+        QTest::newRow("TLS") << QByteArray("\x16\x03\x01\x02\x00\x01\x00\x01\xfc\x03\x03\r\n\r\n",
+                                           15)
+                             << QByteArray("400");
+        QTest::newRow("zeros") << QByteArray(20000, '\0') << QByteArray("400");
+        QTest::newRow("endless line") << "GET /?" + QByteArray(1000000, 'a') << QByteArray("400");
+        QTest::newRow("endless head")
+            << "GET /?code=x&state=the-state HTTP/1.1\r\n" + QByteArray(20000, 'a')
+            << QByteArray("400");
+        QTest::newRow("tab") << QByteArray("GET\t/?code=x&state=the-state\tHTTP/1.1\r\n\r\n")
+                             << QByteArray("400");
+        QTest::newRow("blank") << QByteArray("\r\n\r\n") << QByteArray("400");
+    }
+
+    void strayRequestsAreNot()
+    {
+        QFETCH(QByteArray, request);
+        QFETCH(QByteArray, status);
+        const QByteArray page = ask(m_port, request);
+        // A visitor who sends much more than is read may find the connection reset.
+        QVERIFY2(page.startsWith("HTTP/1.1 " + status) ||
+                     (request.size() > 16384 && page.isEmpty()),
+                 page.left(100).constData());
+        QCOMPARE(m_codes->size() + m_denied->size(), 0);
+        QVERIFY(!page.contains("successfully"));
+        // The browser that comes afterwards is welcome.
+        QVERIFY(ask(m_port, kGood).startsWith("HTTP/1.1 200"));
+        QCOMPARE(m_codes->size(), 1);
+    }
+
+    void requestInPieces()
+    {
+        QVERIFY(ask(m_port, kGood, 1).startsWith("HTTP/1.1 200"));
+        QCOMPARE(m_codes->size(), 1);
+    }
+
+    void secondVisitChangesNothing()
+    {
+        for (int i = 0; i < 3; ++i)
+            QVERIFY(ask(m_port, kGood).contains("successfully"));
+        m_handler->acceptCode(QStringLiteral("another"));
+        QCOMPARE(m_codes->size(), 1);
+        QCOMPARE(m_denied->size(), 0);
+    }
+
+    void denialEnds()
+    {
+        const QByteArray page =
+            ask(m_port, "GET /?error=access_denied&state=the-state HTTP/1.1\r\n\r\n");
+        QVERIFY(page.contains("Service has not been") && page.contains("connected"));
+        QCOMPARE(m_denied->size(), 1);
+        ask(m_port, kGood);
+        QCOMPARE(m_codes->size(), 0);
+    }
+
+    void silentVisitorsHoldUpNobody()
+    {
+        std::vector<std::unique_ptr<QTcpSocket>> silent;
+        for (int i = 0; i < 31; ++i) {
+            silent.push_back(std::make_unique<QTcpSocket>());
+            silent.back()->connectToHost(QHostAddress::LocalHost, m_port);
+            QTRY_COMPARE(silent.back()->state(), QAbstractSocket::ConnectedState);
+            silent.back()->write("GET /");
+        }
+        QVERIFY(ask(m_port, kGood).startsWith("HTTP/1.1 200"));
+        silent.clear();
+    }
+
+    void onlyThisMachineIsHeard()
+    {
+        int tried = 0;
+        const QList<QHostAddress> addresses = QNetworkInterface::allAddresses();
+        for (const QHostAddress &address : addresses) {
+            if (address == QHostAddress(QHostAddress::LocalHost))
+                continue;
+            QTcpSocket socket;
+            socket.connectToHost(address, m_port);
+            QTRY_VERIFY(socket.state() == QAbstractSocket::UnconnectedState ||
+                        socket.state() == QAbstractSocket::ConnectedState);
+            QVERIFY2(socket.state() != QAbstractSocket::ConnectedState,
+                     qPrintable(address.toString()));
+            ++tried;
+        }
+        if (tried == 0)
+            QSKIP("This machine has no other address");
+    }
+
+    void takenPortIsReported()
+    {
+        YoutubeHandler second(m_port);
+        QVERIFY(!second.open());
+        m_handler->shut();
+        QVERIFY(second.open());
+    }
+
+    void callbacks()
+    {
+        QCOMPARE(YoutubeHandler(15674).callback(), QStringLiteral("http://127.0.0.1:15674/"));
+        const quint16 port = freePort();
+        DropBoxReplyHandler handler(port);
+        QCOMPARE(handler.callback(), QStringLiteral("http://localhost:%1/cb").arg(port));
+        handler.setState(kState);
+        QVERIFY(handler.open());
+        QVERIFY(ask(port, kGood).startsWith("HTTP/1.1 404"));
+        QVERIFY(ask(port, "GET /cb?code=x&state=the-state HTTP/1.1\r\n\r\n")
+                    .startsWith("HTTP/1.1 200"));
+    }
 
 private:
     quint16 m_port = 0;
@@ -77,142 +211,6 @@ private:
     std::unique_ptr<QSignalSpy> m_codes;
     std::unique_ptr<QSignalSpy> m_denied;
 };
-
-void LoopbackReplyHandlerTest::browserIsAnswered()
-{
-    const QByteArray page = ask(m_port, kGood);
-    QVERIFY(page.startsWith("HTTP/1.1 200 OK\r\n"));
-    QVERIFY(page.contains("Content-Type: text/html; charset=utf-8\r\n"));
-    for (const char *part :
-         {"data:image/png;base64,iVBOR", "Service has been connected", "successfully",
-          "You can close this page", "#F4EBD1", "#282828", "#c3bcaf"})
-        QVERIFY2(page.contains(part), part);
-    QVERIFY(!page.contains("%1") && !page.contains("a+b") && !page.contains("the-state"));
-    QCOMPARE(m_codes->size(), 1);
-    QCOMPARE(m_codes->at(0).at(0).toMap().value(QStringLiteral("code")).toString(),
-             QStringLiteral("4/a+b"));
-}
-
-void LoopbackReplyHandlerTest::strayRequestsAreNot_data()
-{
-    QTest::addColumn<QByteArray>("request");
-    QTest::addColumn<QByteArray>("status");
-    const QByteArray end = " HTTP/1.1\r\n\r\n";
-    QTest::newRow("icon") << "GET /favicon.ico?state=the-state&code=x" + end << QByteArray("404");
-    QTest::newRow("no query") << "GET /" + end << QByteArray("400");
-    QTest::newRow("no state") << "GET /?code=x" + end << QByteArray("400");
-    QTest::newRow("wrong state") << "GET /?code=x&state=the-statf" + end << QByteArray("400");
-    QTest::newRow("denial without state") << "GET /?error=access_denied" + end << QByteArray("400");
-    QTest::newRow("state twice") << "GET /?state=x&state=the-state&code=x" + end
-                                 << QByteArray("400");
-    QTest::newRow("post") << "POST /?code=x&state=the-state" + end << QByteArray("405");
-    QTest::newRow("options") << "OPTIONS *" + end << QByteArray("400");
-    QTest::newRow("whole address")
-        << "GET http://127.0.0.1/?code=x&state=the-state" + end << QByteArray("400");
-    QTest::newRow("HTTP/2") << QByteArray("PRI * HTTP/2.0\r\n\r\nSM\r\n\r\n") << QByteArray("400");
-    QTest::newRow("TLS") << QByteArray("\x16\x03\x01\x02\x00\x01\x00\x01\xfc\x03\x03\r\n\r\n", 15)
-                         << QByteArray("400");
-    QTest::newRow("zeros") << QByteArray(20000, '\0') << QByteArray("400");
-    QTest::newRow("endless line") << "GET /?" + QByteArray(1000000, 'a') << QByteArray("400");
-    QTest::newRow("endless head") << "GET /?code=x&state=the-state HTTP/1.1\r\n" +
-                                         QByteArray(20000, 'a')
-                                  << QByteArray("400");
-    QTest::newRow("tab") << QByteArray("GET\t/?code=x&state=the-state\tHTTP/1.1\r\n\r\n")
-                         << QByteArray("400");
-    QTest::newRow("blank") << QByteArray("\r\n\r\n") << QByteArray("400");
-}
-
-void LoopbackReplyHandlerTest::strayRequestsAreNot()
-{
-    QFETCH(QByteArray, request);
-    QFETCH(QByteArray, status);
-    const QByteArray page = ask(m_port, request);
-    // A visitor who sends much more than is read may find the connection reset.
-    QVERIFY2(page.startsWith("HTTP/1.1 " + status) || (request.size() > 16384 && page.isEmpty()),
-             page.left(100).constData());
-    QCOMPARE(m_codes->size() + m_denied->size(), 0);
-    QVERIFY(!page.contains("successfully"));
-    // The browser that comes afterwards is welcome.
-    QVERIFY(ask(m_port, kGood).startsWith("HTTP/1.1 200"));
-    QCOMPARE(m_codes->size(), 1);
-}
-
-void LoopbackReplyHandlerTest::requestInPieces()
-{
-    QVERIFY(ask(m_port, kGood, 1).startsWith("HTTP/1.1 200"));
-    QCOMPARE(m_codes->size(), 1);
-}
-
-void LoopbackReplyHandlerTest::secondVisitChangesNothing()
-{
-    for (int i = 0; i < 3; ++i)
-        QVERIFY(ask(m_port, kGood).contains("successfully"));
-    m_handler->acceptCode(QStringLiteral("another"));
-    QCOMPARE(m_codes->size(), 1);
-    QCOMPARE(m_denied->size(), 0);
-}
-
-void LoopbackReplyHandlerTest::denialEnds()
-{
-    const QByteArray page =
-        ask(m_port, "GET /?error=access_denied&state=the-state HTTP/1.1\r\n\r\n");
-    QVERIFY(page.contains("Service has not been") && page.contains("connected"));
-    QCOMPARE(m_denied->size(), 1);
-    ask(m_port, kGood);
-    QCOMPARE(m_codes->size(), 0);
-}
-
-void LoopbackReplyHandlerTest::silentVisitorsHoldUpNobody()
-{
-    std::vector<std::unique_ptr<QTcpSocket>> silent;
-    for (int i = 0; i < 31; ++i) {
-        silent.push_back(std::make_unique<QTcpSocket>());
-        silent.back()->connectToHost(QHostAddress::LocalHost, m_port);
-        QTRY_COMPARE(silent.back()->state(), QAbstractSocket::ConnectedState);
-        silent.back()->write("GET /");
-    }
-    QVERIFY(ask(m_port, kGood).startsWith("HTTP/1.1 200"));
-    silent.clear();
-}
-
-void LoopbackReplyHandlerTest::onlyThisMachineIsHeard()
-{
-    int tried = 0;
-    const QList<QHostAddress> addresses = QNetworkInterface::allAddresses();
-    for (const QHostAddress &address : addresses) {
-        if (address == QHostAddress(QHostAddress::LocalHost))
-            continue;
-        QTcpSocket socket;
-        socket.connectToHost(address, m_port);
-        QTRY_VERIFY(socket.state() == QAbstractSocket::UnconnectedState ||
-                    socket.state() == QAbstractSocket::ConnectedState);
-        QVERIFY2(socket.state() != QAbstractSocket::ConnectedState, qPrintable(address.toString()));
-        ++tried;
-    }
-    if (tried == 0)
-        QSKIP("This machine has no other address");
-}
-
-void LoopbackReplyHandlerTest::takenPortIsReported()
-{
-    YoutubeHandler second(m_port);
-    QVERIFY(!second.open());
-    m_handler->shut();
-    QVERIFY(second.open());
-}
-
-void LoopbackReplyHandlerTest::callbacks()
-{
-    QCOMPARE(YoutubeHandler(15674).callback(), QStringLiteral("http://127.0.0.1:15674/"));
-    const quint16 port = freePort();
-    DropBoxReplyHandler handler(port);
-    QCOMPARE(handler.callback(), QStringLiteral("http://localhost:%1/cb").arg(port));
-    handler.setState(kState);
-    QVERIFY(handler.open());
-    QVERIFY(ask(port, kGood).startsWith("HTTP/1.1 404"));
-    QVERIFY(
-        ask(port, "GET /cb?code=x&state=the-state HTTP/1.1\r\n\r\n").startsWith("HTTP/1.1 200"));
-}
 
 QTEST_MAIN(LoopbackReplyHandlerTest)
 #include "LoopbackReplyHandlerTest.moc"

@@ -50,7 +50,7 @@ LoopbackServer::Reply LoopbackReplyHandler::onRequest(const CallbackRequest &req
 
 void LoopbackReplyHandler::acceptCode(const QString &code)
 {
-    if (m_decided)
+    if (m_decided || code.isEmpty())
         return;
     m_decided = true;
     emit callbackReceived({{QStringLiteral("code"), code}, {QStringLiteral("state"), m_state}});

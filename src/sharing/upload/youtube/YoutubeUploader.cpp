@@ -33,7 +33,6 @@ void YoutubeUploader::openSignInPage(const QUrl &address)
         return;
     }
     m_dialog = new WebLoginDialog(std::move(page), window());
-    m_dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(m_dialog, &WebLoginDialog::authenticated, this, &YoutubeUploader::acceptCode);
     connect(m_dialog, &WebLoginDialog::failed, this, &YoutubeUploader::fail);
     // However the upload ends, the page has no use any more.
@@ -48,6 +47,9 @@ void YoutubeUploader::closeDialog()
         return;
     m_dialog->disconnect(this);
     m_dialog->close();
+    // Not when it closes: its page may still be on the way to the loopback port.
+    m_dialog->deleteLater();
+    m_dialog.clear();
 }
 
 void YoutubeUploader::onToken(const QString &accessToken, const QString &refreshToken)
