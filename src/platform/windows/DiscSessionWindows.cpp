@@ -20,10 +20,9 @@ namespace
 
 // STGM_READ | STGM_SHARE_DENY_NONE | STGM_DELETEONRELEASE
 constexpr DWORD kStreamMode = 0x04000040;
-constexpr int kVolumeNameLength = 15; // More the service does not promise to take.
+constexpr int kVolumeNameLength = 15; // What the service promises to take.
 
-/// A sink for the events of an object, which are counted once by the caller; null when the system
-/// cannot describe them.
+/// A sink for events; null when the system cannot describe them.
 template <typename Sink, typename Events>
 ComPtr<Sink> makeSink(ImapiFactory &factory, const char *events, const DiscProgress &progress)
 {

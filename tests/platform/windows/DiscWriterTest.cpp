@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/windows/DiscWriterWindows.h"
 #include "helpers/LogCapture.h"
 #include "platform/windows/DeletableLink.h"
+#include "platform/windows/DiscWriterWindows.h"
 #include "platform/windows/FakeImapi.h"
 
 #include <QDir>
@@ -70,7 +70,7 @@ QStringList burnCalls(bool erase, bool blank)
 } // namespace
 
 /// Burns with objects that note each call, and makes each of them fail.
-class DiscWriterWindowsTest : public QObject
+class DiscWriterTest : public QObject
 {
     Q_OBJECT
 
@@ -115,12 +115,12 @@ private:
     QString m_title;
 };
 
-void DiscWriterWindowsTest::initTestCase()
+void DiscWriterTest::initTestCase()
 {
     QStandardPaths::setTestModeEnabled(true);
 }
 
-void DiscWriterWindowsTest::init()
+void DiscWriterTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     m_video = m_folder->filePath(QStringLiteral("holiday.mp4"));
@@ -137,7 +137,7 @@ void DiscWriterWindowsTest::init()
 }
 
 /// Whatever happened, every object is released and the video is as it was.
-void DiscWriterWindowsTest::cleanup()
+void DiscWriterTest::cleanup()
 {
     QCOMPARE(m_disc->objects, 0);
     QVERIFY(!m_disc->sink);
@@ -151,7 +151,7 @@ void DiscWriterWindowsTest::cleanup()
 }
 
 /// What burning leaves where it makes links.
-QString DiscWriterWindowsTest::leftovers() const
+QString DiscWriterTest::leftovers() const
 {
     const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
     const QStringList pattern{QStringLiteral("burn-*")};
@@ -159,7 +159,7 @@ QString DiscWriterWindowsTest::leftovers() const
         .join(QLatin1Char(' '));
 }
 
-bool DiscWriterWindowsTest::burn(bool erase, bool finalize)
+bool DiscWriterTest::burn(bool erase, bool finalize)
 {
     const DiscProgress progress = [to = m_progress](int current, int total) {
         to->append(QStringLiteral("%1/%2").arg(current).arg(total));
@@ -170,7 +170,7 @@ bool DiscWriterWindowsTest::burn(bool erase, bool finalize)
            session->finishImage(finalize) && session->write(progress, m_cancelled);
 }
 
-void DiscWriterWindowsTest::burns_data()
+void DiscWriterTest::burns_data()
 {
     QTest::addColumn<bool>("blank");
     QTest::addColumn<bool>("erase");
@@ -181,7 +181,7 @@ void DiscWriterWindowsTest::burns_data()
     QTest::newRow("finalised") << true << false << true;
 }
 
-void DiscWriterWindowsTest::burns()
+void DiscWriterTest::burns()
 {
     QFETCH(bool, blank);
     QFETCH(bool, erase);
@@ -197,7 +197,7 @@ void DiscWriterWindowsTest::burns()
     QCOMPARE(m_disc->streamContent, QByteArray("a video"));
 }
 
-void DiscWriterWindowsTest::failingStep_data()
+void DiscWriterTest::failingStep_data()
 {
     QTest::addColumn<QString>("call");
     QTest::addColumn<QString>("step");
@@ -235,7 +235,7 @@ void DiscWriterWindowsTest::failingStep_data()
         QTest::newRow(row[0]) << QString::fromLatin1(row[0]) << QString::fromLatin1(row[1]);
 }
 
-void DiscWriterWindowsTest::failingStep()
+void DiscWriterTest::failingStep()
 {
     QFETCH(QString, call);
     QFETCH(QString, step);
@@ -248,7 +248,7 @@ void DiscWriterWindowsTest::failingStep()
     QCOMPARE(log.lines(QtWarningMsg), QStringList{step + kFailed});
 }
 
-void DiscWriterWindowsTest::eventsAreOptional_data()
+void DiscWriterTest::eventsAreOptional_data()
 {
     QTest::addColumn<QString>("call");
     QTest::addColumn<QStringList>("lines");
@@ -272,7 +272,7 @@ void DiscWriterWindowsTest::eventsAreOptional_data()
     row("IConnectionPoint Advise", {twice, twice});
 }
 
-void DiscWriterWindowsTest::eventsAreOptional()
+void DiscWriterTest::eventsAreOptional()
 {
     QFETCH(QString, call);
     QFETCH(QStringList, lines);
@@ -285,7 +285,7 @@ void DiscWriterWindowsTest::eventsAreOptional()
     QCOMPARE(m_progress->size(), lines.size() == 2 ? 0 : 2);
 }
 
-void DiscWriterWindowsTest::noApartment()
+void DiscWriterTest::noApartment()
 {
     QVERIFY(SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED)));
     LogCapture log;
@@ -296,7 +296,7 @@ void DiscWriterWindowsTest::noApartment()
     QCOMPARE(m_disc->calls, QStringList());
 }
 
-void DiscWriterWindowsTest::unsupportedMedium()
+void DiscWriterTest::unsupportedMedium()
 {
     m_disc->mediaType = 1;
     LogCapture log;
@@ -305,13 +305,13 @@ void DiscWriterWindowsTest::unsupportedMedium()
     QCOMPARE(m_disc->calls, list(kOpen) + list(kCheck));
 }
 
-void DiscWriterWindowsTest::progressArrives()
+void DiscWriterTest::progressArrives()
 {
     QVERIFY(burn(true));
     QCOMPARE(m_progress->join(QLatin1Char(' ')), QStringLiteral("1/4 4/4 1/4 4/4"));
 }
 
-void DiscWriterWindowsTest::badEventsAreLogged_data()
+void DiscWriterTest::badEventsAreLogged_data()
 {
     QTest::addColumn<int>("elapsed");
     QTest::addColumn<int>("expected");
@@ -321,7 +321,7 @@ void DiscWriterWindowsTest::badEventsAreLogged_data()
     QTest::newRow("no times") << 1 << -1 << QStringLiteral("Failed get times");
 }
 
-void DiscWriterWindowsTest::badEventsAreLogged()
+void DiscWriterTest::badEventsAreLogged()
 {
     QFETCH(int, elapsed);
     QFETCH(int, expected);
@@ -333,7 +333,7 @@ void DiscWriterWindowsTest::badEventsAreLogged()
     QCOMPARE(*m_progress, QStringList{QStringLiteral("2/4")});
 }
 
-void DiscWriterWindowsTest::cancelStops()
+void DiscWriterTest::cancelStops()
 {
     m_cancelled = true;
     m_disc->seconds = {{1, 4}};
@@ -344,7 +344,7 @@ void DiscWriterWindowsTest::cancelStops()
              (QStringList{QStringLiteral("MsftDiscFormat2Data CancelWrite"), m_disc->failing}));
 }
 
-void DiscWriterWindowsTest::takenNameIsNumbered()
+void DiscWriterTest::takenNameIsNumbered()
 {
     m_disc->blank = false;
     m_disc->files = QStringList{QStringLiteral("film.mp4"), QStringLiteral("film (2).mp4")};
@@ -353,7 +353,7 @@ void DiscWriterWindowsTest::takenNameIsNumbered()
         m_disc->calls.contains(QStringLiteral("IFsiDirectoryItem AddFile film (3).mp4, video")));
 }
 
-void DiscWriterWindowsTest::longTitleIsCut()
+void DiscWriterTest::longTitleIsCut()
 {
     m_title = QStringLiteral("Sommer 2026 am Meer");
     QVERIFY(burn());
@@ -361,7 +361,7 @@ void DiscWriterWindowsTest::longTitleIsCut()
         QStringLiteral("MsftFileSystemImage put_VolumeName Sommer 2026 am ")));
 }
 
-void DiscWriterWindowsTest::videoSurvives_data()
+void DiscWriterTest::videoSurvives_data()
 {
     QTest::addColumn<bool>("readOnly");
     QTest::addColumn<int>("names");
@@ -369,7 +369,7 @@ void DiscWriterWindowsTest::videoSurvives_data()
     QTest::newRow("read-only, copied") << true << 1;
 }
 
-void DiscWriterWindowsTest::videoSurvives()
+void DiscWriterTest::videoSurvives()
 {
     QFETCH(bool, readOnly);
     QFETCH(int, names);
@@ -390,7 +390,7 @@ void DiscWriterWindowsTest::videoSurvives()
     QCOMPARE(QByteArray(content, sizeof(content)), QByteArray("a video"));
 }
 
-void DiscWriterWindowsTest::missingVideo()
+void DiscWriterTest::missingVideo()
 {
     const QString aside = m_video + QStringLiteral(".aside");
     QVERIFY(QFile::rename(m_video, aside));
@@ -402,7 +402,7 @@ void DiscWriterWindowsTest::missingVideo()
              QStringList{QStringLiteral("'SHCreateStreamOnFileEx' failed, result: '80070002'")});
 }
 
-void DiscWriterWindowsTest::listsRecorders()
+void DiscWriterTest::listsRecorders()
 {
     m_disc->drives.append(QStringLiteral("drive1"));
     LogCapture log;
@@ -416,7 +416,7 @@ void DiscWriterWindowsTest::listsRecorders()
     QCOMPARE(m_writer->hindrance(), QString());
 }
 
-void DiscWriterWindowsTest::discoveryFailures_data()
+void DiscWriterTest::discoveryFailures_data()
 {
     QTest::addColumn<QString>("call");
     QTest::addColumn<QString>("step");
@@ -436,7 +436,7 @@ void DiscWriterWindowsTest::discoveryFailures_data()
     row("unsupported", "", 0);
 }
 
-void DiscWriterWindowsTest::discoveryFailures()
+void DiscWriterTest::discoveryFailures()
 {
     QFETCH(QString, call);
     QFETCH(QString, step);
@@ -454,7 +454,7 @@ void DiscWriterWindowsTest::discoveryFailures()
              asked && found == 0);
 }
 
-void DiscWriterWindowsTest::looksAtDiscs_data()
+void DiscWriterTest::looksAtDiscs_data()
 {
     QTest::addColumn<bool>("blank");
     QTest::addColumn<int>("status");
@@ -481,7 +481,7 @@ void DiscWriterWindowsTest::looksAtDiscs_data()
     QTest::newRow("no disc") << true << 0 << true << none << QStringLiteral("absent");
 }
 
-void DiscWriterWindowsTest::looksAtDiscs()
+void DiscWriterTest::looksAtDiscs()
 {
     QFETCH(bool, blank);
     QFETCH(int, status);
@@ -508,7 +508,7 @@ void DiscWriterWindowsTest::looksAtDiscs()
 }
 
 /// With the system's own service, where it exists.
-void DiscWriterWindowsTest::systemService()
+void DiscWriterTest::systemService()
 {
     LogCapture log;
     const auto writer = createDiscWriter();
@@ -522,5 +522,5 @@ void DiscWriterWindowsTest::systemService()
     QVERIFY(!writer->openSession(QStringLiteral("no such drive")));
 }
 
-QTEST_GUILESS_MAIN(DiscWriterWindowsTest)
-#include "DiscWriterWindowsTest.moc"
+QTEST_GUILESS_MAIN(DiscWriterTest)
+#include "DiscWriterTest.moc"
