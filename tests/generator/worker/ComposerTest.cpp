@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/worker/Composer.h"
 #include "generator/worker/WorkerProtocol.h"
-#include "helpers/TestProcess.h"
+#include "helpers/ProcessControl.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -10,6 +10,7 @@
 #include <memory>
 
 using namespace velmora;
+using ProcessControl::isAlive;
 
 namespace
 {

@@ -8,8 +8,6 @@
 #include <QTest>
 #include <QtEndian>
 
-#include <unistd.h>
-
 using namespace velmora;
 
 /// Files that are no pictures, broken ones and hostile ones.
@@ -152,10 +150,10 @@ void ImageCheckTest::unusableFilesAreNamed()
 
 void ImageCheckTest::unreadableFileCannotBeOpened()
 {
-    if (geteuid() == 0)
-        QSKIP("root may read every file");
     QVERIFY(Pictures::writeBytes(path("secret.jpg"), encoded("jpg", QSize(8, 8))));
     QVERIFY(QFile::setPermissions(path("secret.jpg"), QFile::WriteOwner));
+    if (QFile(path("secret.jpg")).open(QIODevice::ReadOnly))
+        QSKIP("This user may read every file.");
     QCOMPARE(ImageLoader::check(path("secret.jpg")), QStringLiteral("cannot be opened"));
 }
 
