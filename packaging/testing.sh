@@ -56,6 +56,20 @@ run_tests() {
     failed=$((failed + bad))
 }
 
+# run_windows_tests SDK REGEX: the same for Windows, with the tests under Wine. SDK is the archive
+# velmora-windows-sdk.tar.xz or a folder with its content.
+run_windows_tests() {
+    # shellcheck source=packaging/windows/dependencies.sh
+    source packaging/windows/dependencies.sh
+    install_packages "${wine_packages[@]}"
+    VELMORA_WINDOWS_SDK=$(packaging/windows/prepare-sdk.sh "$1")
+    export VELMORA_WINDOWS_SDK
+    export WINEPREFIX=$PWD/build/windows/wine
+    test_wrapper=("$PWD/packaging/windows/wine-session.sh")
+    run_tests windows "$2"
+    test_wrapper=()
+}
+
 # A build that fails ends the script here too, and then the last line must still be true.
 trap 'echo "$passed passed, $failed failed"' EXIT
 broken() { failed=$((failed + 1)); }
