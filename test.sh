@@ -5,18 +5,23 @@
 #   --asan           also run the tests under the address and undefined-behaviour sanitizers
 #   --tsan           also run the tests of the threaded parts under the thread sanitizer
 #   --fuzz SECONDS   also feed each parser with random input for that long
+#   --windows        also cross-build for Windows and run the tests under Wine, if the archive
+#                    velmora-windows-sdk.tar.xz is at hand: VELMORA_WINDOWS_SDK_ARCHIVE names it,
+#                    or it lies in ../shared/windows
 #   --only REGEX     run only the tests whose names match
 # The last line counts what passed and what failed; the exit code is 0 only if nothing failed.
 set -Eeuo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
-format=no asan=no tsan=no fuzz=0 only=.
+format=no asan=no tsan=no fuzz=0 windows=no only=.
+sdk=${VELMORA_WINDOWS_SDK_ARCHIVE:-../shared/windows/velmora-windows-sdk.tar.xz}
 usage() { sed -n 's/^#   //p' "$0"; }
 while [ $# -gt 0 ]; do
     case $1 in
     --format) format=yes ;;
     --asan) asan=yes ;;
     --tsan) tsan=yes ;;
+    --windows) windows=yes ;;
     --fuzz)
         fuzz=${2:-}
         shift
@@ -86,6 +91,13 @@ if [ "$tsan" = yes ]; then
     run_tests tsan "$only"
 fi
 [ "$fuzz" = 0 ] || run_fuzzers
+if [ "$windows" = yes ]; then
+    if [ -e "$sdk" ]; then
+        run_windows_tests "$sdk" "$only"
+    else
+        echo "The Windows SDK is not here, so the Windows build was left out."
+    fi
+fi
 if [ "$failed" -gt 0 ]; then
     exit 1
 fi

@@ -42,7 +42,8 @@ run_tests() {
     ) || status=$?
     [ -f "$results" ] || return 1
     # A check that a test leaves out should be known to whoever reads the figures.
-    sed -n 's/^SKIP *: /Left out: /p' "build/$1/Testing/Temporary/LastTest.log"
+    sed -n 's/^SKIP *: /Left out: /p; s/^ok [0-9]* - \(.*\) # SKIP/Left out: \1/p' \
+        "build/$1/Testing/Temporary/LastTest.log"
     total=$(attribute tests "$results")
     bad=$(attribute failures "$results")
     idle=$(($(attribute disabled "$results") + $(attribute skipped "$results")))
@@ -54,6 +55,20 @@ run_tests() {
     fi
     passed=$((passed + total - bad - idle))
     failed=$((failed + bad))
+}
+
+# run_windows_tests SDK REGEX: the same for Windows, with the tests under Wine. SDK is the archive
+# velmora-windows-sdk.tar.xz or a folder with its content.
+run_windows_tests() {
+    # shellcheck source=packaging/windows/dependencies.sh
+    source packaging/windows/dependencies.sh
+    install_packages "${wine_packages[@]}"
+    VELMORA_WINDOWS_SDK=$(packaging/windows/prepare-sdk.sh "$1")
+    export VELMORA_WINDOWS_SDK
+    export WINEPREFIX=$PWD/build/windows/wine
+    test_wrapper=("$PWD/packaging/windows/wine-session.sh")
+    run_tests windows "$2"
+    test_wrapper=()
 }
 
 # A build that fails ends the script here too, and then the last line must still be true.

@@ -8,23 +8,16 @@
 set -Eeuo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 if ! [ -e "${1:-}" ]; then
-    sed -n 's/^#   //p' "packaging/windows/test.sh" >&2
+    sed -n 's/^#   //p' packaging/windows/test.sh >&2
     exit 2
 fi
 
 # shellcheck source=packaging/linux/dependencies.sh
 source packaging/linux/dependencies.sh
-# shellcheck source=packaging/windows/dependencies.sh
-source packaging/windows/dependencies.sh
-install_packages "${wine_packages[@]}"
 # shellcheck source=packaging/testing.sh
 source packaging/testing.sh
 
-VELMORA_WINDOWS_SDK=$(packaging/windows/prepare-sdk.sh "$1")
-export VELMORA_WINDOWS_SDK
-export WINEPREFIX=$PWD/build/windows/wine
-test_wrapper=("$PWD/packaging/windows/wine-session.sh")
-run_tests windows "${2:-.}"
+run_windows_tests "$1" "${2:-.}"
 if [ "$failed" -gt 0 ]; then
     exit 1
 fi

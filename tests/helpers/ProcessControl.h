@@ -17,6 +17,10 @@ QVector<qint64> childrenOf(qint64 pid);
 bool kill(qint64 pid);
 /// Ends the process by a violation of its memory.
 bool crash(qint64 pid);
+/// Processes started from now on can be interrupted.
+void allowInterrupts();
+/// Does to the process what Ctrl-C does to the program of a terminal.
+bool interrupt(qint64 pid);
 /// The process goes on no more until it is killed.
 bool freeze(qint64 pid);
 

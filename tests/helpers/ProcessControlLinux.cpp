@@ -57,6 +57,13 @@ bool ProcessControl::crash(qint64 pid)
     return send(pid, SIGSEGV);
 }
 
+void ProcessControl::allowInterrupts() {}
+
+bool ProcessControl::interrupt(qint64 pid)
+{
+    return send(pid, SIGINT);
+}
+
 bool ProcessControl::freeze(qint64 pid)
 {
     return send(pid, SIGSTOP);

@@ -60,6 +60,19 @@ bool ProcessControl::crash(qint64 pid)
     return thread != nullptr;
 }
 
+// Ctrl-C reaches all programs of a console: this one and those that it starts get their own.
+void ProcessControl::allowInterrupts()
+{
+    FreeConsole();
+    AllocConsole();
+}
+
+bool ProcessControl::interrupt(qint64)
+{
+    SetConsoleCtrlHandler(nullptr, TRUE); // not this process
+    return GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0);
+}
+
 bool ProcessControl::freeze(qint64 pid)
 {
     using Suspend = LONG(WINAPI *)(HANDLE);

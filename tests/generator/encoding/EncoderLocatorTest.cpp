@@ -94,7 +94,7 @@ private slots:
         const EncoderLocation location = locateEncoder();
         QVERIFY(location.program.isEmpty());
         QVERIFY2(location.error.contains(QStringLiteral("4.2.7")) &&
-                     location.error.contains(program) &&
+                     location.error.contains(QDir::toNativeSeparators(program)) &&
                      location.error.contains(QStringLiteral("4.4")),
                  qPrintable(location.error));
     }

@@ -175,9 +175,11 @@ private slots:
             lockFile = QDir(locks()).entryInfoList(QDir::Files).constFirst().filePath();
         }
         // No process can have this number.
-        write(lockFile, "4194305\nvelmoratool\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+        write(lockFile, "4194305\nvelmoratool\n" + QSysInfo::machineHostName().toUtf8() + '\n' +
+                            QSysInfo::machineUniqueId() + '\n' + QSysInfo::bootUniqueId() + '\n');
         OutputTarget target;
-        QVERIFY(!prepare(target, QStringLiteral("a.mp4")).isSet());
+        const RenderError error = prepare(target, QStringLiteral("a.mp4"));
+        QVERIFY2(!error.isSet(), qPrintable(error.text));
     }
 
     void sweepsUnfinishedVideosOfTheSameName()
@@ -186,7 +188,7 @@ private slots:
                                  QStringLiteral(".a.part-abc123.part.mp4")};
         const QStringList others{
             QStringLiteral(".a.part-abc123.avi"), QStringLiteral(".a.part-b.part-abc123.mp4"),
-            QStringLiteral(".a.part-ABC123.mp4"), QStringLiteral("a.part.mp4")};
+            QStringLiteral(".a.part-ABC124.mp4"), QStringLiteral("a.part.mp4")};
         for (const QString &name : strays + others)
             write(path(name), "x");
         OutputTarget target;

@@ -10,6 +10,7 @@
 #include <QLockFile>
 #include <QProcess>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QtTest>
 
 #include <memory>
@@ -177,7 +178,7 @@ private slots:
     void rendersForNobody()
     {
         QFETCH(QString, redirection);
-        if (!QFileInfo::exists(QStringLiteral("/dev/full")))
+        if (QStandardPaths::findExecutable(QStringLiteral("sh")).isEmpty())
             QSKIP("needs a shell");
         const QStringList arguments{QStringLiteral("-c"),
                                     QStringLiteral("\"$0\" \"$@\" ") + redirection, program()};

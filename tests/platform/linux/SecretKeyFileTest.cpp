@@ -32,6 +32,7 @@ class SecretKeyFileTest : public QObject
     Q_OBJECT
 
 private slots:
+    void damageIsNoticed();
     void anotherUsersIsNot();
     void keyFileIsPrivate();
     void openKeyFileIsClosed();
@@ -41,6 +42,18 @@ private slots:
     void unwritableFolderFails();
     void desktopKeyRing();
 };
+
+void SecretKeyFileTest::damageIsNoticed()
+{
+    const QTemporaryDir folder;
+    const auto secrets = secretsIn(folder);
+    const QByteArray sealed = *secrets->protect("token");
+    for (int i = 0; i < sealed.size(); ++i) {
+        QByteArray damaged = sealed;
+        damaged[i] = static_cast<char>(damaged.at(i) ^ 1);
+        QVERIFY(!secrets->unprotect(damaged));
+    }
+}
 
 void SecretKeyFileTest::anotherUsersIsNot()
 {

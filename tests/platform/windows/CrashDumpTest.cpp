@@ -7,6 +7,8 @@
 
 using namespace velmora;
 
+constexpr int kLongestDump = 120000; // ms; Wine reads the symbols of all libraries first
+
 class CrashDumpTest : public QObject
 {
     Q_OBJECT
@@ -18,7 +20,7 @@ private slots:
         QProcess process;
         process.start(testProcessPath(),
                       {QStringLiteral("--crash-dump"), file, QStringLiteral("--crash")});
-        QVERIFY(process.waitForFinished());
+        QVERIFY(process.waitForFinished(kLongestDump));
         // The process ends by the exception as if there were no handler.
         QCOMPARE(process.exitStatus(), QProcess::CrashExit);
         QVERIFY(isMiniDump(file));
@@ -33,7 +35,7 @@ private slots:
                       {QStringLiteral("--write-dump"), QStringLiteral("--crash-dump"), file,
                        QStringLiteral("--write-dump"), QStringLiteral("--exit"),
                        QStringLiteral("3")});
-        QVERIFY(process.waitForFinished());
+        QVERIFY(process.waitForFinished(kLongestDump));
         QCOMPARE(nextLine(process), QByteArray("refused"));
         QCOMPARE(nextLine(process), QByteArray("written"));
         QCOMPARE(process.exitCode(), 3);
@@ -46,7 +48,7 @@ private slots:
         process.start(testProcessPath(),
                       {QStringLiteral("--crash-dump"),
                        m_folder.filePath(QStringLiteral("no/x.dmp")), QStringLiteral("--crash")});
-        QVERIFY(process.waitForFinished());
+        QVERIFY(process.waitForFinished(kLongestDump));
         QCOMPARE(process.exitStatus(), QProcess::CrashExit);
     }
 

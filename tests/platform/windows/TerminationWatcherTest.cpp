@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/TerminationWatcher.h"
 
+#include "helpers/ProcessControl.h"
+
 #include <QtTest>
 
 #include <windows.h>
@@ -11,12 +13,7 @@ class TerminationWatcherTest : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase()
-    {
-        // Requests come from a console, which should not be that of whoever started the test.
-        FreeConsole();
-        QVERIFY(AllocConsole());
-    }
+    void initTestCase() { ProcessControl::allowInterrupts(); }
 
     void requestsReachTheEventLoop()
     {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/images/ImageLoader.h"
 
+#include "platform/ImageFormats.h"
 #include "project/images/Pictures.h"
 
 #include <QRandomGenerator>
@@ -15,6 +16,7 @@ class ImageCheckTest : public QObject
 {
     Q_OBJECT
 private slots:
+    void initTestCase() { installImageFormats(); }
     void unusableFilesAreNamed_data();
     void unusableFilesAreNamed();
     void unreadableFileCannotBeOpened();
@@ -40,7 +42,7 @@ QByteArray encoded(const char *suffix, const QSize &size)
 {
     QTemporaryDir dir;
     const QString file = dir.filePath(QLatin1String("picture.") + QLatin1String(suffix));
-    Pictures::quadrants(size).save(file);
+    Pictures::save(Pictures::quadrants(size), file);
     return Pictures::bytesOf(file);
 }
 
