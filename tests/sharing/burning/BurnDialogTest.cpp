@@ -10,7 +10,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QProcess>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -100,7 +99,6 @@ private slots:
     void failingStep();
     void cancelAsksFirst();
     void closingTheControllerEndsTheBurn();
-    void burnsToAnImage();
 
 private:
     void open(const QString &title = QString(), int drives = 2);
@@ -388,32 +386,6 @@ void BurnDialogTest::closingTheControllerEndsTheBurn()
     m_dialog.reset();
     m_controller.reset(); // Returns, so the write has ended.
     QCOMPARE(m_state->noted().last(), QStringLiteral("write"));
-}
-
-void BurnDialogTest::burnsToAnImage()
-{
-    const QString image = m_folder.filePath(QStringLiteral("disc.img"));
-    qputenv("VELMORA_DISC_IMAGES", QFile::encodeName(image));
-    m_controller = std::make_unique<BurnController>(createDiscWriter());
-    qunsetenv("VELMORA_DISC_IMAGES");
-    m_dialog = std::make_unique<BurnDialog>(*m_controller, m_video, QStringLiteral("Summer"));
-    m_dialog->show();
-    auto *devices = find<QComboBox>("cbDevices");
-    QTRY_VERIFY_WITH_TIMEOUT(devices->count() > 0, 20000);
-    devices->setCurrentIndex(devices->count() - 1);
-    click("btnBurn");
-    QTRY_COMPARE_WITH_TIMEOUT(page(), QStringLiteral("pgResult"), 20000);
-    QCOMPARE(find<QLabel>("lbResult")->text(), QStringLiteral("Succeeded"));
-    QProcess xorriso;
-    const QString copy = m_folder.filePath(QStringLiteral("copy"));
-    xorriso.start(QStringLiteral("xorriso"),
-                  {QStringLiteral("-osirrox"), QStringLiteral("on"), QStringLiteral("-indev"),
-                   QStringLiteral("stdio:") + image, QStringLiteral("-extract"),
-                   QStringLiteral("/Summer.mp4"), copy});
-    QVERIFY(xorriso.waitForFinished());
-    QFile written(copy);
-    QVERIFY(written.open(QIODevice::ReadOnly));
-    QCOMPARE(written.readAll(), QByteArray(kVideoSize, 'v'));
 }
 
 QTEST_MAIN(BurnDialogTest)
