@@ -28,8 +28,9 @@ ComPtr<Sink> makeSink(ImapiFactory &factory, const char *events, const DiscProgr
 {
     ComPtr<Sink> sink;
     ComPtr<ITypeInfo> type = eventType(factory, __uuidof(Events), events);
+    // Not by Attach(), which in MinGW adds a reference.
     if (type)
-        sink.Attach(new Sink(std::move(type), progress));
+        *sink.GetAddressOf() = new Sink(std::move(type), progress);
     return sink;
 }
 

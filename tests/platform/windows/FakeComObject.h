@@ -31,6 +31,9 @@ struct ComRecord {
 /// have no function are noted as "NAME slot NUMBER".
 class FakeComObject
 {
+    using Entry = void (*)();
+    const Entry *m_address = m_table.data(); ///< First, where callers look for the table.
+
 public:
     FakeComObject(ComRecord &record, const QString &name, REFIID interfaceId);
     FakeComObject(const FakeComObject &) = delete;
@@ -56,7 +59,6 @@ public:
     std::function<void()> atEnd;
 
 private:
-    using Entry = void (*)();
     static constexpr size_t kSlots = 64;
 
     static HRESULT queryInterface(FakeComObject *self, const IID *id, void **object);
@@ -66,7 +68,6 @@ private:
     template <int... Slots> void fill(std::integer_sequence<int, Slots...>);
     ~FakeComObject();
 
-    const Entry *m_address = m_table.data(); ///< First, where callers look for the table.
     std::array<Entry, kSlots> m_table;
     ComRecord &m_record;
     const QString m_name;
