@@ -5,8 +5,9 @@
 
 passed=0
 failed=0
-# A command that the tests are run by.
+# A command that the tests are run by, and what to build for them instead of everything.
 test_wrapper=()
+build_targets=()
 
 # count NAME COMMAND...: one check that is not a test program.
 count() {
@@ -34,7 +35,7 @@ run_tests() {
         cat "build/$1.configure.log"
         return 1
     }
-    cmake --build --preset "$1"
+    cmake --build --preset "$1" "${build_targets[@]}"
     rm -f "$results"
     (
         cd "build/$1"
@@ -57,9 +58,17 @@ run_tests() {
     failed=$((failed + bad))
 }
 
-# run_windows_tests SDK REGEX: the same for Windows, with the tests under Wine. SDK is the archive
-# velmora-windows-sdk.tar.xz or a folder with its content.
+# run_windows_tests SDK REGEX [TEST...]: the same for Windows, with the tests under Wine. SDK is the
+# archive velmora-windows-sdk.tar.xz or a folder with its content; with names, only these tests and
+# the programs are built.
 run_windows_tests() {
+    local regex=$2 names=()
+    if [ $# -gt 2 ]; then
+        mapfile -t names < <(printf '%s\n' "${@:3}" | grep -E "$2")
+        [ "${#names[@]}" -gt 0 ] || return 0
+        regex="^($(IFS='|' && echo "${names[*]}"))\$"
+        build_targets=(--target velmora velmoratool transcoder "${names[@]}")
+    fi
     # shellcheck source=packaging/windows/dependencies.sh
     source packaging/windows/dependencies.sh
     install_packages "${wine_packages[@]}"
@@ -67,8 +76,9 @@ run_windows_tests() {
     export VELMORA_WINDOWS_SDK
     export WINEPREFIX=$PWD/build/windows/wine
     test_wrapper=("$PWD/packaging/windows/wine-session.sh")
-    run_tests windows "$2"
+    run_tests windows "$regex"
     test_wrapper=()
+    build_targets=()
 }
 
 # A build that fails ends the script here too, and then the last line must still be true.

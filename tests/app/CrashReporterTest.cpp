@@ -20,7 +20,7 @@ private slots:
         QProcess process;
         process.start(testProcessPath(),
                       {QStringLiteral("--crash-dump"), dump, QStringLiteral("--crash")});
-        QVERIFY(process.waitForFinished());
+        QVERIFY(process.waitForFinished(120'000)); // Wine is slow with dumps
         QVERIFY(QFile::exists(dump));
 
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Crash dump found")));

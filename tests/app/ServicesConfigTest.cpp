@@ -40,6 +40,8 @@ private slots:
         qputenv("VELMORA_METRICS_ADDRESS", "http://other");
         QCOMPARE(config.value(QStringLiteral("metrics/address")), QStringLiteral("http://other"));
         qputenv("VELMORA_YOUTUBE_CLIENT_ID", "");
+        if (!qEnvironmentVariableIsSet("VELMORA_YOUTUBE_CLIENT_ID"))
+            QSKIP("There are no empty environment variables here.");
         QVERIFY(!config.isConfigured(QStringLiteral("youtube/client_id")));
     }
 

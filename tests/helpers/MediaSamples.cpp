@@ -71,6 +71,24 @@ QString MediaSamples::encoder()
     return named.isEmpty() ? program(QStringLiteral("ffmpeg")) : named;
 }
 
+QStringList MediaSamples::vorbis()
+{
+    bool ok = false;
+    static const bool hasLibrary =
+        outputOf(encoder(),
+                 {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-encoders")}, &ok)
+            .contains("libvorbis");
+    const QString codec = QStringLiteral("-acodec");
+    if (hasLibrary)
+        return {codec, QStringLiteral("libvorbis")};
+    return {codec,
+            QStringLiteral("vorbis"),
+            QStringLiteral("-strict"),
+            QStringLiteral("-2"),
+            QStringLiteral("-ac"),
+            QStringLiteral("2")};
+}
+
 bool MediaSamples::encode(const QStringList &arguments)
 {
     bool ok = false;

@@ -23,6 +23,8 @@ struct Tone {
 
 /// The encoder program, from VELMORA_FFMPEG or the PATH.
 QString encoder();
+/// Options for Vorbis with the best encoder that it has; some know two channels only.
+QStringList vorbis();
 /// Runs the encoder quietly; false when it fails.
 bool encode(const QStringList &arguments);
 

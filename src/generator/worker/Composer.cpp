@@ -298,8 +298,7 @@ void Composer::onFinished(int exitCode, QProcess::ExitStatus exitStatus)
                       QFileInfo::exists(m_resultFile);
     if (!done) {
         const RenderError crashed{kGeneratorError, tr("The render program ended unexpectedly.")};
-        if (!normal)
-            sweepAfterWorker();
+        sweepAfterWorker(); // On Windows the end of a killed program is a normal one.
         fail(normal && m_reported.isSet() ? m_reported : crashed);
         return;
     }

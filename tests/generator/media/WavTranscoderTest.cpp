@@ -76,8 +76,7 @@ void WavTranscoderTest::decodesEveryFormat_data()
                        QStringLiteral("-id3v2_version"), QStringLiteral("0")};
     QTest::newRow("m4a") << QStringLiteral("a.m4a") << 48000 << 2 << QStringList();
     QTest::newRow("wma") << QStringLiteral("a.wma") << 44100 << 2 << QStringList();
-    QTest::newRow("ogg") << QStringLiteral("a.ogg") << 48000 << 1
-                         << QStringList{QStringLiteral("-acodec"), QStringLiteral("libvorbis")};
+    QTest::newRow("ogg") << QStringLiteral("a.ogg") << 48000 << 1 << MediaSamples::vorbis();
     QTest::newRow("flac, surround") << QStringLiteral("a.flac") << 48000 << 6 << QStringList();
     QTest::newRow("wav, 8 bit") << QStringLiteral("a.wav") << 8000 << 1
                                 << QStringList{QStringLiteral("-acodec"), QStringLiteral("pcm_u8")};
@@ -173,7 +172,8 @@ void WavTranscoderTest::refusesWhatHasNoSound()
 
     WavTranscoder transcoder;
     QVERIFY(!transcoder.transcode(source, target));
-    QVERIFY2(transcoder.errorText().contains(source), qPrintable(transcoder.errorText()));
+    QVERIFY2(transcoder.errorText().contains(QDir::toNativeSeparators(source)),
+             qPrintable(transcoder.errorText()));
     QCOMPARE(read(target), QByteArray("older"));
     QVERIFY(QDir(m_folder.path()).entryList({QStringLiteral("*.part")}).isEmpty());
 }
@@ -183,7 +183,8 @@ void WavTranscoderTest::leavesNothingWhenTheTargetCannotBeWritten()
     WavTranscoder transcoder;
     const QString target = file(QStringLiteral("missing/out.wav"));
     QVERIFY(!transcoder.transcode(file(QStringLiteral("tone.mp3")), target));
-    QVERIFY2(transcoder.errorText().contains(target), qPrintable(transcoder.errorText()));
+    QVERIFY2(transcoder.errorText().contains(QDir::toNativeSeparators(target)),
+             qPrintable(transcoder.errorText()));
 }
 
 QTEST_GUILESS_MAIN(WavTranscoderTest)

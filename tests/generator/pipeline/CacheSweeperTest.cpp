@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/CacheSweeper.h"
+#include "helpers/DeadLock.h"
 
 #include "generator/pipeline/RenderCache.h"
 
@@ -35,8 +36,7 @@ class CacheSweeperTest : public QObject
         const QString folder = path(name);
         QDir().mkpath(folder + QStringLiteral("/images"));
         write(folder + QStringLiteral("/images/img_i0_00001.jpg"), "x");
-        write(folder + QLatin1Char('/') + CacheSweeper::kLockFile,
-              "4194305\nvelmoratool\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+        write(folder + QLatin1Char('/') + CacheSweeper::kLockFile, deadLock());
         return folder;
     }
 
@@ -81,8 +81,7 @@ private slots:
     {
         QLockFile live(path(QStringLiteral("live.lock")));
         QVERIFY(live.tryLock(0));
-        write(path(QStringLiteral("dead.lock")),
-              "4194305\nvelmoratool\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+        write(path(QStringLiteral("dead.lock")), deadLock());
         CacheSweeper::sweepLocks(m_cache->path());
         QVERIFY(QFileInfo::exists(path(QStringLiteral("live.lock"))));
         QVERIFY(!QFileInfo::exists(path(QStringLiteral("dead.lock"))));

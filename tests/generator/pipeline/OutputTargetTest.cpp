@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/OutputTarget.h"
+#include "helpers/DeadLock.h"
 
 #include <QDir>
 #include <QFile>
@@ -174,9 +175,7 @@ private slots:
             QVERIFY(!prepare(target, QStringLiteral("a.mp4")).isSet());
             lockFile = QDir(locks()).entryInfoList(QDir::Files).constFirst().filePath();
         }
-        // No process can have this number.
-        write(lockFile, "4194305\nvelmoratool\n" + QSysInfo::machineHostName().toUtf8() + '\n' +
-                            QSysInfo::machineUniqueId() + '\n' + QSysInfo::bootUniqueId() + '\n');
+        write(lockFile, deadLock());
         OutputTarget target;
         const RenderError error = prepare(target, QStringLiteral("a.mp4"));
         QVERIFY2(!error.isSet(), qPrintable(error.text));

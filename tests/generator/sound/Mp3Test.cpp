@@ -26,9 +26,11 @@ private:
 
 void Mp3Test::init()
 {
-    qunsetenv("TMPDIR");
+    for (const char *name : {"TMPDIR", "TMP"}) // the second one on Windows
+        qunsetenv(name);
     m_folder = std::make_unique<QTemporaryDir>();
-    qputenv("TMPDIR", m_folder->path().toUtf8());
+    for (const char *name : {"TMPDIR", "TMP"})
+        qputenv(name, m_folder->path().toUtf8());
     QVERIFY(MediaSamples::makeTone(file(QStringLiteral("tone.mp3")), {700, 1, 32000, 1}));
 }
 

@@ -48,7 +48,7 @@ void SoundTrackTest::initTestCase()
                              const QStringList &options = {}) {
         return MediaSamples::makeTone(file(QLatin1String(name)), tone, options);
     };
-    const QStringList vorbis{QStringLiteral("-acodec"), QStringLiteral("libvorbis")};
+    const QStringList vorbis = MediaSamples::vorbis();
     QVERIFY(MediaSamples::makeToneWithCover(file(QStringLiteral("400.mp3")), {400, 2, 44100, 2}));
     QVERIFY(make("600.m4a", {600, 2, 48000, 1}));
     QVERIFY(make("900.wav", {900, 2, 22050, 1}));

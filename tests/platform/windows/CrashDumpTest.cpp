@@ -7,7 +7,7 @@
 
 using namespace velmora;
 
-constexpr int kLongestDump = 120000; // ms; Wine reads the symbols of all libraries first
+constexpr int kLongestDump = 120'000; // ms; Wine reads the symbols of all libraries first
 
 class CrashDumpTest : public QObject
 {

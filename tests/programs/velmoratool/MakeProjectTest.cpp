@@ -104,9 +104,12 @@ void MakeProjectTest::linksCountAsTheirTargets()
     QDir().mkpath(folder);
     const QString notes = m_fixture.file(QStringLiteral("notes.txt"), "text");
     const QString photo = m_fixture.photo(QStringLiteral("target.png"), 1);
-    QVERIFY(QFile::link(notes, folder + QStringLiteral("/a no photo.jpg")));
+    // Only files that are called so are links on Windows.
+    const bool windows = QSysInfo::productType() == QLatin1String("windows");
+    const QString suffix = windows ? QStringLiteral(".lnk") : QStringLiteral(".jpg");
+    QVERIFY(QFile::link(notes, folder + QStringLiteral("/a no photo") + suffix));
     QVERIFY(QFile::link(photo, folder + QStringLiteral("/b photo.lnk")));
-    QVERIFY(QFile::link(photo, folder + QStringLiteral("/c photo.png")));
+    QVERIFY(QFile::link(photo, folder + QStringLiteral("/c photo") + suffix));
     MakeOptions options;
     options.photos << folder;
     options.captionsFromNames = true;

@@ -107,7 +107,8 @@ void FinalWindowTest::missingFile()
     driver.press(QStringLiteral("CLOSE"));
     QTest::mouseClick(window.findChild<QPushButton *>(QStringLiteral("btnOpen")), Qt::LeftButton);
     QCOMPARE(driver.title(), QStringLiteral("Open file Error"));
-    QCOMPARE(driver.text(), QStringLiteral("File '%1' not found").arg(gone));
+    QCOMPARE(driver.text(),
+             QStringLiteral("File '%1' not found").arg(QDir::toNativeSeparators(gone)));
     QVERIFY(manager.shown.isEmpty());
     QVERIFY(window.isVisible());
 }

@@ -79,7 +79,7 @@ void PreviewSoundTest::initTestCase()
     QVERIFY(
         MediaSamples::makeTone(m_music.filePath(QStringLiteral("tone.wav")), {440, 2, 44100, 2}));
     QVERIFY(MediaSamples::makeTone(m_music.filePath(QStringLiteral("tone.ogg")), {880, 1, 48000, 2},
-                                   {QStringLiteral("-acodec"), QStringLiteral("libvorbis")}));
+                                   MediaSamples::vorbis()));
 }
 
 void PreviewSoundTest::init()
