@@ -5,18 +5,23 @@
 #   --asan           also run the tests under the address and undefined-behaviour sanitizers
 #   --tsan           also run the tests of the threaded parts under the thread sanitizer
 #   --fuzz SECONDS   also feed each parser with random input for that long
+#   --windows        also cross-build for Windows and run the tests under Wine, if the archive
+#                    velmora-windows-sdk.tar.xz is at hand: VELMORA_WINDOWS_SDK_ARCHIVE names it,
+#                    or it lies in ../shared/windows
 #   --only REGEX     run only the tests whose names match
 # The last line counts what passed and what failed; the exit code is 0 only if nothing failed.
 set -Eeuo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
-format=no asan=no tsan=no fuzz=0 only=.
+format=no asan=no tsan=no fuzz=0 windows=no only=.
+sdk=${VELMORA_WINDOWS_SDK_ARCHIVE:-../shared/windows/velmora-windows-sdk.tar.xz}
 usage() { sed -n 's/^#   //p' "$0"; }
 while [ $# -gt 0 ]; do
     case $1 in
     --format) format=yes ;;
     --asan) asan=yes ;;
     --tsan) tsan=yes ;;
+    --windows) windows=yes ;;
     --fuzz)
         fuzz=${2:-}
         shift
@@ -49,56 +54,12 @@ packages=("${build_packages[@]}" "${run_packages[@]}" "${test_packages[@]}")
 [ "$fuzz" = 0 ] || packages+=("${fuzz_packages[@]}")
 install_packages "${packages[@]}"
 
-passed=0
-failed=0
-
-# count NAME COMMAND...: one check that is not a test program.
-count() {
-    local name=$1
-    shift
-    if "$@"; then
-        passed=$((passed + 1))
-    else
-        failed=$((failed + 1))
-        echo "FAILED: $name"
-    fi
-}
+# shellcheck source=packaging/testing.sh
+source packaging/testing.sh
 
 check_format() {
     find src tests tools benchmarks -name '*.cpp' -print0 -o -name '*.h' -print0 |
         xargs -0 clang-format-14 --dry-run --Werror
-}
-
-# attribute NAME FILE: a number from the head of ctest's result file.
-attribute() {
-    sed -n "s/.*[[:space:]]$1=\"\([0-9]*\)\".*/\1/p" "$2" | head -n 1
-}
-
-# run_tests PRESET REGEX: builds a preset and adds its tests to the counts.
-run_tests() {
-    local results total bad idle status=0
-    results=$PWD/build/$1/results.xml
-    echo "== Tests, preset $1"
-    cmake --preset "$1" >"build/$1.configure.log" || {
-        cat "build/$1.configure.log"
-        return 1
-    }
-    cmake --build --preset "$1"
-    rm -f "$results"
-    (cd "build/$1" && ctest --output-on-failure -j2 -R "$2" --output-junit "$results") ||
-        status=$?
-    [ -f "$results" ] || return 1
-    total=$(attribute tests "$results")
-    bad=$(attribute failures "$results")
-    idle=$(($(attribute disabled "$results") + $(attribute skipped "$results")))
-    # A test that could not be started is no failure to ctest's file, but it is to its exit code.
-    if [ "$status" -ne 0 ] && [ "$bad" -eq 0 ]; then
-        bad=$((idle > 0 ? idle : 1))
-        total=$((total > bad ? total : bad))
-        idle=0
-    fi
-    passed=$((passed + total - bad - idle))
-    failed=$((failed + bad))
 }
 
 run_fuzzers() {
@@ -117,11 +78,6 @@ run_fuzzers() {
     done
 }
 
-# A build that fails ends the script here too, and then the last line must still be true.
-trap 'echo "$passed passed, $failed failed"' EXIT
-broken() { failed=$((failed + 1)); }
-trap broken ERR
-
 mkdir -p build
 [ "$format" = no ] || count "format" check_format
 run_tests ci "$only"
@@ -135,6 +91,13 @@ if [ "$tsan" = yes ]; then
     run_tests tsan "$only"
 fi
 [ "$fuzz" = 0 ] || run_fuzzers
+if [ "$windows" = yes ]; then
+    if [ -e "$sdk" ]; then
+        run_windows_tests "$sdk" "$only"
+    else
+        echo "The Windows SDK is not here, so the Windows build was left out."
+    fi
+fi
 if [ "$failed" -gt 0 ]; then
     exit 1
 fi

@@ -102,7 +102,8 @@ install_packages() {
         as_root=(sudo)
     fi
     echo "Installing ${missing[*]}"
-    as_root+=(env DEBIAN_FRONTEND=noninteractive apt-get -qq)
+    # Another program may be installing at this moment.
+    as_root+=(env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=600)
     # The package lists may be absent (fresh containers) or too old to install from.
     if ! apt-cache show "${missing[@]}" >/dev/null 2>&1 ||
         ! "${as_root[@]}" install -y --no-install-recommends "${missing[@]}" >/dev/null; then

@@ -11,7 +11,6 @@ cross_packages=(
 )
 
 wine_packages=(
-    ffmpeg
     wine64
     xauth
     xvfb

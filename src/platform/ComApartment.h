@@ -15,6 +15,9 @@ public:
     ~ComApartment();
     Q_DISABLE_COPY(ComApartment)
 
+    /// Whether COM can be used; the log has the reason if not.
+    bool isReady() const { return m_initialised; }
+
 private:
     bool m_initialised = false;
 };

@@ -32,10 +32,11 @@ public:
     /// the video under @p fileName in the root folder. A name that is taken is given a number.
     virtual bool createImage(const QString &video, const QString &fileName,
                              const QString &volumeName) = 0;
-    /// Writes the image; with @p finalize the disc takes no further session afterwards.
-    /// Returns early, with failure, once @p cancelled is set.
-    virtual bool write(bool finalize, const DiscProgress &progress,
-                       const std::atomic_bool &cancelled) = 0;
+    /// Settles how the image is written; with @p finalize the disc takes no further session
+    /// afterwards.
+    virtual bool finishImage(bool finalize) = 0;
+    /// Writes the image. Returns early, with failure, once @p cancelled is set.
+    virtual bool write(const DiscProgress &progress, const std::atomic_bool &cancelled) = 0;
 
 protected:
     DiscSession() = default;

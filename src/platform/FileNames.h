@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QString>
+
 namespace velmora
 {
 
@@ -11,6 +13,10 @@ namespace FileNames
 /// Lets names with letters beyond ASCII work where no language is set, as in scheduled tasks and
 /// containers. Call it first in main(), before the application object is made.
 void allowAllLetters();
+
+/// A text that is the same for two absolute paths exactly when the system takes them for the same
+/// file: on Windows the case of letters does not count. Links are not followed.
+QString identity(const QString &path);
 
 } // namespace FileNames
 

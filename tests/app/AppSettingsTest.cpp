@@ -6,6 +6,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QTest>
 
 using namespace velmora;
@@ -215,8 +216,11 @@ void AppSettingsTest::saveAndLoad()
 
 void AppSettingsTest::saveReportsFailure()
 {
-    const QString path = QStringLiteral("/proc/none/settings.ini");
-    QTest::ignoreMessage(QtWarningMsg, "Cannot write settings to '/proc/none/settings.ini'");
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    const QString path = file.fileName() + QStringLiteral("/settings.ini");
+    QTest::ignoreMessage(QtWarningMsg,
+                         qPrintable(QStringLiteral("Cannot write settings to '%1'").arg(path)));
     QVERIFY(!AppSettings().save(*openSettings(path)));
 }
 

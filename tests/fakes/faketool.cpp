@@ -1,19 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // An external program that does what its arguments say, one after another:
+//   -version               print what a file beside it says, named like it with ".version" behind
 //   out TEXT, err TEXT     print a line
 //   flood BYTES            fill standard error
 //   touch FILE             make a file, to tell that this point was reached
+//   pid FILE               write the process id to the file
 //   deaf                   ignore requests to end
 //   hang                   sleep until killed
-//   crash                  end by a signal
+//   crash                  end as the system ends a program that crashes
 //   exit CODE              end
+#include "helpers/Crash.h"
+
 #include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <iostream>
 #include <string>
 #include <thread>
+#include <unistd.h>
 #include <vector>
 
 namespace
@@ -43,6 +49,8 @@ bool runWithValue(const std::string &command, const std::string &value)
         flood(std::stol(value));
     else if (command == "touch")
         std::ofstream{value};
+    else if (command == "pid")
+        std::ofstream{value} << getpid();
     else if (command == "exit")
         std::exit(std::stoi(value));
     else
@@ -62,7 +70,9 @@ int main(int argc, char **argv)
         else if (commands[i] == "hang")
             hang();
         else if (commands[i] == "crash")
-            std::abort();
+            velmora::crash();
+        else if (commands[i] == "-version")
+            std::cout << std::ifstream(std::string(argv[0]) + ".version").rdbuf() << std::endl;
         else if (i + 1 < commands.size() && runWithValue(commands[i], commands[i + 1]))
             ++i;
     }

@@ -9,6 +9,7 @@
 //   deaf                  ignore requests to end
 //   hang, crash, exit CODE
 #include "app/Paths.h"
+#include "helpers/Crash.h"
 #include "platform/ProcessTree.h"
 #include "platform/SessionValues.h"
 
@@ -60,7 +61,7 @@ public:
         else if (command == QLatin1String("hang"))
             QThread::sleep(3600);
         else if (command == QLatin1String("crash"))
-            std::abort();
+            velmora::crash();
         else if (command == QLatin1String("exit"))
             std::exit(value.toInt());
     }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QProcess>
 #include <QTest>
 
@@ -23,17 +22,6 @@ inline QByteArray nextLine(QProcess &process, int timeoutMs = 20000)
             return {};
     }
     return process.readLine().trimmed();
-}
-
-/// Whether a process runs; one that ended and was not collected yet counts as ended.
-inline bool isAlive(qint64 pid)
-{
-    QFile file(QStringLiteral("/proc/%1/stat").arg(pid));
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray stat = file.readAll();
-    const int state = stat.lastIndexOf(')') + 2;
-    return stat.size() > state && stat.at(state) != 'Z' && stat.at(state) != 'X';
 }
 
 } // namespace velmora

@@ -3,7 +3,6 @@
 #include "helpers/TestProcess.h"
 #include "platform/SessionId.h"
 
-#include <QDir>
 #include <QTemporaryDir>
 
 using namespace velmora;
@@ -18,8 +17,6 @@ private slots:
     void readerMissesNoChange();
     void keepsBothValues();
     void clearRemovesAll();
-    void survivesForeignContent_data();
-    void survivesForeignContent();
     void idBecomesName_data();
     void idBecomesName();
 
@@ -85,39 +82,6 @@ void SessionValuesTest::clearRemovesAll()
     values->clear();
     QVERIFY(!values->isPaused());
     QVERIFY(!values->isCanceled());
-    const QStringList left = QDir(m_folder.filePath(QStringLiteral("sessions")))
-                                 .entryList({QStringLiteral("gone*")}, QDir::Files);
-    QCOMPARE(left, QStringList());
-}
-
-void SessionValuesTest::survivesForeignContent_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("paused");
-    QTest::newRow("empty") << QByteArray() << false;
-    QTest::newRow("binary") << QByteArray("\0\xff\xfe=1\n=\n==", 9) << false;
-    QTest::newRow("no value") << QByteArray("is_paused=\n") << false;
-    QTest::newRow("word") << QByteArray("is_paused=yes\n") << false;
-    QTest::newRow("other key") << QByteArray("is_paused_too=1\n") << false;
-    QTest::newRow("carriage returns") << QByteArray("[General]\r\nis_paused=1\r\n") << true;
-    QTest::newRow("huge") << QByteArray(1 << 20, 'x') << false;
-}
-
-void SessionValuesTest::survivesForeignContent()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(bool, paused);
-    QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("sessions")));
-    QFile file(m_folder.filePath(QStringLiteral("sessions/foreign.ini")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-    file.close();
-    const auto values = createSessionValues(QStringLiteral("foreign"), m_folder.path());
-    QCOMPARE(values->isPaused(), paused);
-    QVERIFY(!values->isCanceled());
-    values->setCanceled(true);
-    QVERIFY(values->isCanceled());
-    QCOMPARE(values->isPaused(), paused);
 }
 
 void SessionValuesTest::idBecomesName_data()

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/SingleInstance.h"
+#include "helpers/ProcessControl.h"
 #include "helpers/TestProcess.h"
 #include "platform/LocalServerName.h"
 
 #include <QLocalSocket>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-
-#include <csignal>
 
 using namespace velmora;
 
@@ -84,7 +83,7 @@ void SingleInstanceTest::silentOwnerTimesOut()
     QProcess owner;
     owner.start(testProcessPath(), {QStringLiteral("--hold-instance"), folder.path()});
     QCOMPARE(nextLine(owner), QByteArray("first"));
-    ::kill(static_cast<pid_t>(owner.processId()), SIGSTOP);
+    QVERIFY(ProcessControl::freeze(owner.processId()));
     SingleInstance second(folder.path());
     QVERIFY(second.isRunning());
     QVERIFY(!second.sendMessage(QStringLiteral("Wake up!"), 200));

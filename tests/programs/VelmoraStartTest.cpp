@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helpers/HttpServer.h"
+#include "helpers/ProcessControl.h"
 #include "helpers/TestProcess.h"
 
 #include <QDir>
 #include <QImage>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
-#include <csignal>
 #include <memory>
 
 using namespace velmora;
@@ -110,9 +111,12 @@ void VelmoraStartTest::firstStart()
     const auto program = start({QStringLiteral("--inst")});
     QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 90000);
     QVERIFY(QDir(m_data->filePath(QStringLiteral("cache/data"))).exists());
-    for (const char *text : {": Log file /", ": Log file tool /", ": Screen count ", ": Screen 0 ",
-                             ": Run from insaller:1\n", ": is frun:1\n",
-                             ": Load translation: velmora_", ": Crash installer setup time:"})
+    const QByteArray folder = m_data->path().toUtf8();
+    for (const QByteArray &text :
+         {": Log file " + folder, ": Log file tool " + folder, QByteArray(": Screen count "),
+          QByteArray(": Screen 0 "), QByteArray(": Run from insaller:1\n"),
+          QByteArray(": is frun:1\n"), QByteArray(": Load translation: velmora_"),
+          QByteArray(": Crash installer setup time:")})
         QVERIFY2(logged(text), text);
 
     QTRY_COMPARE(server.requests.size(), 1);
@@ -186,17 +190,18 @@ void VelmoraStartTest::crashIsToldAtTheNextStart()
 {
     const auto first = start();
     QTRY_VERIFY(logged(kReady));
-    ::kill(static_cast<pid_t>(first->processId()), SIGSEGV);
+    QVERIFY(ProcessControl::crash(first->processId()));
     QVERIFY(first->waitForFinished());
     QCOMPARE(first->exitStatus(), QProcess::CrashExit);
-    QCOMPARE(first->exitCode(), SIGSEGV);
     const QString dump = m_data->filePath(QStringLiteral("velmora.dmp"));
     QVERIFY(QFile::exists(dump));
 
     const auto second = start();
     QTRY_VERIFY(logged(": Crash dump found: '" + dump.toUtf8() + "'"));
-    QTRY_VERIFY(logged(": Signal 11\n"));
-    QVERIFY(log().contains("/velmora+0x"));
+    const QRegularExpression where(
+        QStringLiteral(": (Signal 11\\n.*/velmora\\+0x|Mini dump of \\d+ bytes\\n)"),
+        QRegularExpression::DotMatchesEverythingOption);
+    QTRY_VERIFY(where.match(QString::fromUtf8(log())).hasMatch());
     end(*second);
 }
 
@@ -204,7 +209,7 @@ void VelmoraStartTest::startsAlthoughFirstIsSilent()
 {
     const auto first = start();
     QTRY_VERIFY(logged(kReady));
-    ::kill(static_cast<pid_t>(first->processId()), SIGSTOP);
+    QVERIFY(ProcessControl::freeze(first->processId()));
     const auto second = start();
     QTRY_VERIFY_WITH_TIMEOUT(loggedBy(*second, ": main window"), 90000);
     end(*second);

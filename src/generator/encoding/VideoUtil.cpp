@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStorageInfo>
 
 namespace velmora
 {
@@ -31,6 +32,13 @@ QString temporaryName(const QString &outputFile)
 OutputFormat formatOf(const EncodingContext &context)
 {
     return {context.size, context.extension, context.profile};
+}
+
+/// Whether a rename moves the file without copying it.
+bool onOneVolume(const QString &file, const QString &target)
+{
+    return QStorageInfo(QFileInfo(file).path()).device() ==
+           QStorageInfo(QFileInfo(target).path()).device();
 }
 
 QString diskFull()
@@ -148,6 +156,14 @@ bool VideoUtil::multiplex(const QString &videoFile, const QString &soundFile, qi
 
 bool VideoUtil::finishWithoutSound(const QString &videoFile, const QString &outputFile)
 {
+    const bool isFinal =
+        EncoderOptions::containerOptions(m_context.extension, m_context.profile).isEmpty();
+    if (isFinal && onOneVolume(videoFile, outputFile)) {
+        qCInfo(generatorLog).noquote() << "rename from:" << videoFile << " to:" << outputFile;
+        QFile::remove(outputFile);
+        if (QFile::rename(videoFile, outputFile))
+            return true;
+    }
     return executeUtility(EncoderCommands::pictureOnly(videoFile, formatOf(m_context)), outputFile,
                           true);
 }

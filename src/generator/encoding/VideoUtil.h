@@ -68,7 +68,8 @@ public:
     /// Copies the picture and encodes the sound, both to end with the picture at @p length ms.
     bool multiplex(const QString &videoFile, const QString &soundFile, qint64 length,
                    const QString &outputFile);
-    /// Copies the picture alone, with the container options of the output.
+    /// Makes the picture alone the output: moves it where that is enough, else copies it with the
+    /// container options of the output.
     bool finishWithoutSound(const QString &videoFile, const QString &outputFile);
 
     // Sound, see generator/sound.

@@ -5,6 +5,7 @@
 #include "generator/pipeline/FramePainter.h"
 #include "generator/pipeline/SlideFrames.h"
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -33,11 +34,19 @@ FrameProducer::FrameProducer(const RenderPlan &plan, SlideFrames &frames, Encodi
 FrameProducer::~FrameProducer()
 {
     wait();
+    // The encoding threads left under the lock. Taking it shows the thread sanitizer, which does
+    // not see Qt's thread pool wait for them, that they are done.
+    const std::lock_guard<std::mutex> locker(m_mutex);
 }
 
 bool FrameProducer::waitForStage(int order, int stage)
 {
     const int work = workOf(order, stage);
+    {
+        const std::lock_guard<std::mutex> locker(m_mutex);
+        m_wanted = std::max(m_wanted, work);
+        m_changed.notify_all();
+    }
     return paintWhile([this, work] { return m_works.at(work).painted < m_works.at(work).pictures; },
                       work);
 }
@@ -45,9 +54,7 @@ bool FrameProducer::waitForStage(int order, int stage)
 void FrameProducer::stageEncoded(int order, int stage)
 {
     const std::lock_guard<std::mutex> locker(m_mutex);
-    const int work = workOf(order, stage);
-    m_ahead -= m_works.at(work).pictures;
-    m_encoding = work + 1;
+    m_ahead -= m_works.at(workOf(order, stage)).pictures;
     m_changed.notify_all();
 }
 
@@ -100,7 +107,7 @@ bool FrameProducer::take(int lastWork, Picture *picture)
 
 bool FrameProducer::mayBegin(int work) const
 {
-    return m_works.at(work).given > 0 || work <= m_encoding + 1 ||
+    return m_works.at(work).given > 0 || work <= m_wanted + 1 ||
            m_ahead + m_works.at(work).pictures <= kPicturesAhead;
 }
 

@@ -19,9 +19,9 @@ namespace velmora
 class FramePainter;
 class SlideFrames;
 
-/// Paints the frames of all stages ahead of one encoding thread, which takes the stages in order.
-/// It stays at most one stage, or kPicturesAhead pictures, ahead, so that the cache stays small.
-/// Ends early when the context is cancelled.
+/// Paints the frames of all stages in order, ahead of the encoding threads. It stays at most one
+/// stage, or kPicturesAhead pictures, ahead of the last stage that one of them asked for, so that
+/// the cache stays small. Ends early when the context is cancelled.
 class FrameProducer : public QThread
 {
 public:
@@ -79,7 +79,7 @@ private:
     QVector<int> m_firstWork; ///< Of each slide.
     QVector<int> m_unpainted; ///< Pictures left of each slide.
     int m_next = 0;           ///< The work whose pictures are being given out.
-    int m_encoding = 0;       ///< The work that is encoded next, or now.
+    int m_wanted = 0;         ///< The last work that was asked for.
     int m_ahead = 0;          ///< Pictures given out and not yet encoded.
 };
 

@@ -114,28 +114,28 @@ void GeneratorThread::startSound()
 
 bool GeneratorThread::encodeSlides()
 {
-    if (m_settings.parallel)
-        encodeInPool();
-    else
-        encodeInOrder();
-    return !m_context.cancelled;
-}
-
-void GeneratorThread::encodeInOrder()
-{
     FrameProducer producer(m_plan, *m_frames, m_context, m_paused,
                            {[this] { reportProgress(1); },
                             [this](int order) { reportSlidePainted(order); },
                             [this](const RenderError &error) { fail(error); }});
     producer.start();
-    for (int order = 0; order < m_plan.slides().size() && !m_context.cancelled; ++order)
-        VideoConverterTask(*this, order, &producer).run();
+    if (m_settings.parallel)
+        encodeInPool(producer);
+    else
+        encodeInOrder(producer);
+    return !m_context.cancelled;
 }
 
-void GeneratorThread::encodeInPool()
+void GeneratorThread::encodeInOrder(FrameProducer &producer)
+{
+    for (int order = 0; order < m_plan.slides().size() && !m_context.cancelled; ++order)
+        VideoConverterTask(*this, order, producer).run();
+}
+
+void GeneratorThread::encodeInPool(FrameProducer &producer)
 {
     for (int order = 0; order < m_plan.slides().size(); ++order)
-        m_pool.start(new VideoConverterTask(*this, order, nullptr), 0);
+        m_pool.start(new VideoConverterTask(*this, order, producer), 0);
     while (!m_pool.waitForDone(static_cast<int>(kPollInterval))) {
         if (m_context.cancelled)
             m_pool.clear();

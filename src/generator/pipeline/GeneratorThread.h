@@ -87,8 +87,8 @@ private:
     bool prepareCache();
     void startSound();
     bool encodeSlides();
-    void encodeInOrder();
-    void encodeInPool();
+    void encodeInOrder(FrameProducer &producer);
+    void encodeInPool(FrameProducer &producer);
     bool joinSlides();
     bool waitForSound();
     bool multiplex();

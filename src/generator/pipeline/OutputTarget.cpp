@@ -3,6 +3,7 @@
 
 #include "app/Paths.h"
 #include "generator/GeneratorLog.h"
+#include "platform/FileNames.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -185,7 +186,8 @@ RenderError OutputTarget::lock(const QString &lockFolder)
     const QString canonical = QFileInfo(m_folder).canonicalFilePath() + QLatin1Char('/') +
                               QFileInfo(m_fileName).fileName();
     const QByteArray hash =
-        QCryptographicHash::hash(canonical.toUtf8(), QCryptographicHash::Sha1).toHex();
+        QCryptographicHash::hash(FileNames::identity(canonical).toUtf8(), QCryptographicHash::Sha1)
+            .toHex();
     Paths::ensureFolder(lockFolder);
     m_lock = std::make_unique<QLockFile>(
         QStringLiteral("%1/%2.lock").arg(lockFolder, QString::fromLatin1(hash)));

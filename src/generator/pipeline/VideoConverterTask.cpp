@@ -2,9 +2,7 @@
 #include "generator/pipeline/VideoConverterTask.h"
 
 #include "generator/GeneratorLog.h"
-#include "generator/pipeline/FramePainter.h"
 #include "generator/pipeline/FrameProducer.h"
-#include "generator/pipeline/SlideFrames.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -13,7 +11,7 @@ namespace velmora
 {
 
 GeneratorThread::VideoConverterTask::VideoConverterTask(GeneratorThread &generator, int order,
-                                                        FrameProducer *producer)
+                                                        FrameProducer &producer)
     : m_generator(generator), m_order(order), m_slide(generator.m_plan.slides().at(order)),
       m_producer(producer)
 {
@@ -28,7 +26,7 @@ void GeneratorThread::VideoConverterTask::run()
     elapsed.start();
     logType();
     VideoUtil util(m_generator.m_context);
-    if ((m_producer || paintFrames()) && encodeStages(util) && joinStages(util))
+    if (encodeStages(util) && joinStages(util))
         qCInfo(generatorLog).noquote()
             << QStringLiteral("[OPERATION TIME:'%1']").arg(elapsed.elapsed());
 }
@@ -41,35 +39,12 @@ void GeneratorThread::VideoConverterTask::logType() const
         << ", src type: " << m_slide.sourceType;
 }
 
-bool GeneratorThread::VideoConverterTask::paintFrames()
-{
-    FramePainter painter(m_generator.m_plan, *m_generator.m_frames, m_generator.m_context);
-    for (int stage = 0; stage < m_slide.stages.size(); ++stage) {
-        qCInfo(generatorLog).noquote() << m_slide.stages.at(stage).paintText();
-        for (int number = 1; number <= m_slide.stages.at(stage).pictures; ++number) {
-            if (m_generator.m_context.cancelled)
-                return false;
-            if (!painter.paint(m_order, stage, number)) {
-                m_generator.fail(painter.error());
-                return false;
-            }
-            m_generator.reportProgress(1);
-        }
-    }
-    m_generator.m_frames->paintingDone(m_order);
-    m_generator.reportSlidePainted(m_order);
-    return true;
-}
-
 bool GeneratorThread::VideoConverterTask::encodeStages(VideoUtil &util)
 {
     for (int stage = 0; stage < m_slide.stages.size(); ++stage) {
-        if (m_producer && !m_producer->waitForStage(m_order, stage))
+        if (!m_producer.waitForStage(m_order, stage) || !encodeStage(stage, util))
             return false;
-        if (!encodeStage(stage, util))
-            return false;
-        if (m_producer)
-            m_producer->stageEncoded(m_order, stage);
+        m_producer.stageEncoded(m_order, stage);
     }
     return true;
 }

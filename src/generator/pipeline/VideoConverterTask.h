@@ -8,20 +8,18 @@
 namespace velmora
 {
 
-/// Makes the segment of one slide, "vid_cN": frames, a segment of each stage, their join. Runs on
-/// the generator's pool, or on the generator thread itself. Failures go to the generator.
+/// Makes the segment of one slide, "vid_cN": a segment of each stage, and their join. Runs on the
+/// generator's pool, or on the generator thread itself. Failures go to the generator.
 class GeneratorThread::VideoConverterTask : public QRunnable
 {
 public:
-    /// @p order is the slide's place in the plan. Frames come from @p producer where there is one,
-    /// otherwise the task paints them itself.
-    VideoConverterTask(GeneratorThread &generator, int order, FrameProducer *producer);
+    /// @p order is the slide's place in the plan; its frames come from @p producer.
+    VideoConverterTask(GeneratorThread &generator, int order, FrameProducer &producer);
 
     void run() override;
 
 private:
     void logType() const;
-    bool paintFrames();
     bool encodeStages(VideoUtil &util);
     bool encodeStage(int stage, VideoUtil &util);
     bool joinStages(VideoUtil &util);
@@ -30,7 +28,7 @@ private:
     GeneratorThread &m_generator;
     const int m_order;
     const PlannedSlide &m_slide;
-    FrameProducer *const m_producer;
+    FrameProducer &m_producer;
 };
 
 } // namespace velmora

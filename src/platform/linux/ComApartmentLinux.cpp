@@ -6,9 +6,6 @@ namespace velmora
 
 ComApartment::ComApartment() = default;
 
-ComApartment::~ComApartment()
-{
-    Q_UNUSED(m_initialised)
-}
+ComApartment::~ComApartment() = default;
 
 } // namespace velmora

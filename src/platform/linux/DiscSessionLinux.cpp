@@ -161,17 +161,21 @@ bool DiscSessionLinux::createImage(const QString &video, const QString &fileName
     return made;
 }
 
-bool DiscSessionLinux::write(bool finalize, const DiscProgress &progress,
-                             const std::atomic_bool &cancelled)
+bool DiscSessionLinux::finishImage(bool finalize)
 {
+    m_finalize = finalize;
     if (!m_image || !m_image->finish(finalize))
         return false;
-    if (m_image->size() > m_content.media.freeBytes)
-        return fail("CreateResultImage", QStringLiteral("%1 bytes do not fit into %2")
-                                             .arg(m_image->size())
-                                             .arg(m_content.media.freeBytes));
+    return m_image->size() <= m_content.media.freeBytes ||
+           fail("CreateResultImage", QStringLiteral("%1 bytes do not fit into %2")
+                                         .arg(m_image->size())
+                                         .arg(m_content.media.freeBytes));
+}
+
+bool DiscSessionLinux::write(const DiscProgress &progress, const std::atomic_bool &cancelled)
+{
     const PipeSignalBlock block;
-    if (!writeSession(finalize, progress, cancelled) || !writeHead()) {
+    if (!writeSession(progress, cancelled) || !writeHead()) {
         qCWarning(lcPlatform).noquote()
             << QStringLiteral("Write failed, result: '%1'")
                    .arg(cancelled ? QStringLiteral("cancelled") : m_content.status);
@@ -184,11 +188,10 @@ bool DiscSessionLinux::write(bool finalize, const DiscProgress &progress,
     return true;
 }
 
-bool DiscSessionLinux::writeSession(bool finalize, const DiscProgress &progress,
-                                    const std::atomic_bool &cancelled)
+bool DiscSessionLinux::writeSession(const DiscProgress &progress, const std::atomic_bool &cancelled)
 {
     BurnPlan plan(*m_drive, m_image->source());
-    if (!plan.prepare(finalize, m_content))
+    if (!plan.prepare(m_finalize, m_content))
         return fail("put_ForceMediaToBeClosed", plan.reason());
     burn_disc_write(plan.options(), plan.disc());
     return waitForWrite(progress, cancelled);

@@ -34,22 +34,22 @@ public:
     bool checkMedia() override;
     bool createImage(const QString &video, const QString &fileName,
                      const QString &volumeName) override;
-    bool write(bool finalize, const DiscProgress &progress,
-               const std::atomic_bool &cancelled) override;
+    bool finishImage(bool finalize) override;
+    bool write(const DiscProgress &progress, const std::atomic_bool &cancelled) override;
 
 private:
     bool eraseHeads();
     bool isBusy(burn::burn_progress *state) const;
     bool waitForErase(const DiscProgress &progress);
     bool waitForWrite(const DiscProgress &progress, const std::atomic_bool &cancelled);
-    bool writeSession(bool finalize, const DiscProgress &progress,
-                      const std::atomic_bool &cancelled);
+    bool writeSession(const DiscProgress &progress, const std::atomic_bool &cancelled);
     bool writeHead();
 
     BurnLibrary m_library;
     std::unique_ptr<BurnDrive> m_drive;
     DiscContent m_content;
     std::unique_ptr<DiscImage> m_image;
+    bool m_finalize = false;
     QFileInfo m_video;
     qint64 m_videoSize = 0;
     QDateTime m_videoTime;

@@ -18,4 +18,9 @@ void FileNames::allowAllLetters()
         qputenv("LC_ALL", QByteArrayLiteral("C.UTF-8"));
 }
 
+QString FileNames::identity(const QString &path)
+{
+    return path;
+}
+
 } // namespace velmora

@@ -9,4 +9,9 @@ void FileNames::allowAllLetters()
     // The system's names are Unicode whatever the language.
 }
 
+QString FileNames::identity(const QString &path)
+{
+    return path.toUpper();
+}
+
 } // namespace velmora

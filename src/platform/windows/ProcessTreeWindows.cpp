@@ -4,8 +4,13 @@
 #include "platform/PlatformLog.h"
 
 #include <QProcess>
+#include <QVector>
+
+#include <limits>
 
 #include <windows.h>
+
+#include <tlhelp32.h>
 
 namespace velmora
 {
@@ -41,6 +46,52 @@ void assignToJob(qint64 pid)
         CloseHandle(child);
 }
 
+struct RunningProcess {
+    DWORD id;
+    DWORD parent;
+};
+
+QVector<RunningProcess> runningProcesses()
+{
+    QVector<RunningProcess> found;
+    const HANDLE all = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
+    PROCESSENTRY32W entry = {};
+    entry.dwSize = sizeof(entry);
+    for (BOOL more = Process32FirstW(all, &entry); more; more = Process32NextW(all, &entry))
+        found.append({entry.th32ProcessID, entry.th32ParentProcessID});
+    CloseHandle(all);
+    return found;
+}
+
+/// When the process began; the largest number for one that is not accessible.
+quint64 startOf(HANDLE process)
+{
+    FILETIME start;
+    FILETIME unused;
+    if (!GetProcessTimes(process, &start, &unused, &unused, &unused))
+        return std::numeric_limits<quint64>::max();
+    return quint64(start.dwHighDateTime) << 32 | start.dwLowDateTime;
+}
+
+// Parents first, so that none can start another child. A process older than its parent belongs to
+// an earlier one of that number.
+void endTree(const QVector<RunningProcess> &all, DWORD id, quint64 notBefore)
+{
+    const HANDLE process =
+        OpenProcess(PROCESS_TERMINATE | PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id);
+    if (!process)
+        return;
+    const quint64 start = startOf(process);
+    if (start >= notBefore) {
+        TerminateProcess(process, 1);
+        for (const RunningProcess &other : all) {
+            if (other.parent == id && other.id != id)
+                endTree(all, other.id, start);
+        }
+    }
+    CloseHandle(process);
+}
+
 } // namespace
 
 std::unique_ptr<QProcess> ProcessTree::createProcess(Group group)
@@ -66,10 +117,12 @@ void ProcessTree::kill(qint64 pid)
                                    QStringLiteral("/PID"), QString::number(pid)};
     QProcess taskkill;
     taskkill.start(QStringLiteral("taskkill.exe"), arguments);
-    if (!taskkill.waitForFinished())
-        qCWarning(lcPlatform).noquote() << QStringLiteral("Cannot end process tree %1: %2")
-                                               .arg(pid)
-                                               .arg(taskkill.errorString());
+    if (taskkill.waitForFinished() && taskkill.exitCode() == 0)
+        return;
+    // Not every edition of Windows has the program, and not every one of those knows trees.
+    qCInfo(lcPlatform).noquote() << QStringLiteral("No taskkill.exe for process tree %1: %2")
+                                        .arg(QString::number(pid), taskkill.errorString());
+    endTree(runningProcesses(), static_cast<DWORD>(pid), 0);
 }
 
 } // namespace velmora

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/TaskbarProgress.h"
 
-#include "platform/PlatformLog.h"
 #include "platform/null/NullTaskbarProgress.h"
+#include "platform/windows/ComResult.h"
 
 #include <QPointer>
 #include <QWindow>
@@ -89,9 +89,7 @@ std::unique_ptr<TaskbarProgress> createTaskbarProgress()
             return std::make_unique<TaskbarButton>(list);
         list->Release();
     }
-    qCWarning(lcPlatform).noquote() << QStringLiteral("'%1' failed, result: '%2'")
-                                           .arg(QStringLiteral("ITaskbarList3"))
-                                           .arg(static_cast<quint32>(result), 0, 16);
+    stepSucceeded(result, "ITaskbarList3");
     return std::make_unique<NullTaskbarProgress>();
 }
 

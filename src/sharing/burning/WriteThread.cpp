@@ -22,8 +22,6 @@ void WriteThread::run()
 {
     qCInfo(lcSharing) << "Burn begin thread";
     m_succeeded = burn();
-    if (m_succeeded)
-        qCInfo(lcSharing) << "Burn writing finished";
 }
 
 DiscProgress WriteThread::reporter(const QString &logText)
@@ -51,11 +49,14 @@ bool WriteThread::burn()
     if (m_cancelled || !session->checkMedia())
         return false;
     qCInfo(lcSharing) << "Burn creating FS";
-    if (!session->createImage(m_job.video, m_job.fileName, m_job.volumeName))
+    if (!session->createImage(m_job.video, m_job.fileName, m_job.volumeName) ||
+        !session->finishImage(m_job.finalize))
         return false;
     qCInfo(lcSharing) << "Burn writing";
-    return session->write(m_job.finalize,
-                          reporter(QStringLiteral("Burn write progress %1 from %2")), m_cancelled);
+    if (!session->write(reporter(QStringLiteral("Burn write progress %1 from %2")), m_cancelled))
+        return false;
+    qCInfo(lcSharing) << "Burn writing finished";
+    return true;
 }
 
 } // namespace velmora

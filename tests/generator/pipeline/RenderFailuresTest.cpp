@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/RenderJob.h"
+#include "helpers/ProcessControl.h"
 #include "helpers/RenderFixture.h"
 #include "services/MetricSender.h"
 
@@ -23,26 +24,25 @@ class RenderFailuresTest : public QObject
         RenderRequest made =
             m_fixture.request(m_photos, m_fixture.output(QStringLiteral("video.mp4")));
         made.parallel = parallel;
+        // This profile has the joined picture copied into the output, by one more run.
+        made.profile = OutputProfile::PlaysEverywhere;
         return made;
     }
 
-    /// A program that is FFmpeg, except that its run number @p call does @p action instead.
-    /// Questions for the version do not count.
+    /// In place of FFmpeg, a program that does @p action in its run number @p call; see
+    /// tests/fakes/fakeencoder.cpp.
     void fakeEncoder(int call, const QString &action) const
     {
         const QString ffmpeg = QStandardPaths::findExecutable(QStringLiteral("ffmpeg"));
         QVERIFY(!ffmpeg.isEmpty());
         const QString counter = m_fixture.path(QStringLiteral("calls"));
         QFile::remove(counter);
-        const QString script = QStringLiteral("#!/bin/sh\n"
-                                              "[ \"$1\" = -version ] && exec '%1' \"$@\"\n"
-                                              "echo x >> '%2'\n"
-                                              "[ $(wc -l < '%2') -eq %3 ] && { %4; }\n"
-                                              "exec '%1' \"$@\"\n")
-                                   .arg(ffmpeg, counter, QString::number(call), action);
-        const QString program = m_fixture.file(QStringLiteral("fake-ffmpeg"), script.toUtf8());
-        QVERIFY(
-            QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        const QStringList orders{ffmpeg, counter, QString::number(call), action};
+        const QString file =
+            m_fixture.file(QStringLiteral("orders"), orders.join(QLatin1Char('\n')).toUtf8());
+        qputenv("VELMORA_FAKE_ENCODER", QFile::encodeName(file));
+        const QString program = QStandardPaths::findExecutable(
+            QStringLiteral("fakeencoder"), {QCoreApplication::applicationDirPath()});
         qputenv("VELMORA_FFMPEG", QFile::encodeName(program));
     }
 
@@ -80,13 +80,12 @@ private slots:
         QTest::addColumn<bool>("parallel");
         for (const bool parallel : {false, true}) {
             const char *mode = parallel ? "parallel" : "in order";
-            QTest::addRow("first segment, %s", mode) << 1 << "echo no luck >&2; exit 1" << parallel;
-            QTest::addRow("killed, %s", mode) << 2 << "kill -9 $$" << parallel;
-            QTest::addRow("a join, %s", mode) << 4 << "echo no luck >&2; exit 1" << parallel;
-            QTest::addRow("the total join, %s", mode)
-                << 8 << "echo no luck >&2; exit 1" << parallel;
-            QTest::addRow("the last run, %s", mode) << 9 << "echo no luck >&2; exit 1" << parallel;
-            QTest::addRow("nothing written, %s", mode) << 9 << "exit 0" << parallel;
+            QTest::addRow("first segment, %s", mode) << 1 << "err|no luck|exit|1" << parallel;
+            QTest::addRow("killed, %s", mode) << 2 << "crash" << parallel;
+            QTest::addRow("a join, %s", mode) << 4 << "err|no luck|exit|1" << parallel;
+            QTest::addRow("the total join, %s", mode) << 8 << "err|no luck|exit|1" << parallel;
+            QTest::addRow("the last run, %s", mode) << 9 << "err|no luck|exit|1" << parallel;
+            QTest::addRow("nothing written, %s", mode) << 9 << "exit|0" << parallel;
         }
     }
 
@@ -109,7 +108,7 @@ private slots:
 
     void aFullDiskIsToldAsSuch()
     {
-        fakeEncoder(2, QStringLiteral("echo 'x: No space left on device' >&2; exit 1"));
+        fakeEncoder(2, QStringLiteral("err|x: No space left on device|exit|1"));
         const RenderOutcome outcome = m_fixture.render(request());
         QCOMPARE(outcome.error.code, QString(RenderErrorCode::kDiskFull));
         QVERIFY2(outcome.error.text.contains(m_fixture.cacheFolder()),
@@ -128,7 +127,7 @@ private slots:
         QFETCH(int, call);
         const QString mark = m_fixture.path(QStringLiteral("hanging"));
         QFile::remove(mark);
-        fakeEncoder(call, QStringLiteral("echo $$ > '%1'; exec sleep 600").arg(mark));
+        fakeEncoder(call, QStringLiteral("pid|%1|hang").arg(mark));
         RenderJob job(request(), m_fixture.settings, m_fixture.cacheFolder());
         QTimer poll;
         connect(&poll, &QTimer::timeout, &job, [&] {
@@ -140,14 +139,14 @@ private slots:
         QCOMPARE(outcome.kind, RenderOutcome::Cancelled);
         QFile file(mark);
         QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString pid = QString::fromLatin1(file.readAll().trimmed());
-        QVERIFY(!pid.isEmpty());
-        QVERIFY(!QFileInfo::exists(QStringLiteral("/proc/") + pid));
+        const qint64 pid = file.readAll().toLongLong();
+        QVERIFY(pid > 0);
+        QTRY_VERIFY(!ProcessControl::isAlive(pid));
     }
 
     void joinsThatFailAreCounted()
     {
-        fakeEncoder(8, QStringLiteral("exit 1"));
+        fakeEncoder(8, QStringLiteral("exit|1"));
         m_fixture.render(request());
         const QStringList events = MetricSender::instance().pending();
         QVERIFY(events.filter(QStringLiteral("gres:160x90")).size() > 0);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/worker/Composer.h"
 #include "generator/worker/WorkerProtocol.h"
-#include "helpers/TestProcess.h"
+#include "helpers/ProcessControl.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -10,6 +10,7 @@
 #include <memory>
 
 using namespace velmora;
+using ProcessControl::isAlive;
 
 namespace
 {
@@ -124,8 +125,9 @@ private slots:
         run("");
         QTRY_VERIFY(!m_composer->isRunning());
         QCOMPARE(m_signals, QStringList(QStringLiteral("failed ERR_GENERATOR")));
-        QVERIFY2(m_composer->errorText().contains(path("no such program")),
-                 qPrintable(m_composer->errorText()));
+        QVERIFY2(
+            m_composer->errorText().contains(QDir::toNativeSeparators(path("no such program"))),
+            qPrintable(m_composer->errorText()));
     }
 
     void deadWorkerLeavesNothingAndTheNextRunWorks()

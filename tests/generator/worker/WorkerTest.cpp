@@ -2,19 +2,21 @@
 #include "app/Paths.h"
 #include "generator/worker/Composer.h"
 #include "generator/worker/WorkerOutputReader.h"
+#include "helpers/ProcessControl.h"
 #include "helpers/RenderFixture.h"
-#include "helpers/TestProcess.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QLockFile>
 #include <QProcess>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QtTest>
 
 #include <memory>
 
 using namespace velmora;
+using ProcessControl::isAlive;
 
 namespace
 {
@@ -104,10 +106,8 @@ private slots:
         const qint64 worker = workerPid();
         QVERIFY(isAlive(worker));
         QVector<qint64> encoders;
-        QTRY_VERIFY(!(encoders = childrenOf(worker)).isEmpty());
-        QCOMPARE(QProcess::execute(QStringLiteral("kill"),
-                                   {QStringLiteral("-KILL"), QString::number(worker)}),
-                 0);
+        QTRY_VERIFY(!(encoders = ProcessControl::childrenOf(worker)).isEmpty());
+        QVERIFY(ProcessControl::kill(worker));
         QTRY_VERIFY(!composer.isRunning());
         QVERIFY(!composer.errorText().isEmpty());
         for (const qint64 encoder : qAsConst(encoders))
@@ -178,7 +178,7 @@ private slots:
     void rendersForNobody()
     {
         QFETCH(QString, redirection);
-        if (!QFileInfo::exists(QStringLiteral("/dev/full")))
+        if (QStandardPaths::findExecutable(QStringLiteral("sh")).isEmpty())
             QSKIP("needs a shell");
         const QStringList arguments{QStringLiteral("-c"),
                                     QStringLiteral("\"$0\" \"$@\" ") + redirection, program()};
@@ -221,23 +221,6 @@ private:
         if (locks.hasNext())
             QLockFile(locks.next()).getLockInfo(&pid, &host, &name);
         return pid;
-    }
-
-    static QVector<qint64> childrenOf(qint64 pid)
-    {
-        QVector<qint64> children;
-        QDirIterator threads(QStringLiteral("/proc/%1/task").arg(pid),
-                             QDir::Dirs | QDir::NoDotAndDotDot);
-        while (threads.hasNext()) {
-            QFile file(threads.next() + QStringLiteral("/children"));
-            if (!file.open(QIODevice::ReadOnly))
-                continue;
-            for (const QByteArray &child : file.readAll().split(' ')) {
-                if (!child.isEmpty())
-                    children.append(child.toLongLong());
-            }
-        }
-        return children;
     }
 
     /// What a render of the editor's could leave: session values, cached files, parts of videos.

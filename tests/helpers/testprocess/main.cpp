@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Identity.h"
 #include "app/Log.h"
+#include "helpers/Crash.h"
 #include "platform/CrashDump.h"
 #include "platform/ProcessTree.h"
 #include "platform/SessionValues.h"
@@ -126,6 +127,7 @@ const QHash<QString, std::function<void()>> &actions()
         {QStringLiteral("--error"), [] { std::fprintf(stderr, "%s\n", qUtf8Printable(next())); }},
         {QStringLiteral("--exit"), [] { std::exit(next().toInt()); }},
         {QStringLiteral("--block"), [] { block(); }},
+        {QStringLiteral("--crash"), crash},
         {QStringLiteral("--ignore-terminate"), [] { std::signal(SIGTERM, SIG_IGN); }},
         {QStringLiteral("--raise"), [] { std::raise(next().toInt()); }},
         {QStringLiteral("--run"), [] { startChild(std::make_unique<QProcess>()); }},

@@ -88,7 +88,7 @@ void ExifReaderTest::dateTaken()
     QFETCH(QDateTime, expected);
     for (const char *suffix : {"jpg", "tif", "png"}) {
         const QString file = m_dir.filePath(QLatin1String("dated.") + QLatin1String(suffix));
-        QVERIFY(Pictures::quadrants(QSize(16, 16)).save(file));
+        QVERIFY(Pictures::save(Pictures::quadrants(QSize(16, 16)), file));
         Pictures::setExif(file, key.constData(), text.toStdString());
         if (!fraction.isEmpty())
             Pictures::setExif(file, "Exif.Photo.SubSecTimeOriginal", fraction.toStdString());

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/images/ImageLoader.h"
 
+#include "platform/ImageFormats.h"
 #include "project/images/Pictures.h"
 
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
-
-#include <unistd.h>
 
 using namespace velmora;
 
@@ -17,6 +16,7 @@ class ImageCheckTest : public QObject
 {
     Q_OBJECT
 private slots:
+    void initTestCase() { installImageFormats(); }
     void unusableFilesAreNamed_data();
     void unusableFilesAreNamed();
     void unreadableFileCannotBeOpened();
@@ -42,7 +42,7 @@ QByteArray encoded(const char *suffix, const QSize &size)
 {
     QTemporaryDir dir;
     const QString file = dir.filePath(QLatin1String("picture.") + QLatin1String(suffix));
-    Pictures::quadrants(size).save(file);
+    Pictures::save(Pictures::quadrants(size), file);
     return Pictures::bytesOf(file);
 }
 
@@ -152,10 +152,10 @@ void ImageCheckTest::unusableFilesAreNamed()
 
 void ImageCheckTest::unreadableFileCannotBeOpened()
 {
-    if (geteuid() == 0)
-        QSKIP("root may read every file");
     QVERIFY(Pictures::writeBytes(path("secret.jpg"), encoded("jpg", QSize(8, 8))));
     QVERIFY(QFile::setPermissions(path("secret.jpg"), QFile::WriteOwner));
+    if (QFile(path("secret.jpg")).open(QIODevice::ReadOnly))
+        QSKIP("This user may read every file.");
     QCOMPARE(ImageLoader::check(path("secret.jpg")), QStringLiteral("cannot be opened"));
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/images/ImageLoader.h"
 
+#include "platform/ImageFormats.h"
 #include "project/images/Pictures.h"
 
 #include <QColorSpace>
@@ -17,6 +18,7 @@ class ImageLoaderTest : public QObject
 {
     Q_OBJECT
 private slots:
+    void initTestCase() { installImageFormats(); }
     void photosStandUpright_data();
     void photosStandUpright();
     void kindsOfPicturesKeepTheirColors_data();
@@ -95,7 +97,7 @@ void ImageLoaderTest::photosStandUpright()
     QFETCH(int, orientation);
     QFETCH(QString, shown);
     const QString file = m_dir.filePath(QStringLiteral("oriented.") + suffix);
-    QVERIFY(Pictures::quadrants(QSize(96, 64)).save(file, nullptr, 95));
+    QVERIFY(Pictures::save(Pictures::quadrants(QSize(96, 64)), file));
     Pictures::setExif(file, "Exif.Image.Orientation", std::to_string(orientation));
 
     const bool swapped = orientation >= 5 && orientation <= 8;
@@ -133,6 +135,8 @@ void ImageLoaderTest::kindsOfPicturesKeepTheirColors()
     QFETCH(QString, suffix);
     QFETCH(int, format);
     QFETCH(QByteArray, compression);
+    if (!QImageWriter::supportedImageFormats().contains(suffix.toLatin1()))
+        QSKIP("Qt does not write such files here.");
     const QString file = m_dir.filePath(QStringLiteral("kind.") + suffix);
     QImageWriter writer(file);
     if (!compression.isEmpty())

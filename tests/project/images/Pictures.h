@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDataStream>
 #include <QFile>
 #include <QImage>
 #include <QPainter>
@@ -91,6 +92,46 @@ inline bool writeBytes(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+/// An uncompressed TIFF file; Qt itself does not write them everywhere.
+inline QByteArray tiff(const QImage &image)
+{
+    const QImage rgb = image.convertToFormat(QImage::Format_RGB888);
+    const auto width = static_cast<quint32>(rgb.width());
+    const auto height = static_cast<quint32>(rgb.height());
+    constexpr quint32 kDirectory = 8;
+    constexpr quint32 kSampleBits = kDirectory + 2 + 9 * 12 + 4;
+    constexpr quint32 kPixels = kSampleBits + 3 * 2;
+    QByteArray file("II");
+    QDataStream stream(&file, QIODevice::Append);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    stream << quint16(42) << kDirectory << quint16(9);
+    const auto tag = [&stream](int number, quint32 count, quint32 value) {
+        constexpr quint16 kLong = 4;
+        constexpr quint16 kShort = 3;
+        stream << quint16(number) << (count == 3 ? kShort : kLong) << count << value;
+    };
+    tag(256, 1, width);
+    tag(257, 1, height);
+    tag(258, 3, kSampleBits);
+    tag(259, 1, 1); // not compressed
+    tag(262, 1, 2); // red, green and blue
+    tag(273, 1, kPixels);
+    tag(277, 1, 3);
+    tag(278, 1, height);
+    tag(279, 1, width * height * 3);
+    stream << quint32(0) << quint16(8) << quint16(8) << quint16(8);
+    for (int y = 0; y < rgb.height(); ++y)
+        stream.writeRawData(reinterpret_cast<const char *>(rgb.constScanLine(y)), rgb.width() * 3);
+    return file;
+}
+
+/// Saves in the format of the name's suffix.
+inline bool save(const QImage &image, const QString &path)
+{
+    return path.endsWith(QLatin1String(".tif")) ? writeBytes(path, tiff(image))
+                                                : image.save(path, nullptr, 95);
 }
 
 } // namespace Pictures

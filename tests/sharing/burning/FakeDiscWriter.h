@@ -18,9 +18,10 @@ class FakeDiscWriter : public DiscWriter
 public:
     struct State {
         DiscMedia media;
-        QString failingStep; ///< "open", "erase", "check", "image", "write" or nothing.
+        QString failingStep; ///< "open", "erase", "check", "image", "finish", "write" or nothing.
         bool hold = false;   ///< A write waits until it is cancelled.
         QSemaphore writing;  ///< Gets one per write that began.
+        QString hindrance;   ///< Why nothing can be burned.
 
         void note(const QString &step)
         {
@@ -38,6 +39,7 @@ public:
 
     explicit FakeDiscWriter(State &state, int drives = 2) : m_state(state), m_drives(drives) {}
 
+    QString hindrance() const override { return m_state.hindrance; }
     QVector<DiscRecorder> recorders() override
     {
         QVector<DiscRecorder> all;
@@ -78,10 +80,14 @@ private:
             m_state.note(QStringLiteral("image %1 %2 %3").arg(video, fileName, volumeName));
             return m_state.failingStep != QLatin1String("image");
         }
-        bool write(bool finalize, const DiscProgress &progress,
-                   const std::atomic_bool &cancelled) override
+        bool finishImage(bool finalize) override
         {
-            m_state.note(finalize ? QStringLiteral("write closing") : QStringLiteral("write"));
+            m_state.note(finalize ? QStringLiteral("finish closing") : QStringLiteral("finish"));
+            return m_state.failingStep != QLatin1String("finish");
+        }
+        bool write(const DiscProgress &progress, const std::atomic_bool &cancelled) override
+        {
+            m_state.note(QStringLiteral("write"));
             progress(42, 100);
             m_state.writing.release();
             while (m_state.hold && !cancelled)

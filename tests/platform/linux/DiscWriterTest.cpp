@@ -121,7 +121,7 @@ bool DiscWriterTest::burn(const QString &driveId, const QString &video, const QS
     const auto session = m_writer.openSession(driveId);
     return session && (!erase || session->erase(m_progress)) && session->checkMedia() &&
            session->createImage(video, name, QStringLiteral("Sommer 2026")) &&
-           session->write(finalize, m_progress, m_cancelled);
+           session->finishImage(finalize) && session->write(m_progress, m_cancelled);
 }
 
 QByteArray DiscWriterTest::extract(const QString &name) const

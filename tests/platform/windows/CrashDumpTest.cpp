@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/CrashDump.h"
+#include "helpers/TestProcess.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace velmora;
+
+constexpr int kLongestDump = 120000; // ms; Wine reads the symbols of all libraries first
+
+class CrashDumpTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void crashLeavesDump()
+    {
+        const QString file = m_folder.filePath(QStringLiteral("gr\u00fc\u00dfe \u65e5.dmp"));
+        QProcess process;
+        process.start(testProcessPath(),
+                      {QStringLiteral("--crash-dump"), file, QStringLiteral("--crash")});
+        QVERIFY(process.waitForFinished(kLongestDump));
+        // The process ends by the exception as if there were no handler.
+        QCOMPARE(process.exitStatus(), QProcess::CrashExit);
+        QVERIFY(isMiniDump(file));
+        QCOMPARE(CrashDump::describe(file).size(), 1);
+    }
+
+    void writeGoesOn()
+    {
+        const QString file = m_folder.filePath(QStringLiteral("written.dmp"));
+        QProcess process;
+        process.start(testProcessPath(),
+                      {QStringLiteral("--write-dump"), QStringLiteral("--crash-dump"), file,
+                       QStringLiteral("--write-dump"), QStringLiteral("--exit"),
+                       QStringLiteral("3")});
+        QVERIFY(process.waitForFinished(kLongestDump));
+        QCOMPARE(nextLine(process), QByteArray("refused"));
+        QCOMPARE(nextLine(process), QByteArray("written"));
+        QCOMPARE(process.exitCode(), 3);
+        QVERIFY(isMiniDump(file));
+    }
+
+    void unusableFolderIsNoObstacle()
+    {
+        QProcess process;
+        process.start(testProcessPath(),
+                      {QStringLiteral("--crash-dump"),
+                       m_folder.filePath(QStringLiteral("no/x.dmp")), QStringLiteral("--crash")});
+        QVERIFY(process.waitForFinished(kLongestDump));
+        QCOMPARE(process.exitStatus(), QProcess::CrashExit);
+    }
+
+    void describesNothingFromAnEmptyFile()
+    {
+        QFile file(m_folder.filePath(QStringLiteral("empty.dmp")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        QCOMPARE(CrashDump::describe(file.fileName()), QStringList());
+    }
+
+private:
+    static bool isMiniDump(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) && file.read(4) == "MDMP" && file.size() > 1000;
+    }
+
+    QTemporaryDir m_folder;
+};
+
+QTEST_GUILESS_MAIN(CrashDumpTest)
+#include "CrashDumpTest.moc"
