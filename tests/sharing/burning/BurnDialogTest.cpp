@@ -79,29 +79,281 @@ class BurnDialogTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void offersDevices();
-    void noDevice();
-    void noBurningService();
-    void fieldsStart_data();
-    void fieldsStart();
-    void namesAreChecked_data();
-    void namesAreChecked();
-    void refusals_data();
-    void refusals();
-    void contentIsAskedAbout_data();
-    void contentIsAskedAbout();
-    void burnsInOrder_data();
-    void burnsInOrder();
-    void failingStep_data();
-    void failingStep();
-    void cancelAsksFirst();
-    void closingTheControllerEndsTheBurn();
+    void initTestCase()
+    {
+        Theme::install(*qApp);
+        m_video = m_folder.filePath(QStringLiteral("Summer.mp4"));
+        QFile file(m_video);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(QByteArray(kVideoSize, 'v')), kVideoSize);
+    }
+
+    void init()
+    {
+        m_state = std::make_unique<FakeDiscWriter::State>();
+        m_state->media = blank(4483);
+    }
+
+    void cleanup()
+    {
+        m_dialog.reset();
+        m_controller.reset();
+        QCOMPARE(QFileInfo(m_video).size(), kVideoSize); // The video survives whatever happens.
+    }
+
+    void offersDevices()
+    {
+        open();
+        QCOMPARE(m_dialog->windowTitle(), QStringLiteral("Burn DVD"));
+        auto *devices = find<QComboBox>("cbDevices");
+        QCOMPARE(devices->count(), 2);
+        QCOMPARE(devices->itemText(0), QStringLiteral("[/dev/sr0] (DVDRAM GH0 - 4483 MB Free)"));
+        QVERIFY(ready());
+        m_state->media = blank(700);
+        QSignalSpy found(m_controller.get(), &BurnController::devicesChanged);
+        click("btnRefresh");
+        QVERIFY(found.wait());
+        QCOMPARE(devices->itemText(1), QStringLiteral("[/dev/sr1] (DVDRAM GH1 - 700 MB Free)"));
+    }
+
+    void noDevice()
+    {
+        open(QString(), 0);
+        QVERIFY(!ready());
+        QVERIFY(find<QLabel>("lbProblem")->isVisible());
+    }
+
+    void noBurningService()
+    {
+        m_state->hindrance = QStringLiteral("No service");
+        open(QString(), 0);
+        QVERIFY(find<QLabel>("lbProblem")->isVisible());
+        QCOMPARE(find<QLabel>("lbProblem")->text(), m_state->hindrance);
+        QVERIFY(!ready());
+    }
+
+    void fieldsStart_data()
+    {
+        QTest::addColumn<QString>("given");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("none") << QString() << QStringLiteral("My slideshow");
+        QTest::newRow("blanks") << QStringLiteral(" \n ") << QStringLiteral("My slideshow");
+        QTest::newRow("lines") << QStringLiteral("Two\nlines") << QStringLiteral("Two lines");
+        QTest::newRow("long") << QString(60, QLatin1Char('x')) << QString(32, QLatin1Char('x'));
+    }
+
+    void fieldsStart()
+    {
+        QFETCH(QString, given);
+        QFETCH(QString, shown);
+        open(given);
+        QCOMPARE(find<QLineEdit>("leDiskTitle")->text(), shown);
+        QCOMPARE(find<QLineEdit>("leFileName")->text(), QStringLiteral("Summer.mp4"));
+        QVERIFY(!find<QCheckBox>("cbFinalizeDisk")->isChecked());
+    }
+
+    void namesAreChecked_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("valid");
+        QTest::newRow("plain") << QStringLiteral("film.mp4") << true;
+        QTest::newRow("umlauts") << QStringLiteral("Öl.mp4") << true;
+        QTest::newRow("empty") << QStringLiteral("  ") << false;
+        QTest::newRow("folder") << QStringLiteral("a/b.mp4") << false;
+        QTest::newRow("dots") << QStringLiteral("..") << false;
+        QTest::newRow("tab") << QStringLiteral("a\tb") << false;
+        QTest::newRow("103") << QString(103, QLatin1Char('x')) << true;
+        QTest::newRow("104") << QString(104, QLatin1Char('x')) << false;
+    }
+
+    void namesAreChecked()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, valid);
+        open();
+        find<QLineEdit>("leFileName")->setText(name);
+        QCOMPARE(ready(), valid);
+        QCOMPARE(find<QLabel>("lbNameError")->isVisible(), !valid);
+    }
+
+    void refusals_data()
+    {
+        QTest::addColumn<DiscMedia>("media");
+        QTest::addColumn<QString>("message");
+        const QString small = QStringLiteral("There is not enough disc space for the slideshow");
+        QTest::newRow("no disc") << DiscMedia() << QStringLiteral("Media disk is not ready");
+        QTest::newRow("too small") << blank(2) << small;
+        QTest::newRow("closed") << used(0, 0, false) << small;
+        QTest::newRow("full, too small when erased") << used(1, 2, true) << small;
+    }
+
+    void refusals()
+    {
+        QFETCH(DiscMedia, media);
+        QFETCH(QString, message);
+        open();
+        m_state->media = media;
+        QString shown;
+        answerMessage(QStringLiteral("CLOSE"), &shown);
+        click("btnBurn");
+        QTRY_COMPARE(shown, message);
+        QCOMPARE(page(), QStringLiteral("pgSettings"));
+        QTRY_VERIFY(ready());
+        QCOMPARE(m_state->noted(), QStringList()); // No drive was opened.
+    }
+
+    void contentIsAskedAbout_data()
+    {
+        QTest::addColumn<DiscMedia>("media");
+        QTest::addColumn<bool>("mayAdd");
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("firstSteps");
+        const QString erase = QStringLiteral("open 0,erase");
+        const QString add = QStringLiteral("open 0,check");
+        QTest::newRow("add") << used(700, 4000, true) << true << QStringLiteral("btnNo") << add;
+        QTest::newRow("erase") << used(700, 4000, true) << true << QStringLiteral("btnYes")
+                               << erase;
+        QTest::newRow("closed") << used(700, 4000, false) << false << QStringLiteral("btnYes")
+                                << erase;
+        QTest::newRow("full") << used(1, 4000, true) << false << QStringLiteral("btnYes") << erase;
+        QTest::newRow("cancel") << used(700, 4000, true) << true << QStringLiteral("btnCancelTwo")
+                                << QString();
+    }
+
+    void contentIsAskedAbout()
+    {
+        QFETCH(DiscMedia, media);
+        QFETCH(bool, mayAdd);
+        QFETCH(QString, button);
+        QFETCH(QString, firstSteps);
+        m_state->media = media;
+        open();
+        click("btnBurn");
+        QTRY_COMPARE(page(), QStringLiteral("pgNotEmpty"));
+        QCOMPARE(find<QLabel>("lbDiskName")->text(), QStringLiteral("Holidays"));
+        QCOMPARE(find<QPushButton>("btnNo")->isVisible(), mayAdd);
+        QCOMPARE(find<QLabel>("lbButtonsInfo")->text().contains(QStringLiteral("\"No\"")), mayAdd);
+        click(button.toLatin1().constData());
+        if (firstSteps.isEmpty()) {
+            QCOMPARE(page(), QStringLiteral("pgSettings"));
+            QCOMPARE(m_state->noted(), QStringList());
+            return;
+        }
+        QTRY_COMPARE(page(), QStringLiteral("pgResult"));
+        QCOMPARE(m_state->noted().mid(0, 2).join(QLatin1Char(',')), firstSteps);
+    }
+
+    void burnsInOrder_data()
+    {
+        QTest::addColumn<bool>("finalize");
+        QTest::newRow("open") << false;
+        QTest::newRow("closed") << true;
+    }
+
+    void burnsInOrder()
+    {
+        QFETCH(bool, finalize);
+        open(QStringLiteral("Sea"));
+        LogCapture log;
+        find<QComboBox>("cbDevices")->setCurrentIndex(1);
+        find<QLineEdit>("leFileName")->setText(QStringLiteral("film.mp4"));
+        find<QCheckBox>("cbFinalizeDisk")->setChecked(finalize);
+        m_state->hold = false;
+        QSignalSpy finished(m_controller.get(), &BurnController::burnFinished);
+        QSignalSpy percents(m_controller.get(), &BurnController::burnProgress);
+        QSignalSpy times(m_controller.get(), &BurnController::elapsedTime);
+        click("btnBurn");
+        QVERIFY(finished.wait());
+        QCOMPARE(finished.first().first().toBool(), true);
+        QCOMPARE(
+            m_state->noted(),
+            (QStringList{QStringLiteral("open 1"), QStringLiteral("check"),
+                         QStringLiteral("image %1 film.mp4 Sea").arg(m_video),
+                         finalize ? QStringLiteral("finish closing") : QStringLiteral("finish"),
+                         QStringLiteral("write")}));
+        QCOMPARE(percents.first().first().toInt(), 42);
+        QCOMPARE(times.first().first().toString(), QStringLiteral("00:00"));
+        QCOMPARE(page(), QStringLiteral("pgResult"));
+        QCOMPARE(find<QLabel>("lbResult")->text(), QStringLiteral("Succeeded"));
+        const QStringList lines = log.lines();
+        for (const char *line :
+             {"Burn started", "Burn begin thread", "Burn creating FS", "Burn writing",
+              "Burn write progress 42 from 100", "Burn writing finished"})
+            QVERIFY2(lines.contains(QLatin1String(line)), line);
+        click("btnClose");
+        QVERIFY(m_dialog->isHidden());
+    }
+
+    void failingStep_data()
+    {
+        QTest::addColumn<QString>("step");
+        QTest::addColumn<int>("steps");
+        QTest::newRow("open") << QStringLiteral("open") << 1;
+        QTest::newRow("erase") << QStringLiteral("erase") << 2;
+        QTest::newRow("check") << QStringLiteral("check") << 3;
+        QTest::newRow("image") << QStringLiteral("image") << 4;
+        QTest::newRow("finish") << QStringLiteral("finish") << 5;
+        QTest::newRow("write") << QStringLiteral("write") << 6;
+    }
+
+    void failingStep()
+    {
+        QFETCH(QString, step);
+        QFETCH(int, steps);
+        m_state->media = used(700, 4000, true);
+        m_state->failingStep = step;
+        open();
+        click("btnBurn");
+        QTRY_COMPARE(page(), QStringLiteral("pgNotEmpty"));
+        click("btnYes");
+        QTRY_COMPARE(page(), QStringLiteral("pgResult"));
+        QCOMPARE(find<QLabel>("lbResult")->text(), QStringLiteral("Error"));
+        QCOMPARE(m_state->noted().size(), steps); // Nothing follows a step that failed.
+    }
+
+    void cancelAsksFirst()
+    {
+        m_state->hold = true;
+        open();
+        click("btnBurn");
+        QTRY_COMPARE(page(), QStringLiteral("pgProgress"));
+        m_state->writing.acquire();
+        QTRY_COMPARE(find<QProgressBar>("progressBar")->value(), 42);
+        QString message;
+        answerMessage(QStringLiteral("GO ON"), &message);
+        QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
+        QVERIFY(!message.isEmpty());
+        QVERIFY(m_dialog->isVisible());
+        QVERIFY(m_controller->isBurning());
+        answerMessage(QStringLiteral("STOP"), &message);
+        click("btnCancel");
+        QTRY_COMPARE(page(), QStringLiteral("pgResult"));
+        QCOMPARE(find<QLabel>("lbResult")->text(), QStringLiteral("Error"));
+    }
+
+    void closingTheControllerEndsTheBurn()
+    {
+        m_state->hold = true;
+        open();
+        click("btnBurn");
+        QTRY_COMPARE(m_state->writing.available(), 1);
+        m_dialog.reset();
+        m_controller.reset(); // Returns, so the write has ended.
+        QCOMPARE(m_state->noted().last(), QStringLiteral("write"));
+    }
 
 private:
-    void open(const QString &title = QString(), int drives = 2);
+    void open(const QString &title = QString(), int drives = 2)
+    {
+        m_controller =
+            std::make_unique<BurnController>(std::make_unique<FakeDiscWriter>(*m_state, drives));
+        QSignalSpy found(m_controller.get(), &BurnController::devicesChanged);
+        m_dialog = std::make_unique<BurnDialog>(*m_controller, m_video, title);
+        m_dialog->show();
+        QVERIFY(!ready());
+        QVERIFY(found.wait());
+    }
+
     template <typename T> T *find(const char *name)
     {
         return m_dialog->findChild<T *>(QLatin1String(name));
@@ -116,277 +368,6 @@ private:
     std::unique_ptr<BurnController> m_controller;
     std::unique_ptr<BurnDialog> m_dialog;
 };
-
-void BurnDialogTest::initTestCase()
-{
-    Theme::install(*qApp);
-    m_video = m_folder.filePath(QStringLiteral("Summer.mp4"));
-    QFile file(m_video);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(QByteArray(kVideoSize, 'v')), kVideoSize);
-}
-
-void BurnDialogTest::init()
-{
-    m_state = std::make_unique<FakeDiscWriter::State>();
-    m_state->media = blank(4483);
-}
-
-void BurnDialogTest::cleanup()
-{
-    m_dialog.reset();
-    m_controller.reset();
-    QCOMPARE(QFileInfo(m_video).size(), kVideoSize); // The video survives whatever happens.
-}
-
-void BurnDialogTest::open(const QString &title, int drives)
-{
-    m_controller =
-        std::make_unique<BurnController>(std::make_unique<FakeDiscWriter>(*m_state, drives));
-    QSignalSpy found(m_controller.get(), &BurnController::devicesChanged);
-    m_dialog = std::make_unique<BurnDialog>(*m_controller, m_video, title);
-    m_dialog->show();
-    QVERIFY(!ready());
-    QVERIFY(found.wait());
-}
-
-void BurnDialogTest::offersDevices()
-{
-    open();
-    QCOMPARE(m_dialog->windowTitle(), QStringLiteral("Burn DVD"));
-    auto *devices = find<QComboBox>("cbDevices");
-    QCOMPARE(devices->count(), 2);
-    QCOMPARE(devices->itemText(0), QStringLiteral("[/dev/sr0] (DVDRAM GH0 - 4483 MB Free)"));
-    QVERIFY(ready());
-    m_state->media = blank(700);
-    QSignalSpy found(m_controller.get(), &BurnController::devicesChanged);
-    click("btnRefresh");
-    QVERIFY(found.wait());
-    QCOMPARE(devices->itemText(1), QStringLiteral("[/dev/sr1] (DVDRAM GH1 - 700 MB Free)"));
-}
-
-void BurnDialogTest::noDevice()
-{
-    open(QString(), 0);
-    QVERIFY(!ready());
-    QVERIFY(find<QLabel>("lbProblem")->isVisible());
-}
-
-void BurnDialogTest::noBurningService()
-{
-    m_state->hindrance = QStringLiteral("No service");
-    open(QString(), 0);
-    QVERIFY(find<QLabel>("lbProblem")->isVisible());
-    QCOMPARE(find<QLabel>("lbProblem")->text(), m_state->hindrance);
-    QVERIFY(!ready());
-}
-
-void BurnDialogTest::fieldsStart_data()
-{
-    QTest::addColumn<QString>("given");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("none") << QString() << QStringLiteral("My slideshow");
-    QTest::newRow("blanks") << QStringLiteral(" \n ") << QStringLiteral("My slideshow");
-    QTest::newRow("lines") << QStringLiteral("Two\nlines") << QStringLiteral("Two lines");
-    QTest::newRow("long") << QString(60, QLatin1Char('x')) << QString(32, QLatin1Char('x'));
-}
-
-void BurnDialogTest::fieldsStart()
-{
-    QFETCH(QString, given);
-    QFETCH(QString, shown);
-    open(given);
-    QCOMPARE(find<QLineEdit>("leDiskTitle")->text(), shown);
-    QCOMPARE(find<QLineEdit>("leFileName")->text(), QStringLiteral("Summer.mp4"));
-    QVERIFY(!find<QCheckBox>("cbFinalizeDisk")->isChecked());
-}
-
-void BurnDialogTest::namesAreChecked_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("valid");
-    QTest::newRow("plain") << QStringLiteral("film.mp4") << true;
-    QTest::newRow("umlauts") << QStringLiteral("Öl.mp4") << true;
-    QTest::newRow("empty") << QStringLiteral("  ") << false;
-    QTest::newRow("folder") << QStringLiteral("a/b.mp4") << false;
-    QTest::newRow("dots") << QStringLiteral("..") << false;
-    QTest::newRow("tab") << QStringLiteral("a\tb") << false;
-    QTest::newRow("103") << QString(103, QLatin1Char('x')) << true;
-    QTest::newRow("104") << QString(104, QLatin1Char('x')) << false;
-}
-
-void BurnDialogTest::namesAreChecked()
-{
-    QFETCH(QString, name);
-    QFETCH(bool, valid);
-    open();
-    find<QLineEdit>("leFileName")->setText(name);
-    QCOMPARE(ready(), valid);
-    QCOMPARE(find<QLabel>("lbNameError")->isVisible(), !valid);
-}
-
-void BurnDialogTest::refusals_data()
-{
-    QTest::addColumn<DiscMedia>("media");
-    QTest::addColumn<QString>("message");
-    const QString small = QStringLiteral("There is not enough disc space for the slideshow");
-    QTest::newRow("no disc") << DiscMedia() << QStringLiteral("Media disk is not ready");
-    QTest::newRow("too small") << blank(2) << small;
-    QTest::newRow("closed") << used(0, 0, false) << small;
-    QTest::newRow("full, too small when erased") << used(1, 2, true) << small;
-}
-
-void BurnDialogTest::refusals()
-{
-    QFETCH(DiscMedia, media);
-    QFETCH(QString, message);
-    open();
-    m_state->media = media;
-    QString shown;
-    answerMessage(QStringLiteral("CLOSE"), &shown);
-    click("btnBurn");
-    QTRY_COMPARE(shown, message);
-    QCOMPARE(page(), QStringLiteral("pgSettings"));
-    QTRY_VERIFY(ready());
-    QCOMPARE(m_state->noted(), QStringList()); // No drive was opened.
-}
-
-void BurnDialogTest::contentIsAskedAbout_data()
-{
-    QTest::addColumn<DiscMedia>("media");
-    QTest::addColumn<bool>("mayAdd");
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("firstSteps");
-    const QString erase = QStringLiteral("open 0,erase");
-    const QString add = QStringLiteral("open 0,check");
-    QTest::newRow("add") << used(700, 4000, true) << true << QStringLiteral("btnNo") << add;
-    QTest::newRow("erase") << used(700, 4000, true) << true << QStringLiteral("btnYes") << erase;
-    QTest::newRow("closed") << used(700, 4000, false) << false << QStringLiteral("btnYes") << erase;
-    QTest::newRow("full") << used(1, 4000, true) << false << QStringLiteral("btnYes") << erase;
-    QTest::newRow("cancel") << used(700, 4000, true) << true << QStringLiteral("btnCancelTwo")
-                            << QString();
-}
-
-void BurnDialogTest::contentIsAskedAbout()
-{
-    QFETCH(DiscMedia, media);
-    QFETCH(bool, mayAdd);
-    QFETCH(QString, button);
-    QFETCH(QString, firstSteps);
-    m_state->media = media;
-    open();
-    click("btnBurn");
-    QTRY_COMPARE(page(), QStringLiteral("pgNotEmpty"));
-    QCOMPARE(find<QLabel>("lbDiskName")->text(), QStringLiteral("Holidays"));
-    QCOMPARE(find<QPushButton>("btnNo")->isVisible(), mayAdd);
-    QCOMPARE(find<QLabel>("lbButtonsInfo")->text().contains(QStringLiteral("\"No\"")), mayAdd);
-    click(button.toLatin1().constData());
-    if (firstSteps.isEmpty()) {
-        QCOMPARE(page(), QStringLiteral("pgSettings"));
-        QCOMPARE(m_state->noted(), QStringList());
-        return;
-    }
-    QTRY_COMPARE(page(), QStringLiteral("pgResult"));
-    QCOMPARE(m_state->noted().mid(0, 2).join(QLatin1Char(',')), firstSteps);
-}
-
-void BurnDialogTest::burnsInOrder_data()
-{
-    QTest::addColumn<bool>("finalize");
-    QTest::newRow("open") << false;
-    QTest::newRow("closed") << true;
-}
-
-void BurnDialogTest::burnsInOrder()
-{
-    QFETCH(bool, finalize);
-    open(QStringLiteral("Sea"));
-    LogCapture log;
-    find<QComboBox>("cbDevices")->setCurrentIndex(1);
-    find<QLineEdit>("leFileName")->setText(QStringLiteral("film.mp4"));
-    find<QCheckBox>("cbFinalizeDisk")->setChecked(finalize);
-    m_state->hold = false;
-    QSignalSpy finished(m_controller.get(), &BurnController::burnFinished);
-    QSignalSpy percents(m_controller.get(), &BurnController::burnProgress);
-    QSignalSpy times(m_controller.get(), &BurnController::elapsedTime);
-    click("btnBurn");
-    QVERIFY(finished.wait());
-    QCOMPARE(finished.first().first().toBool(), true);
-    QCOMPARE(m_state->noted(),
-             (QStringList{QStringLiteral("open 1"), QStringLiteral("check"),
-                          QStringLiteral("image %1 film.mp4 Sea").arg(m_video),
-                          finalize ? QStringLiteral("finish closing") : QStringLiteral("finish"),
-                          QStringLiteral("write")}));
-    QCOMPARE(percents.first().first().toInt(), 42);
-    QCOMPARE(times.first().first().toString(), QStringLiteral("00:00"));
-    QCOMPARE(page(), QStringLiteral("pgResult"));
-    QCOMPARE(find<QLabel>("lbResult")->text(), QStringLiteral("Succeeded"));
-    const QStringList lines = log.lines();
-    for (const char *line :
-         {"Burn started", "Burn begin thread", "Burn creating FS", "Burn writing",
-          "Burn write progress 42 from 100", "Burn writing finished"})
-        QVERIFY2(lines.contains(QLatin1String(line)), line);
-    click("btnClose");
-    QVERIFY(m_dialog->isHidden());
-}
-
-void BurnDialogTest::failingStep_data()
-{
-    QTest::addColumn<QString>("step");
-    QTest::addColumn<int>("steps");
-    QTest::newRow("open") << QStringLiteral("open") << 1;
-    QTest::newRow("erase") << QStringLiteral("erase") << 2;
-    QTest::newRow("check") << QStringLiteral("check") << 3;
-    QTest::newRow("image") << QStringLiteral("image") << 4;
-    QTest::newRow("finish") << QStringLiteral("finish") << 5;
-    QTest::newRow("write") << QStringLiteral("write") << 6;
-}
-
-void BurnDialogTest::failingStep()
-{
-    QFETCH(QString, step);
-    QFETCH(int, steps);
-    m_state->media = used(700, 4000, true);
-    m_state->failingStep = step;
-    open();
-    click("btnBurn");
-    QTRY_COMPARE(page(), QStringLiteral("pgNotEmpty"));
-    click("btnYes");
-    QTRY_COMPARE(page(), QStringLiteral("pgResult"));
-    QCOMPARE(find<QLabel>("lbResult")->text(), QStringLiteral("Error"));
-    QCOMPARE(m_state->noted().size(), steps); // Nothing follows a step that failed.
-}
-
-void BurnDialogTest::cancelAsksFirst()
-{
-    m_state->hold = true;
-    open();
-    click("btnBurn");
-    QTRY_COMPARE(page(), QStringLiteral("pgProgress"));
-    m_state->writing.acquire();
-    QTRY_COMPARE(find<QProgressBar>("progressBar")->value(), 42);
-    QString message;
-    answerMessage(QStringLiteral("GO ON"), &message);
-    QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
-    QVERIFY(!message.isEmpty());
-    QVERIFY(m_dialog->isVisible());
-    QVERIFY(m_controller->isBurning());
-    answerMessage(QStringLiteral("STOP"), &message);
-    click("btnCancel");
-    QTRY_COMPARE(page(), QStringLiteral("pgResult"));
-    QCOMPARE(find<QLabel>("lbResult")->text(), QStringLiteral("Error"));
-}
-
-void BurnDialogTest::closingTheControllerEndsTheBurn()
-{
-    m_state->hold = true;
-    open();
-    click("btnBurn");
-    QTRY_COMPARE(m_state->writing.available(), 1);
-    m_dialog.reset();
-    m_controller.reset(); // Returns, so the write has ended.
-    QCOMPARE(m_state->noted().last(), QStringLiteral("write"));
-}
 
 QTEST_MAIN(BurnDialogTest)
 #include "BurnDialogTest.moc"

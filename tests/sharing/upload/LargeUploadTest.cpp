@@ -71,7 +71,7 @@ void LargeUploadTest::memoryStaysFlat()
     QVERIFY(resetPeak());
     const UploadCourse course = [&] {
         user.start(service, file.fileName());
-        return user.wait(270000);
+        return user.wait(600000);
     }();
     const qint64 peak = memory("VmHWM");
     QCOMPARE(course.failed.join(QString()), QString());

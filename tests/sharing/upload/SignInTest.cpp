@@ -2,6 +2,7 @@
 #include "helpers/LogCapture.h"
 #include "sharing/upload/UploadFixture.h"
 
+#include <QTcpServer>
 #include <QTest>
 
 using namespace velmora;
@@ -151,6 +152,20 @@ private slots:
         QCOMPARE(m_browser.visited.size(), 3);
         m_browser.stops = false;
         QCOMPARE(user.run(QStringLiteral("googledrive"), file).finished.size(), 2);
+    }
+
+    void takenPortEndsTheSignIn()
+    {
+        QTcpServer other;
+        QVERIFY(other.listen(QHostAddress::LocalHost));
+        for (const char *service : {"youtube", "googledrive", "dropbox"}) {
+            UploadFixture user(m_services);
+            user.configure({{QLatin1String(service) + QStringLiteral("/port"),
+                             QString::number(other.serverPort())}});
+            const UploadCourse course = user.run(QLatin1String(service), user.video(10));
+            QCOMPARE(course.failed, QStringList{QStringLiteral("Authorization error")});
+        }
+        QVERIFY(m_browser.visited.isEmpty()); // Nobody signs in to somebody else's port.
     }
 
 private:
