@@ -1138,10 +1138,6 @@
         <source>Audio Files (%1)</source>
         <translation>Tondateien (%1)</translation>
     </message>
-    <message>
-        <source>Move audio</source>
-        <translation>Musik verschieben</translation>
-    </message>
 </context>
 <context>
     <name>velmora::AudioListWidget</name>
@@ -2496,6 +2492,18 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <source>Rename</source>
         <translation>Umbenennen</translation>
     </message>
+    <message>
+        <source>Sort photos</source>
+        <translation>Fotos sortieren</translation>
+    </message>
+    <message>
+        <source>Shuffle photos</source>
+        <translation>Fotos mischen</translation>
+    </message>
+    <message>
+        <source>Relocate photos</source>
+        <translation>Fotos neu zuordnen</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ProjectFile</name>
@@ -2702,14 +2710,6 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <source>Reading the dates of the photos</source>
         <translation>Die Daten der Fotos werden gelesen</translation>
     </message>
-    <message>
-        <source>Sort photos</source>
-        <translation>Fotos sortieren</translation>
-    </message>
-    <message>
-        <source>Shuffle photos</source>
-        <translation>Fotos mischen</translation>
-    </message>
 </context>
 <context>
     <name>velmora::SlideTable</name>
@@ -2805,10 +2805,6 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
     <message>
         <source>Where is %1?</source>
         <translation>Wo ist %1?</translation>
-    </message>
-    <message>
-        <source>Relocate photos</source>
-        <translation>Fotos neu zuordnen</translation>
     </message>
     <message>
         <source>Photos: %1</source>
@@ -2935,10 +2931,6 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
     <message>
         <source>Text here</source>
         <translation>Text hier</translation>
-    </message>
-    <message>
-        <source>Change title slide</source>
-        <translation>Titelfolie ändern</translation>
     </message>
     <message>
         <source>Discard changes</source>

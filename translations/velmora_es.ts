@@ -1138,10 +1138,6 @@
         <source>Audio Files (%1)</source>
         <translation>Archivos de audio (%1)</translation>
     </message>
-    <message>
-        <source>Move audio</source>
-        <translation>Mover audio</translation>
-    </message>
 </context>
 <context>
     <name>velmora::AudioListWidget</name>
@@ -2496,6 +2492,18 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <source>Rename</source>
         <translation>Cambiar nombre</translation>
     </message>
+    <message>
+        <source>Sort photos</source>
+        <translation>Ordenar fotos</translation>
+    </message>
+    <message>
+        <source>Shuffle photos</source>
+        <translation>Mezclar fotos</translation>
+    </message>
+    <message>
+        <source>Relocate photos</source>
+        <translation>Localizar fotos</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ProjectFile</name>
@@ -2702,14 +2710,6 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <source>Reading the dates of the photos</source>
         <translation>Leyendo las fechas de las fotos</translation>
     </message>
-    <message>
-        <source>Sort photos</source>
-        <translation>Ordenar fotos</translation>
-    </message>
-    <message>
-        <source>Shuffle photos</source>
-        <translation>Mezclar fotos</translation>
-    </message>
 </context>
 <context>
     <name>velmora::SlideTable</name>
@@ -2805,10 +2805,6 @@ Pulse «Cancelar» para cancelar la operación.</translation>
     <message>
         <source>Where is %1?</source>
         <translation>¿Dónde está %1?</translation>
-    </message>
-    <message>
-        <source>Relocate photos</source>
-        <translation>Localizar fotos</translation>
     </message>
     <message>
         <source>Photos: %1</source>
@@ -2935,10 +2931,6 @@ Pulse «Cancelar» para cancelar la operación.</translation>
     <message>
         <source>Text here</source>
         <translation>Texto aquí</translation>
-    </message>
-    <message>
-        <source>Change title slide</source>
-        <translation>Cambiar diapositiva de título</translation>
     </message>
     <message>
         <source>Discard changes</source>

@@ -1138,10 +1138,6 @@
         <source>Audio Files (%1)</source>
         <translation>Fichiers audio (%1)</translation>
     </message>
-    <message>
-        <source>Move audio</source>
-        <translation>Déplacer l'audio</translation>
-    </message>
 </context>
 <context>
     <name>velmora::AudioListWidget</name>
@@ -2496,6 +2492,18 @@ Press "Cancel" to cancel the operation.</source>
         <source>Rename</source>
         <translation>Renommer</translation>
     </message>
+    <message>
+        <source>Sort photos</source>
+        <translation>Trier les photos</translation>
+    </message>
+    <message>
+        <source>Shuffle photos</source>
+        <translation>Mélanger les photos</translation>
+    </message>
+    <message>
+        <source>Relocate photos</source>
+        <translation>Retrouver les photos</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ProjectFile</name>
@@ -2702,14 +2710,6 @@ Press "Cancel" to cancel the operation.</source>
         <source>Reading the dates of the photos</source>
         <translation>Lecture des dates des photos</translation>
     </message>
-    <message>
-        <source>Sort photos</source>
-        <translation>Trier les photos</translation>
-    </message>
-    <message>
-        <source>Shuffle photos</source>
-        <translation>Mélanger les photos</translation>
-    </message>
 </context>
 <context>
     <name>velmora::SlideTable</name>
@@ -2805,10 +2805,6 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Where is %1?</source>
         <translation>Où est %1 ?</translation>
-    </message>
-    <message>
-        <source>Relocate photos</source>
-        <translation>Retrouver les photos</translation>
     </message>
     <message>
         <source>Photos: %1</source>
@@ -2935,10 +2931,6 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Text here</source>
         <translation>Texte ici</translation>
-    </message>
-    <message>
-        <source>Change title slide</source>
-        <translation>Changer la diapositive de titre</translation>
     </message>
     <message>
         <source>Discard changes</source>

@@ -1138,10 +1138,6 @@
         <source>Audio Files (%1)</source>
         <translation>File audio (%1)</translation>
     </message>
-    <message>
-        <source>Move audio</source>
-        <translation>Sposta audio</translation>
-    </message>
 </context>
 <context>
     <name>velmora::AudioListWidget</name>
@@ -2496,6 +2492,18 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <source>Rename</source>
         <translation>Rinomina</translation>
     </message>
+    <message>
+        <source>Sort photos</source>
+        <translation>Ordina foto</translation>
+    </message>
+    <message>
+        <source>Shuffle photos</source>
+        <translation>Mescola foto</translation>
+    </message>
+    <message>
+        <source>Relocate photos</source>
+        <translation>Ritrova foto</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ProjectFile</name>
@@ -2702,14 +2710,6 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <source>Reading the dates of the photos</source>
         <translation>Lettura delle date delle foto</translation>
     </message>
-    <message>
-        <source>Sort photos</source>
-        <translation>Ordina foto</translation>
-    </message>
-    <message>
-        <source>Shuffle photos</source>
-        <translation>Mescola foto</translation>
-    </message>
 </context>
 <context>
     <name>velmora::SlideTable</name>
@@ -2805,10 +2805,6 @@ Premere "Annulla" per annullare l'operazione.</translation>
     <message>
         <source>Where is %1?</source>
         <translation>Dov'è %1?</translation>
-    </message>
-    <message>
-        <source>Relocate photos</source>
-        <translation>Ritrova foto</translation>
     </message>
     <message>
         <source>Photos: %1</source>
@@ -2935,10 +2931,6 @@ Premere "Annulla" per annullare l'operazione.</translation>
     <message>
         <source>Text here</source>
         <translation>Testo qui</translation>
-    </message>
-    <message>
-        <source>Change title slide</source>
-        <translation>Cambia diapositiva del titolo</translation>
     </message>
     <message>
         <source>Discard changes</source>

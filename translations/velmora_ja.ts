@@ -1138,10 +1138,6 @@
         <source>Audio Files (%1)</source>
         <translation>音声ファイル (%1)</translation>
     </message>
-    <message>
-        <source>Move audio</source>
-        <translation>音声を移動</translation>
-    </message>
 </context>
 <context>
     <name>velmora::AudioListWidget</name>
@@ -2496,6 +2492,18 @@ Press "Cancel" to cancel the operation.</source>
         <source>Rename</source>
         <translation>名前を変更</translation>
     </message>
+    <message>
+        <source>Sort photos</source>
+        <translation>写真を並べ替え</translation>
+    </message>
+    <message>
+        <source>Shuffle photos</source>
+        <translation>写真をシャッフル</translation>
+    </message>
+    <message>
+        <source>Relocate photos</source>
+        <translation>写真の場所を指定</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ProjectFile</name>
@@ -2702,14 +2710,6 @@ Press "Cancel" to cancel the operation.</source>
         <source>Reading the dates of the photos</source>
         <translation>写真の日付を読み取り中</translation>
     </message>
-    <message>
-        <source>Sort photos</source>
-        <translation>写真を並べ替え</translation>
-    </message>
-    <message>
-        <source>Shuffle photos</source>
-        <translation>写真をシャッフル</translation>
-    </message>
 </context>
 <context>
     <name>velmora::SlideTable</name>
@@ -2805,10 +2805,6 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Where is %1?</source>
         <translation>%1 はどこですか?</translation>
-    </message>
-    <message>
-        <source>Relocate photos</source>
-        <translation>写真の場所を指定</translation>
     </message>
     <message>
         <source>Photos: %1</source>
@@ -2935,10 +2931,6 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Text here</source>
         <translation>ここに文字</translation>
-    </message>
-    <message>
-        <source>Change title slide</source>
-        <translation>タイトルスライドを変更</translation>
     </message>
     <message>
         <source>Discard changes</source>

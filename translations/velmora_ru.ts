@@ -1138,10 +1138,6 @@
         <source>Audio Files (%1)</source>
         <translation>Звуковые файлы (%1)</translation>
     </message>
-    <message>
-        <source>Move audio</source>
-        <translation>Переместить звук</translation>
-    </message>
 </context>
 <context>
     <name>velmora::AudioListWidget</name>
@@ -2496,6 +2492,18 @@ Press "Cancel" to cancel the operation.</source>
         <source>Rename</source>
         <translation>Переименовать</translation>
     </message>
+    <message>
+        <source>Sort photos</source>
+        <translation>Сортировать фото</translation>
+    </message>
+    <message>
+        <source>Shuffle photos</source>
+        <translation>Перемешать фото</translation>
+    </message>
+    <message>
+        <source>Relocate photos</source>
+        <translation>Указать фото заново</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ProjectFile</name>
@@ -2702,14 +2710,6 @@ Press "Cancel" to cancel the operation.</source>
         <source>Reading the dates of the photos</source>
         <translation>Чтение дат съёмки</translation>
     </message>
-    <message>
-        <source>Sort photos</source>
-        <translation>Сортировать фото</translation>
-    </message>
-    <message>
-        <source>Shuffle photos</source>
-        <translation>Перемешать фото</translation>
-    </message>
 </context>
 <context>
     <name>velmora::SlideTable</name>
@@ -2805,10 +2805,6 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Where is %1?</source>
         <translation>Где находится %1?</translation>
-    </message>
-    <message>
-        <source>Relocate photos</source>
-        <translation>Указать фото заново</translation>
     </message>
     <message>
         <source>Photos: %1</source>
@@ -2935,10 +2931,6 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Text here</source>
         <translation>Текст здесь</translation>
-    </message>
-    <message>
-        <source>Change title slide</source>
-        <translation>Изменить титульный слайд</translation>
     </message>
     <message>
         <source>Discard changes</source>

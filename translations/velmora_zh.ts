@@ -1138,10 +1138,6 @@
         <source>Audio Files (%1)</source>
         <translation>音频文件 (%1)</translation>
     </message>
-    <message>
-        <source>Move audio</source>
-        <translation>移动音频</translation>
-    </message>
 </context>
 <context>
     <name>velmora::AudioListWidget</name>
@@ -2496,6 +2492,18 @@ Press "Cancel" to cancel the operation.</source>
         <source>Rename</source>
         <translation>重命名</translation>
     </message>
+    <message>
+        <source>Sort photos</source>
+        <translation>排序照片</translation>
+    </message>
+    <message>
+        <source>Shuffle photos</source>
+        <translation>随机排列照片</translation>
+    </message>
+    <message>
+        <source>Relocate photos</source>
+        <translation>重新定位照片</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ProjectFile</name>
@@ -2702,14 +2710,6 @@ Press "Cancel" to cancel the operation.</source>
         <source>Reading the dates of the photos</source>
         <translation>正在读取照片的日期</translation>
     </message>
-    <message>
-        <source>Sort photos</source>
-        <translation>排序照片</translation>
-    </message>
-    <message>
-        <source>Shuffle photos</source>
-        <translation>随机排列照片</translation>
-    </message>
 </context>
 <context>
     <name>velmora::SlideTable</name>
@@ -2805,10 +2805,6 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Where is %1?</source>
         <translation>%1 在哪里？</translation>
-    </message>
-    <message>
-        <source>Relocate photos</source>
-        <translation>重新定位照片</translation>
     </message>
     <message>
         <source>Photos: %1</source>
@@ -2935,10 +2931,6 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Text here</source>
         <translation>在此输入文字</translation>
-    </message>
-    <message>
-        <source>Change title slide</source>
-        <translation>更改标题幻灯片</translation>
     </message>
     <message>
         <source>Discard changes</source>

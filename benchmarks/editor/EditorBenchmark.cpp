@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // EditorBenchmark [SLIDES [MEGAPIXELS]]: opens a project of that many photos (2000 of 12 megapixels
-// by default) in the editor page, scrolls it from end to end, edits all of it, and prints how long
-// that took and how much memory it used. Run it without a display with QT_QPA_PLATFORM=offscreen.
+// by default) with texts and a playlist in the editor page, scrolls it from end to end, edits all
+// of it, and prints how long that took and how much memory it used. Run it without a display with
+// QT_QPA_PLATFORM=offscreen.
 #include "app/AppSettings.h"
 #include "chrome/Theme.h"
 #include "project/documents/HistoryStore.h"
@@ -30,6 +31,8 @@ using namespace velmora;
 
 namespace
 {
+
+constexpr int kTracks = 50;
 
 /// Measures how long events take, painting apart.
 class MeasuringApplication : public QApplication
@@ -174,7 +177,17 @@ int main(int argc, char **argv)
     const QString document = folder.filePath(QStringLiteral("project.json"));
     {
         ProjectFile project(settings, ProjectFile::TitleSlide::Create);
-        project.addFiles(photos, 3, 27);
+        const auto slides = project.addFiles(photos, 3, 27);
+        for (ProjectItem *slide : slides) {
+            CaptionStyle caption = slide->caption();
+            caption.text = QStringLiteral("A text of some length on every slide");
+            slide->setCaption(caption);
+        }
+        AudioItemList audio;
+        for (int i = 0; i < kTracks; ++i)
+            audio.items.append(
+                {folder.filePath(QStringLiteral("track%1.mp3").arg(i)), QStringLiteral("0:03:00")});
+        project.setAudio(audio);
         project.saveToFile(document);
     }
 

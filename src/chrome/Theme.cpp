@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFont>
+#include <QHash>
 #include <QPalette>
 #include <QStringList>
 #include <QStyleFactory>
@@ -68,6 +69,19 @@ QString imagePath(const QString &name)
     return QStringLiteral(":/images/images/%1.png").arg(name);
 }
 
+/// The icons made so far: delegates ask for theirs at each paint.
+QHash<QString, QIcon> &knownIcons()
+{
+    static QHash<QString, QIcon> icons;
+    static const bool cleared = [] {
+        // Pictures must not outlive the application.
+        qAddPostRoutine([] { icons.clear(); });
+        return true;
+    }();
+    Q_UNUSED(cleared)
+    return icons;
+}
+
 double linear(double channel)
 {
     return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
@@ -94,9 +108,12 @@ void Theme::install(QApplication &application)
 
 QIcon Theme::icon(const QString &name, bool accent)
 {
-    QIcon icon(imagePath(name));
-    if (accent)
-        icon.addFile(imagePath(name + QStringLiteral("-accent")), {}, QIcon::Normal, QIcon::On);
+    QIcon &icon = knownIcons()[name + (accent ? QStringLiteral("/accent") : QString())];
+    if (icon.isNull()) {
+        icon = QIcon(imagePath(name));
+        if (accent)
+            icon.addFile(imagePath(name + QStringLiteral("-accent")), {}, QIcon::Normal, QIcon::On);
+    }
     return icon;
 }
 

@@ -144,6 +144,8 @@ void ThemeTest::namedIconExists()
         for (int x = 0; x < image.width(); ++x)
             colours.insert(image.pixel(x, y));
     QVERIFY(colours.size() > 2);
+    // Delegates ask at each paint.
+    QCOMPARE(Theme::icon(name).cacheKey(), Theme::icon(name).cacheKey());
 }
 
 void ThemeTest::iconIsSharpAtTwoTimes()

@@ -35,6 +35,7 @@ private slots:
     void startsAfterKill();
     void crashIsToldAtTheNextStart();
     void startsAlthoughFirstIsSilent();
+    void startsOnGarbage();
 
 private:
     std::unique_ptr<QProcess> start(const QStringList &arguments = {})
@@ -214,6 +215,28 @@ void VelmoraStartTest::startsAlthoughFirstIsSilent()
     QTRY_VERIFY_WITH_TIMEOUT(loggedBy(*second, ": main window"), 90000);
     end(*second);
     end(*first);
+}
+
+void VelmoraStartTest::startsOnGarbage()
+{
+    QByteArray garbage;
+    for (int i = 0; i < 20000; ++i)
+        garbage += static_cast<char>(i * i % 251);
+    const QByteArray settings =
+        "[General]\nlocale=xx\nresolution=@Variant(\\0\\0)\ndefaultTime=-7e99\ngeometry=\"no\n"
+        "transitionTime=@Invalid()\nfolder[=\nautosaveSeconds=soon\n[[\n" +
+        garbage;
+    for (const char *name : {"settings.ini", "services.ini", "project_history.json"}) {
+        QFile file(m_data->filePath(QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(qstrcmp(name, "settings.ini") == 0 ? settings : garbage);
+    }
+    const auto program = start();
+    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 90000);
+    // There is no such translation, so that the texts stay English.
+    QVERIFY(log().contains("Load translation: velmora_xx"));
+    QVERIFY(!program->waitForFinished(1000));
+    end(*program);
 }
 
 QTEST_GUILESS_MAIN(VelmoraStartTest)

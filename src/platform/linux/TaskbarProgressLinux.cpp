@@ -33,8 +33,13 @@ public:
         }
     }
 
-    // Launchers have no look for a pause.
-    void setPaused(bool) override {}
+    void setPaused(bool paused) override
+    {
+        if (paused != m_paused) {
+            m_paused = paused;
+            send();
+        }
+    }
 
     void setValue(int percent) override
     {
@@ -51,7 +56,8 @@ private:
         const QString desktopFile = QGuiApplication::desktopFileName();
         const QVariantMap properties = {
             {QStringLiteral("progress"), m_percent / 100.0},
-            {QStringLiteral("progress-visible"), m_visible},
+            // Launchers have no look for a pause; a bar that stands still would look stuck.
+            {QStringLiteral("progress-visible"), m_visible && !m_paused},
         };
         QDBusMessage update = QDBusMessage::createSignal(
             QStringLiteral("/com/canonical/unity/launcherentry/1"),
@@ -61,6 +67,7 @@ private:
     }
 
     bool m_visible = false;
+    bool m_paused = false;
     int m_percent = 0;
 };
 

@@ -273,13 +273,13 @@ void AudioFilesController::move(const QVector<int> &rows, int before)
                 moves.end());
     if (moves.isEmpty())
         return;
-    m_editor.undoStack()->beginMacro(tr("Move audio"));
+    m_editor.beginStep(QT_TRANSLATE_NOOP("velmora::ProjectEditor", "Move audio"));
     for (const auto &step : qAsConst(moves)) {
         qCDebug(lcUi).noquote()
             << QStringLiteral("Audio moved: %1>>%2").arg(step.first).arg(step.second);
         m_editor.moveAudio(step.first, step.second);
     }
-    m_editor.undoStack()->endMacro();
+    m_editor.endStep();
 }
 
 int AudioFilesController::playingRow() const

@@ -16,6 +16,7 @@
 #include <QDir>
 #include <QEvent>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QShortcut>
 #include <QStandardPaths>
@@ -72,8 +73,11 @@ AudioListWidget::AudioListWidget(ProjectEditor &editor, QWidget *parent)
                     this, tr("Listening"),
                     tr("%1 cannot be played: %2").arg(QDir::toNativeSeparators(fileName), reason));
             });
-    connect(m_controller, &AudioFilesController::playingChanged, this,
-            &AudioListWidget::updateActions);
+    connect(m_controller, &AudioFilesController::playingChanged, this, [this] {
+        updateActions();
+        if (m_controller->playingRow() >= 0)
+            emit listening();
+    });
     retranslate();
     initProjectAudio();
     updateAdding();
@@ -250,7 +254,9 @@ void AudioListWidget::setAudioParams(int count, qint64 duration)
 
 void AudioListWidget::onBtnAddAudioClicked()
 {
-    QFileDialog dialog(this, tr("Open File"), m_folder, AudioFilesController::dialogFilter());
+    QFileDialog dialog(this, tr("Open File"),
+                       QFileInfo(m_folder).isDir() ? m_folder : QDir::homePath(),
+                       AudioFilesController::dialogFilter());
     dialog.setFileMode(QFileDialog::ExistingFiles);
     if (dialog.exec() != QDialog::Accepted)
         return;
@@ -316,7 +322,8 @@ void AudioListWidget::listen()
 
 void AudioListWidget::stop()
 {
-    m_controller->stop();
+    if (m_controller->playingRow() >= 0)
+        m_controller->stop();
 }
 
 } // namespace velmora

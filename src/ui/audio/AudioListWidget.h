@@ -33,6 +33,9 @@ public:
 
     AudioFilesController &controller() const { return *m_controller; }
 
+signals:
+    void listening(); ///< To a track, from now on.
+
 public slots:
     /// Asks for sound files and appends them.
     void onBtnAddAudioClicked();
@@ -46,6 +49,8 @@ public slots:
     /// Shows loop, offset and fade of the project; its playlist is the controller's.
     void initProjectAudio();
     void showErrorThatNotAllAudioAreAdded(const QStringList &files);
+    /// Ends listening, if a track is being listened to.
+    void stop();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -62,7 +67,6 @@ private:
     void moveUp();
     void moveDown();
     void listen();
-    void stop();
     QVector<int> selectedRows() const;
 
     ProjectEditor &m_editor;

@@ -279,10 +279,10 @@ void TextEditWidget::save()
     if (allPhotos) {
         m_editor.setCaptionStyle(styledSlides(), edited);
     } else if (otherBackground) {
-        m_editor.undoStack()->beginMacro(tr("Change title slide"));
+        m_editor.beginStep(QT_TRANSLATE_NOOP("velmora::ProjectEditor", "Change title slide"));
         m_editor.setCaption({item}, edited);
         m_editor.setTitleSlide(background, title->isShown());
-        m_editor.undoStack()->endMacro();
+        m_editor.endStep();
     } else {
         m_editor.setCaption({item}, edited);
     }

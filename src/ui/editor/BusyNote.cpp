@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/editor/BusyNote.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -19,16 +20,14 @@ constexpr int kDelay = 300; // ms
 
 BusyNote::BusyNote(QWidget *parent)
     : QFrame(parent), m_text(new QLabel(this)), m_bar(new QProgressBar(this)),
-      m_cancel(new QPushButton(tr("CANCEL"), this))
+      m_cancel(new QPushButton(this))
 {
     setObjectName(QStringLiteral("busyNote"));
     setProperty("card", true);
     m_text->setObjectName(QStringLiteral("lblBusy"));
     m_bar->setObjectName(QStringLiteral("busyBar"));
-    m_bar->setAccessibleName(tr("Progress"));
     m_cancel->setObjectName(QStringLiteral("btnCancelBusy"));
     m_cancel->setProperty("flat", true);
-    m_cancel->setToolTip(tr("Stop and leave everything as it was"));
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(16, 4, 4, 4);
     row->setSpacing(16);
@@ -39,7 +38,22 @@ BusyNote::BusyNote(QWidget *parent)
     m_delay.setInterval(kDelay);
     connect(&m_delay, &QTimer::timeout, this, &QWidget::show);
     connect(m_cancel, &QPushButton::clicked, this, &BusyNote::cancelClicked);
+    retranslate();
     hide();
+}
+
+void BusyNote::retranslate()
+{
+    m_bar->setAccessibleName(tr("Progress"));
+    m_cancel->setText(tr("CANCEL"));
+    m_cancel->setToolTip(tr("Stop and leave everything as it was"));
+}
+
+void BusyNote::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QFrame::changeEvent(event);
 }
 
 void BusyNote::begin(const QString &text)

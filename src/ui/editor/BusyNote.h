@@ -28,7 +28,12 @@ public:
 signals:
     void cancelClicked();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void retranslate();
+
     QLabel *m_text;
     QProgressBar *m_bar;
     QPushButton *m_cancel;

@@ -321,6 +321,7 @@ void CreatePanel::on_btnPauseResume_clicked()
     else
         m_composer.pause();
     showPauseButton(m_composer.isPaused());
+    emit pausedChanged(m_composer.isPaused());
     onProgressTimer();
 }
 

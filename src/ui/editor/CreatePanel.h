@@ -37,6 +37,7 @@ signals:
     void progressStarted();
     void progressFinished(); ///< Once per progressStarted(): success, failure or cancel.
     void progress(int percent);
+    void pausedChanged(bool paused); ///< Between progressStarted() and progressFinished().
     void finished(const QString &fileName);
     void fullPreviewClicked();
 

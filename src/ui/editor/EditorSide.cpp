@@ -15,7 +15,8 @@ namespace
 
 constexpr int kGap = 16;              // px
 constexpr int kTabGap = 8;            // px between the tabs and what they show
-constexpr int kPreviewControls = 104; // px below and above the preview's picture
+constexpr int kPreviewControls = 160; // px beside a picture of 16:9 that fills the width
+constexpr int kTighterPreview = 56;   // px that may be missing from that if all is shown
 constexpr int kLeastPreview = 264;    // px that are worth a preview beside the groups
 
 } // namespace
@@ -101,7 +102,7 @@ int EditorSide::tallestGroup() const
 EditorSide::Mode EditorSide::fittingMode() const
 {
     const int room = height() - m_create->sizeHint().height() - 2 * kGap;
-    int all = previewHeight();
+    int all = previewHeight() - kTighterPreview;
     for (const QWidget *group : m_groups)
         all += group->sizeHint().height() + kGap;
     if (all - kGap <= room)

@@ -16,6 +16,7 @@
 
 #include <QAction>
 #include <QHBoxLayout>
+#include <QHideEvent>
 #include <QResizeEvent>
 #include <QStackedWidget>
 #include <QUndoStack>
@@ -128,7 +129,9 @@ void MainWindowWidget::updateUndo()
     m_redo->setEnabled(can && stack.canRedo());
     const auto tip = [](QAction *action, const QString &name, const QString &step) {
         const QString text =
-            step.isEmpty() ? name : tr("%1: %2", "undo or redo, and what").arg(name, step);
+            step.isEmpty()
+                ? name
+                : tr("%1: %2", "undo or redo, and what").arg(name, ProjectEditor::stepName(step));
         action->setToolTip(SlideActions::toolTip(text, action->shortcut()));
     };
     tip(m_undo, tr("Undo"), stack.undoText());
@@ -146,6 +149,9 @@ void MainWindowWidget::connectParts()
     connect(m_text, &TextEditWidget::finished, this, &MainWindowWidget::endTextEditing);
     connect(m_slides, &SlidesPage::rotateChanged, this, &MainWindowWidget::rotateChanged);
     connect(m_preview, &PreviewWidget::previewClicked, this, &MainWindowWidget::onPreviewClicked);
+    // Two sounds at once are noise.
+    connect(m_preview, &PreviewWidget::playing, m_audio, &AudioListWidget::stop);
+    connect(m_audio, &AudioListWidget::listening, m_preview, &PreviewWidget::stop);
     connect(m_create, &CreatePanel::fullPreviewClicked, this, &MainWindowWidget::onFullPreview);
     connect(m_create, &CreatePanel::progressStarted, this, [this] {
         setGenerating(true);
@@ -155,6 +161,7 @@ void MainWindowWidget::connectParts()
         setGenerating(false);
         emit progressFinished();
     });
+    connect(m_create, &CreatePanel::pausedChanged, this, &MainWindowWidget::pausedChanged);
     connect(m_create, &CreatePanel::progress, this, &MainWindowWidget::progress);
     connect(m_create, &CreatePanel::finished, this, &MainWindowWidget::onFullVideoGenerated);
 }
@@ -163,7 +170,7 @@ void MainWindowWidget::connectParts()
 void MainWindowWidget::setGenerating(bool generating)
 {
     if (generating)
-        m_preview->stop();
+        silence();
     m_stack->setEnabled(!generating);
     m_video->setEnabled(!generating);
     m_audio->setEnabled(!generating);
@@ -204,7 +211,7 @@ void MainWindowWidget::editCaptionOfAll()
 /// The caption editor has a picture of its own and needs the whole page.
 void MainWindowWidget::beginTextEditing()
 {
-    m_preview->stop();
+    silence();
     m_stack->setCurrentIndex(1);
     m_side->hide();
     updateUndo();
@@ -220,6 +227,19 @@ void MainWindowWidget::endTextEditing()
     m_slides->focusTable();
     updateUndo();
     emit textEditingFinished();
+}
+
+void MainWindowWidget::silence()
+{
+    m_preview->stop();
+    m_audio->stop();
+}
+
+void MainWindowWidget::hideEvent(QHideEvent *event)
+{
+    if (!event->spontaneous())
+        silence();
+    QWidget::hideEvent(event);
 }
 
 void MainWindowWidget::resizeEvent(QResizeEvent *event)

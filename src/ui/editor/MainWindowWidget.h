@@ -48,6 +48,7 @@ signals:
     void progressStarted();
     void progressFinished(); ///< Once per progressStarted().
     void progress(int percent);
+    void pausedChanged(bool paused);        ///< Between progressStarted() and progressFinished().
     void finished(const QString &fileName); ///< After progressFinished(): the video is there.
     void textEditingBegan(int totalSlide);
     void textEditingFinished();
@@ -70,6 +71,7 @@ public slots:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
@@ -80,6 +82,7 @@ private:
     void connectParts();
     void updateUndo();
     void setGenerating(bool generating);
+    void silence();
     void editCaption(ProjectItem *slide);
     void editCaptionOfAll();
     void beginTextEditing();

@@ -67,7 +67,7 @@ void SlideSorter::apply(const ProjectEditor::Slides &order, Criterion criterion)
     const Direction used = directionFor(criterion);
     m_criterion = criterion;
     m_next = used == Direction::Ascending ? Direction::Descending : Direction::Ascending;
-    m_editor.setOrder(order, tr("Sort photos"));
+    m_editor.setOrder(order, QT_TRANSLATE_NOOP("velmora::ProjectEditor", "Sort photos"));
     emit changed();
 }
 
@@ -76,7 +76,7 @@ void SlideSorter::shuffle()
     if (m_editor.project())
         m_editor.setOrder(
             SlideOrder::shuffled(m_editor.project()->items(), *QRandomGenerator::global()),
-            tr("Shuffle photos"));
+            QT_TRANSLATE_NOOP("velmora::ProjectEditor", "Shuffle photos"));
 }
 
 } // namespace velmora

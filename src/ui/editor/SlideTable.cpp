@@ -23,10 +23,12 @@ namespace velmora
 namespace
 {
 
-constexpr int kRowHeight = 80;        // px
-constexpr int kTimeWidth = 88;        // px
-constexpr int kTransitionWidth = 160; // px
-constexpr int kStep = 40;             // px that a step of the scroll bar moves
+constexpr int kRowHeight = 80;         // px
+constexpr int kTimeWidth = 88;         // px
+constexpr int kTransitionWidth = 160;  // px
+constexpr int kNarrowTransition = 112; // px, rather than leave no room for the text
+constexpr int kTextWidth = 240;        // px, with its buttons
+constexpr int kStep = 40;              // px that a step of the scroll bar moves
 
 } // namespace
 
@@ -52,7 +54,6 @@ void SlideTable::setSlides(SlideTableModel *model)
     verticalScrollBar()->setSingleStep(kStep);
     setColumnWidth(SlideTableModel::NumberColumn, SlideNumberDelegate::width());
     setColumnWidth(SlideTableModel::TimeColumn, kTimeWidth);
-    setColumnWidth(SlideTableModel::TransitionColumn, kTransitionWidth);
     connect(m_times, &ComboBoxItemDelegate::valueChosen, this,
             [this](const QModelIndex &index, const QVariant &value) {
                 emit timeChosen(index.row(), value.toInt());
@@ -233,6 +234,9 @@ void SlideTable::resizeEvent(QResizeEvent *event)
     round.addRoundedRect(area.adjusted(0, -Theme::Radius, 0, 0), Theme::Radius, Theme::Radius);
     const QRegion rounded(round.toFillPolygon().toPolygon());
     viewport()->setMask((QRegion(area) - corners) + (corners & rounded));
+    const int rest = area.width() - SlideNumberDelegate::width() - kTimeWidth - kTextWidth;
+    setColumnWidth(SlideTableModel::TransitionColumn,
+                   qBound(kNarrowTransition, rest, kTransitionWidth));
     tellVisibleRows();
 }
 

@@ -9,6 +9,7 @@
 #include "project/slides/ProjectItemSimple.h"
 #include "ui/editor/BusyNote.h"
 #include "ui/editor/SlideActions.h"
+#include "ui/editor/SlideSelection.h"
 #include "ui/editor/SlideSorter.h"
 #include "ui/model/SlideTableModel.h"
 #include "ui/model/ValueLists.h"
@@ -92,8 +93,14 @@ void SlidesPage::setUpTable()
 {
     SlideTable &table = *m_ui->tableView;
     table.setSlides(m_model);
+    m_selection = new SlideSelection(m_editor, table, this);
     table.setContextMenuPolicy(Qt::CustomContextMenu);
     table.viewport()->installEventFilter(this);
+    connect(m_model, &QAbstractItemModel::dataChanged, this,
+            [this](const QModelIndex &, const QModelIndex &, const QVector<int> &roles) {
+                if (roles.isEmpty()) // photos may have gone or come back
+                    updateLater();
+            });
     connect(&table, &QWidget::customContextMenuRequested, this, &SlidesPage::showContextMenu);
     connect(&table, &SlideTable::timeChosen, this, &SlidesPage::onTimeChanged);
     connect(&table, &SlideTable::transitionChosen, this, &SlidesPage::onTransitionChanged);
@@ -121,14 +128,15 @@ void SlidesPage::setUpActions()
     connect(actions.sortByDate, &QAction::triggered, this,
             [this] { m_sorter->sort(SlideSorter::Criterion::Date); });
     connect(actions.caption, &QAction::triggered, this,
-            [this] { emit captionRequested(currentSlide()); });
+            [this] { emit captionRequested(m_selection->current()); });
     connect(actions.captionOfAll, &QAction::triggered, this, &SlidesPage::captionOfAllRequested);
     connect(actions.time, &QAction::triggered, this,
             [this] { m_ui->tableView->openValues(SlideTableModel::TimeColumn); });
     connect(actions.transition, &QAction::triggered, this,
             [this] { m_ui->tableView->openValues(SlideTableModel::TransitionColumn); });
     connect(actions.preview, &QAction::triggered, this, &SlidesPage::previewRequested);
-    connect(actions.relocate, &QAction::triggered, this, [this] { relocate(currentSlide()); });
+    connect(actions.relocate, &QAction::triggered, this,
+            [this] { relocate(m_selection->current()); });
     connect(actions.restore, &QAction::triggered, this, &SlidesPage::on_btnRestore_clicked);
     connect(actions.remove, &QAction::triggered, this, &SlidesPage::deleteSelected);
     connect(actions.clear, &QAction::triggered, this, &SlidesPage::on_btnClear_clicked);
@@ -202,90 +210,16 @@ void SlidesPage::setUndoActions(QAction *undo, QAction *redo)
 
 void SlidesPage::connectEditor()
 {
-    connect(&m_editor, &ProjectEditor::slidesAboutToChange, this, &SlidesPage::keepSelection);
-    connect(&m_editor, &ProjectEditor::slidesChanged, this, &SlidesPage::restoreSelection);
+    connect(&m_editor, &ProjectEditor::slidesChanged, this, &SlidesPage::updateLater);
     connect(&m_editor, &ProjectEditor::slideChanged, this, &SlidesPage::updateLater);
     connect(&m_editor, &ProjectEditor::totalsChanged, this, &SlidesPage::updateLater);
     connect(&m_editor, &ProjectEditor::projectChanged, this, [this] {
         m_sorter->reset();
         m_told = nullptr; // belongs to the project before
         m_ui->tableView->scrollToTop();
-        selectSlides({m_model->slideAt(std::min(1, m_model->rowCount() - 1))});
+        m_selection->select({m_model->slideAt(std::min(1, m_model->rowCount() - 1))});
         updateLater(); // other listeners may not know the project yet
     });
-}
-
-ProjectEditor::Slides SlidesPage::selectedSlides() const
-{
-    QVector<int> rows;
-    const QModelIndexList indexes = m_ui->tableView->selectionModel()->selectedRows();
-    for (const QModelIndex &index : indexes)
-        rows.append(index.row());
-    std::sort(rows.begin(), rows.end());
-    ProjectEditor::Slides slides;
-    for (const int row : qAsConst(rows))
-        slides.append(m_model->slideAt(row));
-    return slides;
-}
-
-void SlidesPage::selectSlides(const ProjectEditor::Slides &slides)
-{
-    QVector<int> rows;
-    for (const ProjectItem *slide : slides) {
-        const int row = m_model->rowOf(slide);
-        if (row >= 0)
-            rows.append(row);
-    }
-    std::sort(rows.begin(), rows.end());
-    QItemSelection selection;
-    for (int i = 0; i < rows.size();) {
-        int last = i;
-        while (last + 1 < rows.size() && rows.at(last + 1) == rows.at(last) + 1)
-            ++last;
-        selection.append({m_model->index(rows.at(i), 0),
-                          m_model->index(rows.at(last), SlideTableModel::ColumnCount - 1)});
-        i = last + 1;
-    }
-    QItemSelectionModel &model = *m_ui->tableView->selectionModel();
-    if (!rows.isEmpty())
-        model.setCurrentIndex(m_model->index(rows.first(), 0), QItemSelectionModel::NoUpdate);
-    model.select(selection, QItemSelectionModel::ClearAndSelect);
-    if (!rows.isEmpty()) {
-        m_ui->tableView->scrollTo(m_model->index(rows.last(), 0));
-        m_ui->tableView->scrollTo(m_model->index(rows.first(), 0));
-    }
-}
-
-ProjectItem *SlidesPage::currentSlide() const
-{
-    const QItemSelectionModel &selection = *m_ui->tableView->selectionModel();
-    const QModelIndex current = selection.currentIndex();
-    if (selection.isRowSelected(current.row(), {}))
-        return m_model->slideAt(current.row());
-    return selectedSlides().value(0);
-}
-
-void SlidesPage::keepSelection()
-{
-    m_kept = selectedSlides();
-    m_keptRows = m_editor.project()->items();
-}
-
-/// Slides that came are selected; else those that were; else, after a deletion, the next one.
-void SlidesPage::restoreSelection()
-{
-    const ProjectEditor::Slides &present = m_editor.project()->items();
-    const QSet<ProjectItem *> before(m_keptRows.cbegin(), m_keptRows.cend());
-    ProjectEditor::Slides slides;
-    std::copy_if(present.begin(), present.end(), std::back_inserter(slides),
-                 [&](ProjectItem *slide) { return !before.contains(slide); });
-    if (slides.isEmpty())
-        std::copy_if(m_kept.begin(), m_kept.end(), std::back_inserter(slides),
-                     [this](ProjectItem *slide) { return m_model->rowOf(slide) >= 0; });
-    if (slides.isEmpty() && !m_kept.isEmpty() && !present.isEmpty())
-        slides = {present.at(std::min(m_keptRows.indexOf(m_kept.first()), present.size() - 1))};
-    selectSlides(slides);
-    updateLater();
 }
 
 void SlidesPage::onSelectionChanged(const QItemSelection &, const QItemSelection &)
@@ -293,11 +227,16 @@ void SlidesPage::onSelectionChanged(const QItemSelection &, const QItemSelection
     updateLater();
 }
 
-void SlidesPage::changeEvent(QEvent *event)
+bool SlidesPage::event(QEvent *event)
 {
     // Photos may have been moved or brought back in another program.
-    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+    if (event->type() == QEvent::WindowActivate || event->type() == QEvent::Show)
         m_model->checkFiles();
+    return QWidget::event(event);
+}
+
+void SlidesPage::changeEvent(QEvent *event)
+{
     if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
         retranslate();
@@ -337,7 +276,7 @@ void SlidesPage::updateControls()
     updateActions();
     updateDefaults();
     updateTotals();
-    ProjectItem *current = currentSlide();
+    ProjectItem *current = m_selection->current();
     if (current != m_told) {
         m_told = current;
         emit currentSlideChanged(current);
@@ -346,7 +285,7 @@ void SlidesPage::updateControls()
 
 void SlidesPage::updateActions()
 {
-    const ProjectEditor::Slides selected = selectedSlides();
+    const ProjectEditor::Slides selected = m_selection->slides();
     const bool hasPhoto = std::any_of(selected.begin(), selected.end(), [](ProjectItem *slide) {
         return qobject_cast<ProjectItemSimple *>(slide) != nullptr;
     });
@@ -363,7 +302,7 @@ void SlidesPage::updateActions()
     m_ui->btnRestore->setVisible(hidden);
     m_actions->remove->setEnabled(hasPhoto || (!selected.isEmpty() && !hidden));
     m_actions->captionOfAll->setEnabled(m_model->rowCount() > 0);
-    const QModelIndex current = m_model->index(m_model->rowOf(currentSlide()), 0);
+    const QModelIndex current = m_model->index(m_model->rowOf(m_selection->current()), 0);
     m_actions->relocate->setEnabled(current.data(SlideTableModel::MissingRole).toBool());
     m_actions->clear->setEnabled(shownCount() > 0);
     m_ui->btnClear->setText(tr("Clear list (%1)").arg(shownCount()));

@@ -23,6 +23,7 @@ namespace velmora
 
 class BusyNote;
 class SlideActions;
+class SlideSelection;
 class SlideSorter;
 class SlideTableModel;
 
@@ -35,11 +36,6 @@ public:
     SlidesPage(ProjectEditor &editor, const AppSettings &settings, QWidget *parent = nullptr);
     ~SlidesPage() override;
 
-    /// In the order of their rows.
-    ProjectEditor::Slides selectedSlides() const;
-    void selectSlides(const ProjectEditor::Slides &slides);
-    /// The slide of the current row if it is selected; null: none.
-    ProjectItem *currentSlide() const;
     /// The line for work in the background.
     BusyNote &busyNote() { return *m_note; }
     /// Gives the keys to the table.
@@ -78,6 +74,7 @@ public slots:
     void onBtnRotate();
 
 protected:
+    bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -87,8 +84,6 @@ private:
     void setUpButtons();
     void retranslate();
     void connectEditor();
-    void keepSelection();
-    void restoreSelection();
     void onCellButton(SlideButton button, int row);
     void deleteSelected();
     void rotateSelected(int degrees);
@@ -110,12 +105,11 @@ private:
     BusyNote *m_note;
     SlideActions *m_actions;
     SlideSorter *m_sorter;
+    SlideSelection *m_selection = nullptr;
     QWidget *m_hint; ///< Invites while there are no photos.
     QLabel *m_hintText;
-    QTimer m_update;                  ///< Many changes at once update the controls once.
-    ProjectEditor::Slides m_kept;     ///< The selection while the rows change.
-    ProjectEditor::Slides m_keptRows; ///< All slides before the change.
-    ProjectItem *m_told = nullptr;    ///< The current slide that listeners know.
+    QTimer m_update;               ///< Many changes at once update the controls once.
+    ProjectItem *m_told = nullptr; ///< The current slide that listeners know.
 };
 
 } // namespace velmora

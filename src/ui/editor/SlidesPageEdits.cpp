@@ -11,6 +11,7 @@
 #include "project/slides/ProjectItemFirst.h"
 #include "project/slides/ProjectItemSimple.h"
 #include "ui/editor/SlideActions.h"
+#include "ui/editor/SlideSelection.h"
 #include "ui/editor/SlideSorter.h"
 #include "ui/model/SlideTableModel.h"
 #include "ui/model/ValueLists.h"
@@ -20,7 +21,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
-#include <QUndoStack>
 
 namespace velmora
 {
@@ -42,7 +42,7 @@ void fillMenu(QMenu *menu, const QPopupButton::Values &values)
 ProjectEditor::Slides SlidesPage::scopeOf(int row) const
 {
     ProjectItem *slide = m_model->slideAt(row);
-    const ProjectEditor::Slides selected = selectedSlides();
+    const ProjectEditor::Slides selected = m_selection->slides();
     if (!slide || selected.contains(slide))
         return selected;
     return {slide};
@@ -113,7 +113,7 @@ void SlidesPage::onDeleteClicked(ProjectItem *item)
 
 void SlidesPage::deleteSelected()
 {
-    const ProjectEditor::Slides slides = selectedSlides();
+    const ProjectEditor::Slides slides = m_selection->slides();
     if (!slides.isEmpty())
         m_editor.removeSlides(slides);
 }
@@ -132,14 +132,14 @@ void SlidesPage::on_btnRestore_clicked()
 
 void SlidesPage::on_btnUp_clicked()
 {
-    const ProjectEditor::Slides slides = selectedSlides();
+    const ProjectEditor::Slides slides = m_selection->slides();
     if (!slides.isEmpty())
         m_editor.moveSlides(slides, m_model->rowOf(slides.first()) - 1);
 }
 
 void SlidesPage::on_btnDown_clicked()
 {
-    const ProjectEditor::Slides slides = selectedSlides();
+    const ProjectEditor::Slides slides = m_selection->slides();
     if (!slides.isEmpty())
         m_editor.moveSlides(slides, m_model->rowOf(slides.last()) + 2);
 }
@@ -168,7 +168,7 @@ void SlidesPage::onBtnRotate()
 
 void SlidesPage::rotateSelected(int degrees)
 {
-    m_editor.rotate(selectedSlides(), degrees);
+    m_editor.rotate(m_selection->slides(), degrees);
     emit rotateChanged();
 }
 
@@ -186,7 +186,7 @@ void SlidesPage::relocate(ProjectItem *slide)
     if (chosen.isEmpty())
         return;
     const QDir folder = QFileInfo(chosen).absoluteDir();
-    m_editor.undoStack()->beginMacro(tr("Relocate photos"));
+    m_editor.beginStep(QT_TRANSLATE_NOOP("velmora::ProjectEditor", "Relocate photos"));
     m_editor.relocate(slide, QFileInfo(chosen).absoluteFilePath());
     for (int row = 0; row < m_model->rowCount(); ++row) {
         const auto *other = qobject_cast<ProjectItemSimple *>(m_model->slideAt(row));
@@ -197,7 +197,7 @@ void SlidesPage::relocate(ProjectItem *slide)
         if (file.path() == old.path() && folder.exists(file.fileName()))
             m_editor.relocate(m_model->slideAt(row), folder.filePath(file.fileName()));
     }
-    m_editor.undoStack()->endMacro();
+    m_editor.endStep();
 }
 
 void SlidesPage::showContextMenu(const QPoint &position)
@@ -215,10 +215,10 @@ void SlidesPage::showContextMenu(const QPoint &position)
     fillMenu(&transitions, ValueLists::transitions());
     transitions.menuAction()->setEnabled(m_actions->transition->isEnabled());
     connect(&times, &QMenu::triggered, this, [this](const QAction *action) {
-        m_editor.setTime(selectedSlides(), action->data().toInt());
+        m_editor.setTime(m_selection->slides(), action->data().toInt());
     });
     connect(&transitions, &QMenu::triggered, this, [this](const QAction *action) {
-        m_editor.setTransition(selectedSlides(), action->data().toInt());
+        m_editor.setTransition(m_selection->slides(), action->data().toInt());
     });
     m_actions->fillContextMenu(menu, &times, &transitions);
     menu.exec(m_ui->tableView->viewport()->mapToGlobal(position));

@@ -121,6 +121,8 @@ void MainView::connectEditor()
     connect(m_editor, &MainWindowWidget::progressFinished, this, &MainView::onProgressFinished);
     connect(m_editor, &MainWindowWidget::progress, this,
             [this](int percent) { m_parts.taskbar.setValue(percent); });
+    connect(m_editor, &MainWindowWidget::pausedChanged, this,
+            [this](bool paused) { m_parts.taskbar.setPaused(paused); });
     connect(m_editor, &MainWindowWidget::finished, this, &MainView::onFinished);
     connect(m_editor, &MainWindowWidget::textEditingBegan, this, &MainView::onTextEditingBegan);
     connect(m_editor, &MainWindowWidget::textEditingFinished, this,

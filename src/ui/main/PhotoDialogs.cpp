@@ -2,7 +2,9 @@
 #include "ui/main/PhotoDialogs.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -21,7 +23,9 @@ const QString &folderKey()
 QString startFolder(const QSettings &store)
 {
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-    return store.value(folderKey(), pictures).toString();
+    const QString folder = store.value(folderKey(), pictures).toString();
+    // A dialog would propose the name of a folder that is not there as that of a file.
+    return QFileInfo(folder).isDir() ? folder : QDir::homePath();
 }
 
 } // namespace

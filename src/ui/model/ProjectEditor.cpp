@@ -23,13 +23,13 @@ public:
     {
     }
 
-    void setSlides(const Slides &slides, const QString &text)
+    void setSlides(const Slides &slides, const char *step)
     {
         if (slides != project->items())
-            stack.push(new SlideListCommand(editor, *shelf, slides, text));
+            stack.push(new SlideListCommand(editor, *shelf, slides, QLatin1String(step)));
     }
 
-    void changeSlides(const Slides &slides, const QString &text,
+    void changeSlides(const Slides &slides, const char *step,
                       const std::function<void(SlideState &)> &change)
     {
         QVector<SlideStatesCommand::Change> changes;
@@ -41,10 +41,10 @@ public:
                 changes.append({slide, before, after});
         }
         if (!changes.isEmpty())
-            stack.push(new SlideStatesCommand(editor, changes, text));
+            stack.push(new SlideStatesCommand(editor, changes, QLatin1String(step)));
     }
 
-    void changeProject(const QString &text, const std::function<void(ProjectState &)> &change)
+    void changeProject(const char *step, const std::function<void(ProjectState &)> &change)
     {
         if (!project)
             return;
@@ -52,7 +52,7 @@ public:
         ProjectState after = before;
         change(after);
         if (!after.hasSameAudio(before) || !after.hasSameSettings(before))
-            stack.push(new ProjectStateCommand(editor, settings, after, text));
+            stack.push(new ProjectStateCommand(editor, settings, after, QLatin1String(step)));
     }
 
     ProjectItemFirst *titleSlide() const
@@ -101,6 +101,21 @@ QUndoStack *ProjectEditor::undoStack() const
     return &d->stack;
 }
 
+void ProjectEditor::beginStep(const char *step)
+{
+    d->stack.beginMacro(QLatin1String(step));
+}
+
+void ProjectEditor::endStep()
+{
+    d->stack.endMacro();
+}
+
+QString ProjectEditor::stepName(const QString &step)
+{
+    return step.isEmpty() ? step : tr(step.toUtf8().constData());
+}
+
 bool ProjectEditor::isModified() const
 {
     return !d->stack.isClean();
@@ -126,7 +141,7 @@ void ProjectEditor::addPhotos(const QStringList &paths, int row)
         slide->setParent(d->shelf.get());
         slides.insert(place++, slide);
     }
-    d->setSlides(slides, tr("Add photos"));
+    d->setSlides(slides, QT_TR_NOOP("Add photos"));
 }
 
 void ProjectEditor::removeSlides(const Slides &slides)
@@ -140,12 +155,12 @@ void ProjectEditor::removeSlides(const Slides &slides)
                    left.begin(), left.end(),
                    [&](ProjectItem *slide) { return slide != title && slides.contains(slide); }),
                left.end());
-    d->stack.beginMacro(tr("Delete slides"));
-    d->setSlides(left, tr("Delete slides"));
+    beginStep(QT_TR_NOOP("Delete slides"));
+    d->setSlides(left, QT_TR_NOOP("Delete slides"));
     if (title && slides.contains(title))
-        d->changeSlides({title}, tr("Hide the title slide"),
+        d->changeSlides({title}, QT_TR_NOOP("Hide the title slide"),
                         [](SlideState &state) { state.visible = false; });
-    d->stack.endMacro();
+    endStep();
 }
 
 void ProjectEditor::moveSlides(const Slides &slides, int row)
@@ -166,19 +181,19 @@ void ProjectEditor::moveSlides(const Slides &slides, int row)
         else
             (i < row ? head : tail).append(slide);
     }
-    d->setSlides(head + moved + tail, tr("Move slides"));
+    d->setSlides(head + moved + tail, QT_TR_NOOP("Move slides"));
 }
 
-void ProjectEditor::setOrder(const Slides &order, const QString &text)
+void ProjectEditor::setOrder(const Slides &order, const char *step)
 {
     if (d->project && std::is_permutation(order.begin(), order.end(), d->project->items().begin(),
                                           d->project->items().end()))
-        d->setSlides(order, text);
+        d->setSlides(order, step);
 }
 
 void ProjectEditor::setTime(const Slides &slides, int seconds)
 {
-    d->changeSlides(slides, tr("Change time"),
+    d->changeSlides(slides, QT_TR_NOOP("Change time"),
                     [seconds](SlideState &state) { state.time = seconds; });
 }
 
@@ -186,7 +201,7 @@ void ProjectEditor::setTransition(const Slides &slides, int transition)
 {
     Slides photos = slides;
     photos.removeAll(d->titleSlide());
-    d->changeSlides(photos, tr("Change transition"),
+    d->changeSlides(photos, QT_TR_NOOP("Change transition"),
                     [transition](SlideState &state) { state.transition = transition; });
 }
 
@@ -195,20 +210,20 @@ void ProjectEditor::rotate(const Slides &slides, int degrees)
     constexpr int kFullTurn = 360;
     Slides photos = slides;
     photos.removeAll(d->titleSlide());
-    d->changeSlides(photos, tr("Rotate photos"), [degrees](SlideState &state) {
+    d->changeSlides(photos, QT_TR_NOOP("Rotate photos"), [degrees](SlideState &state) {
         state.angle = ((state.angle % kFullTurn + degrees) % kFullTurn + kFullTurn) % kFullTurn;
     });
 }
 
 void ProjectEditor::setCaption(const Slides &slides, const CaptionStyle &caption)
 {
-    d->changeSlides(slides, tr("Change caption"),
+    d->changeSlides(slides, QT_TR_NOOP("Change caption"),
                     [&caption](SlideState &state) { state.caption = caption; });
 }
 
 void ProjectEditor::setCaptionStyle(const Slides &slides, const CaptionStyle &style)
 {
-    d->changeSlides(slides, tr("Change caption style"), [&style](SlideState &state) {
+    d->changeSlides(slides, QT_TR_NOOP("Change caption style"), [&style](SlideState &state) {
         const QString text = state.caption.text;
         state.caption = style;
         state.caption.text = text;
@@ -218,7 +233,7 @@ void ProjectEditor::setCaptionStyle(const Slides &slides, const CaptionStyle &st
 void ProjectEditor::setTitleSlide(int backgroundIndex, bool visible)
 {
     if (ProjectItemFirst *title = d->titleSlide())
-        d->changeSlides({title}, tr("Change title slide"), [=](SlideState &state) {
+        d->changeSlides({title}, QT_TR_NOOP("Change title slide"), [=](SlideState &state) {
             state.backgroundIndex = backgroundIndex;
             state.visible = visible;
         });
@@ -226,13 +241,13 @@ void ProjectEditor::setTitleSlide(int backgroundIndex, bool visible)
 
 void ProjectEditor::relocate(ProjectItem *slide, const QString &fileName)
 {
-    d->changeSlides({slide}, tr("Relocate photo"),
+    d->changeSlides({slide}, QT_TR_NOOP("Relocate photo"),
                     [&fileName](SlideState &state) { state.fileName = fileName; });
 }
 
 void ProjectEditor::addAudio(const QVector<AudioItem> &files, int row)
 {
-    d->changeProject(tr("Add audio"), [&](ProjectState &state) {
+    d->changeProject(QT_TR_NOOP("Add audio"), [&](ProjectState &state) {
         QVector<AudioItem> &items = state.audio.items;
         int place = row < 0 ? items.size() : std::min(row, items.size());
         for (const AudioItem &file : files)
@@ -242,7 +257,7 @@ void ProjectEditor::addAudio(const QVector<AudioItem> &files, int row)
 
 void ProjectEditor::removeAudio(const QVector<int> &rows)
 {
-    d->changeProject(tr("Delete audio"), [&rows](ProjectState &state) {
+    d->changeProject(QT_TR_NOOP("Delete audio"), [&rows](ProjectState &state) {
         for (int row = state.audio.items.size() - 1; row >= 0; --row) {
             if (rows.contains(row))
                 state.audio.items.removeAt(row);
@@ -252,7 +267,7 @@ void ProjectEditor::removeAudio(const QVector<int> &rows)
 
 void ProjectEditor::moveAudio(int from, int to)
 {
-    d->changeProject(tr("Move audio"), [=](ProjectState &state) {
+    d->changeProject(QT_TR_NOOP("Move audio"), [=](ProjectState &state) {
         const int count = state.audio.items.size();
         if (from >= 0 && from < count && to >= 0 && to < count)
             state.audio.items.move(from, to);
@@ -261,47 +276,49 @@ void ProjectEditor::moveAudio(int from, int to)
 
 void ProjectEditor::setAudioOffset(int seconds)
 {
-    d->changeProject(tr("Change audio offset"),
+    d->changeProject(QT_TR_NOOP("Change audio offset"),
                      [seconds](ProjectState &state) { state.audio.offset = seconds; });
 }
 
 void ProjectEditor::setAudioFade(int seconds)
 {
-    d->changeProject(tr("Change audio fade"),
+    d->changeProject(QT_TR_NOOP("Change audio fade"),
                      [seconds](ProjectState &state) { state.audioFade = seconds; });
 }
 
 void ProjectEditor::setAudioLoop(bool on)
 {
-    d->changeProject(tr("Loop audio"), [on](ProjectState &state) { state.audioLoop = on; });
+    d->changeProject(QT_TR_NOOP("Loop audio"), [on](ProjectState &state) { state.audioLoop = on; });
 }
 
 void ProjectEditor::setResolution(const QSize &size)
 {
     if (!size.isEmpty())
-        d->changeProject(tr("Change resolution"),
+        d->changeProject(QT_TR_NOOP("Change resolution"),
                          [&size](ProjectState &state) { state.resolution = size; });
 }
 
 void ProjectEditor::setFormat(const QString &extension)
 {
-    d->changeProject(tr("Change format"),
+    d->changeProject(QT_TR_NOOP("Change format"),
                      [&extension](ProjectState &state) { state.format = extension; });
 }
 
 void ProjectEditor::setOrigRatio(bool on)
 {
-    d->changeProject(tr("Original ratio"), [on](ProjectState &state) { state.origRatio = on; });
+    d->changeProject(QT_TR_NOOP("Original ratio"),
+                     [on](ProjectState &state) { state.origRatio = on; });
 }
 
 void ProjectEditor::setScaleToFit(bool on)
 {
-    d->changeProject(tr("Scale to fit"), [on](ProjectState &state) { state.scaleToFit = on; });
+    d->changeProject(QT_TR_NOOP("Scale to fit"),
+                     [on](ProjectState &state) { state.scaleToFit = on; });
 }
 
 void ProjectEditor::setTransitionSeconds(int seconds)
 {
-    d->changeProject(tr("Change transition duration"),
+    d->changeProject(QT_TR_NOOP("Change transition duration"),
                      [seconds](ProjectState &state) { state.transitionSeconds = seconds; });
 }
 
@@ -312,7 +329,7 @@ int ProjectEditor::transitionSeconds() const
 
 void ProjectEditor::setName(const QString &name)
 {
-    d->changeProject(tr("Rename"), [&name](ProjectState &state) { state.name = name; });
+    d->changeProject(QT_TR_NOOP("Rename"), [&name](ProjectState &state) { state.name = name; });
 }
 
 } // namespace velmora

@@ -35,7 +35,14 @@ public:
     /// Lends a project (null: none), which must outlive its being set; clears the undo stack.
     void setProject(ProjectFile *project);
     ProjectFile *project() const;
+    /// Its texts are the names of the steps in English; see stepName().
     QUndoStack *undoStack() const;
+    /// The name of a step in the present language.
+    static QString stepName(const QString &step);
+    /// All edits up to endStep() are one step. Names of steps are marked with QT_TRANSLATE_NOOP for
+    /// the context "velmora::ProjectEditor", so that past ones follow a change of the language.
+    void beginStep(const char *step);
+    void endStep();
     /// Whether there are changes since setProject() or markSaved().
     bool isModified() const;
     void markSaved();
@@ -46,8 +53,8 @@ public:
     void removeSlides(const Slides &slides);
     /// Moves the slides, in their present order, to stand directly before @p row.
     void moveSlides(const Slides &slides, int row);
-    /// Replaces the order of all slides; @p text names the step, such as "Sort photos".
-    void setOrder(const Slides &order, const QString &text);
+    /// Replaces the order of all slides; @p step names the step, such as "Sort photos".
+    void setOrder(const Slides &order, const char *step);
     void setTime(const Slides &slides, int seconds);
     void setTransition(const Slides &slides, int transition);
     void rotate(const Slides &slides, int degrees);

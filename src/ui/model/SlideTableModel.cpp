@@ -2,15 +2,17 @@
 #include "ui/model/SlideTableModel.h"
 
 #include "project/documents/ProjectFile.h"
+#include "project/frames/SlideRenderer.h"
 #include "project/slides/ProjectItemFirst.h"
 #include "project/slides/ProjectItemSimple.h"
-#include "project/slides/TitleBackground.h"
 #include "project/slides/TransitionType.h"
 #include "ui/model/ProjectEditor.h"
 #include "ui/model/ValueLists.h"
 
 #include <QDir>
 #include <QGuiApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QSet>
 #include <QTransform>
 
@@ -55,6 +57,11 @@ SlideTableModel::SlideTableModel(ProjectEditor &editor, QObject *parent)
     });
     connect(&m_editor, &ProjectEditor::slidesChanged, this, &SlideTableModel::reset);
     connect(&m_editor, &ProjectEditor::slideChanged, this, &SlideTableModel::onSlideChanged);
+    connect(&m_editor, &ProjectEditor::settingsChanged, this, [this] {
+        // The title slide has the proportions of the video.
+        if (!m_slides.isEmpty())
+            emit dataChanged(index(0, NumberColumn), index(0, NumberColumn), {Qt::DecorationRole});
+    });
     connect(&m_provider, &ThubnailProvider::thumbnailReady, this,
             &SlideTableModel::onThumbnailReady);
     m_check.setSingleShot(true); // many slides may change at once
@@ -252,19 +259,34 @@ bool SlideTableModel::setData(const QModelIndex &index, const QVariant &value, i
 
 QImage SlideTableModel::thumbnail(const ProjectItem &slide) const
 {
-    if (const auto *title = qobject_cast<const ProjectItemFirst *>(&slide)) {
-        const QString key = QStringLiteral(":title/%1").arg(title->backgroundIndex());
-        if (!m_thumbnails.contains(key))
-            keep(key, titleBackground(title->backgroundIndex(), devicePixels(kThumbnailBox), true));
-        const QImage *image = m_thumbnails.object(key);
-        return image ? *image : QImage();
-    }
+    if (const auto *title = qobject_cast<const ProjectItemFirst *>(&slide))
+        return titleThumbnail(*title);
     const QString file = fileOf(slide);
     if (const QImage *image = m_thumbnails.object(file))
         return slide.angle() == 0 ? *image : image->transformed(QTransform().rotate(slide.angle()));
     if (!m_missing.isMissing(file))
         request(file);
     return {};
+}
+
+/// As it is in the video. Painted at once: it takes no file.
+QImage SlideTableModel::titleThumbnail(const ProjectItemFirst &title) const
+{
+    constexpr int kDetail = 4; // letters are painted larger, for they have no half pixels
+    const QSize size =
+        m_editor.project()->resolution().scaled(devicePixels(kThumbnailBox), Qt::KeepAspectRatio);
+    QJsonObject look;
+    title.toJson(look);
+    const QString key = QStringLiteral(":title/%1/%2").arg(size.width()).arg(size.height()) +
+                        QString::fromUtf8(QJsonDocument(look).toJson(QJsonDocument::Compact));
+    if (!m_thumbnails.contains(key)) {
+        const FrameFormat format{size * kDetail};
+        const QImage frame =
+            SlideRenderer::captionedFrame(SlideRenderer::bareFrame(title, format), title);
+        keep(key, frame.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    }
+    const QImage *image = m_thumbnails.object(key);
+    return image ? *image : QImage();
 }
 
 void SlideTableModel::keep(const QString &key, const QImage &thumbnail) const

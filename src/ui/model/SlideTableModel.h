@@ -16,6 +16,7 @@ namespace velmora
 
 class ProjectEditor;
 class ProjectItem;
+class ProjectItemFirst;
 
 /// The slides of a project as the editor's table shows them. Edits go through the ProjectEditor.
 /// Thumbnails are made on their own thread when a view first asks for them, so that only rows that
@@ -63,6 +64,7 @@ private:
     QVariant editValue(const ProjectItem &slide, int column) const;
     QString toolTip(const ProjectItem &slide) const;
     QImage thumbnail(const ProjectItem &slide) const;
+    QImage titleThumbnail(const ProjectItemFirst &title) const;
     void keep(const QString &key, const QImage &thumbnail) const;
     void request(const QString &fileName) const;
     void reset();

@@ -5,6 +5,7 @@
 #include "ui/model/ProjectEditor.h"
 #include "ui/preview/VideoPlayerWidget.h"
 
+#include <QHideEvent>
 #include <QVBoxLayout>
 
 namespace velmora
@@ -33,6 +34,7 @@ PreviewWidget::PreviewWidget(ProjectEditor &editor, const AppSettings &settings,
     connect(&editor, &ProjectEditor::slideChanged, this, refreshSoon);
     connect(&editor, &ProjectEditor::settingsChanged, this, refreshSoon);
     connect(&editor, &ProjectEditor::audioChanged, this, refreshSoon);
+    connect(m_player, &VideoPlayerWidget::playing, this, &PreviewWidget::playing);
     connect(m_player, &VideoPlayerWidget::clicked, this, &PreviewWidget::previewClicked);
     connect(m_player, &VideoPlayerWidget::fullSizeToggled, this, &PreviewWidget::toggleFullSize);
     m_project = editor.project();
@@ -76,6 +78,14 @@ void PreviewWidget::playFull()
 void PreviewWidget::stop()
 {
     m_player->stop();
+}
+
+/// Nobody could stop what plays on a page that is not shown.
+void PreviewWidget::hideEvent(QHideEvent *event)
+{
+    if (!event->spontaneous() && !m_player->isWindow())
+        stop();
+    QFrame::hideEvent(event);
 }
 
 void PreviewWidget::onSlidesChanged()

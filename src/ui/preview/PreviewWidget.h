@@ -36,8 +36,13 @@ public slots:
     void stop();
 
 signals:
+    /// Playing is about to begin or to go on after a pause.
+    void playing();
     /// The picture was clicked while nothing played.
     void previewClicked();
+
+protected:
+    void hideEvent(QHideEvent *event) override;
 
 private:
     void takeProject();

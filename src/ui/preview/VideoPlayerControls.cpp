@@ -13,6 +13,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <array>
 #include <limits>
 
 namespace velmora
@@ -63,6 +64,7 @@ void VideoPlayerWidget::on_btnPlay_clicked()
     } else if (player.isStopped()) {
         begin(m_mode);
     } else if (player.isPaused()) {
+        emit playing();
         player.play();
     } else {
         player.pause();
@@ -178,21 +180,24 @@ void VideoPlayerWidget::changeEvent(QEvent *event)
 
 void VideoPlayerWidget::arrangeButtons()
 {
-    const bool compact = height() < kCompactHeight;
+    const std::array<QToolButton *, 2> buttons = {m_ui->btnPreview, m_ui->btnRepeat};
+    int width = m_ui->buttonsLayout->spacing();
+    for (QToolButton *button : buttons) {
+        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        width += button->sizeHint().width();
+    }
+    // A row less of buttons is a larger picture.
+    const bool compact = height() < kCompactHeight || width > this->width();
     QBoxLayout &wanted = compact ? *m_ui->controlsLayout : *m_ui->buttonsLayout;
     int place = compact ? 2 : 0;
-    int width = m_ui->buttonsLayout->spacing();
-    for (QToolButton *button : {m_ui->btnPreview, m_ui->btnRepeat}) {
+    for (QToolButton *button : buttons) {
         button->setToolButtonStyle(compact ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
         button->setSizePolicy(compact ? QSizePolicy::Fixed : QSizePolicy::Expanding,
                               QSizePolicy::Fixed);
         m_ui->controlsLayout->removeWidget(button);
         m_ui->buttonsLayout->removeWidget(button);
         wanted.insertWidget(place++, button);
-        width += button->sizeHint().width();
     }
-    m_ui->buttonsLayout->setDirection(width > this->width() ? QBoxLayout::TopToBottom
-                                                            : QBoxLayout::LeftToRight);
     m_ui->lblLength->setVisible(!compact);
 }
 

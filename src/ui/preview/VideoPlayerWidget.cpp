@@ -110,6 +110,7 @@ void VideoPlayerWidget::begin(Mode mode)
     const PreviewScript::Pointer script = makeScript();
     if (!script)
         return;
+    emit playing();
     m_ui->player->setScript(script);
     showDuration(script->totalDuration());
     updateTitle();

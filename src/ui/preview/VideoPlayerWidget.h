@@ -47,6 +47,8 @@ public:
     bool isPlaying() const;
 
 signals:
+    /// Playing is about to begin or to go on after a pause.
+    void playing();
     void clicked(); ///< On the picture in its place, while nothing plays.
     void fullSizeToggled();
 

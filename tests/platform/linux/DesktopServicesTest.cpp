@@ -102,8 +102,10 @@ private slots:
             taskbar->setValue(42);
             taskbar->setValue(42);
             taskbar->setValue(170);
+            taskbar->setPaused(true);
+            taskbar->setPaused(false);
         }
-        QTRY_COMPARE(m_updates.size(), 4);
+        QTRY_COMPARE(m_updates.size(), 6);
         for (const auto &update : qAsConst(m_updates))
             QCOMPARE(update.first, QStringLiteral("application://velmora.desktop"));
         const auto property = [this](int index, const char *name) {
@@ -112,7 +114,9 @@ private slots:
         QCOMPARE(property(0, "progress-visible").toBool(), true);
         QCOMPARE(property(1, "progress").toDouble(), 0.42);
         QCOMPARE(property(2, "progress").toDouble(), 1.0);
-        QCOMPARE(property(3, "progress-visible").toBool(), false);
+        QCOMPARE(property(3, "progress-visible").toBool(), false); // paused
+        QCOMPARE(property(4, "progress-visible").toBool(), true);
+        QCOMPARE(property(5, "progress-visible").toBool(), false);
     }
 
     void notificationIsShownAndClicked()

@@ -95,6 +95,7 @@ private slots:
     {
         m->addPhotos(QStringLiteral("ab"));
         QSignalSpy finished(m->page.get(), &MainWindowWidget::finished);
+        QSignalSpy paused(m->page.get(), &MainWindowWidget::pausedChanged);
         m->click("btnCreate");
         const QImage pause = m->child<QPushButton>("btnPauseResume")->icon().pixmap(20).toImage();
         m->click("btnPauseResume");
@@ -103,6 +104,8 @@ private slots:
         QVERIFY(m->child<QPushButton>("btnPauseResume")->icon().pixmap(20).toImage() != pause);
         m->click("btnPauseResume");
         QVERIFY(!composer().isPaused());
+        QCOMPARE(paused.count(), 2);
+        QVERIFY(paused.first().first().toBool() && !paused.last().first().toBool());
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 120000);
     }
 
@@ -155,14 +158,30 @@ private slots:
         m->click("btnCancel");
     }
 
+    void folderMustBeWritable_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("problem");
+        // Not even the superuser writes there.
+        if (QFileInfo::exists(QStringLiteral("/proc")))
+            QTest::newRow("read-only")
+                << QStringLiteral("/proc") << QStringLiteral("be written to");
+        QTest::newRow("below a file") << QString() << QStringLiteral("cannot be made");
+    }
+
     void folderMustBeWritable()
     {
+        QFETCH(QString, folder);
+        QFETCH(QString, problem);
         QSignalSpy started(m->page.get(), &MainWindowWidget::progressStarted);
-        const QString folder = m->makePhoto(QStringLiteral("a.png")) + QStringLiteral("/videos");
-        m->settings.folder = folder; // not even the superuser writes there
+        if (folder.isEmpty())
+            folder = m->makePhoto(QStringLiteral("a.png")) + QStringLiteral("/videos");
+        m->settings.folder = folder;
         m->answerNext(0);
         m->click("btnCreate");
-        QVERIFY(m->message().contains(QDir::toNativeSeparators(folder)));
+        QVERIFY2(m->message().contains(QDir::toNativeSeparators(folder) + QLatin1Char(' ')),
+                 qPrintable(m->message()));
+        QVERIFY2(m->message().contains(problem), qPrintable(m->message()));
         QCOMPARE(started.count(), 0);
     }
 

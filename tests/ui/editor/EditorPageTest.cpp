@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/editor/EditorPage.h"
+#include "helpers/MediaSamples.h"
 #include "project/slides/ProjectItemSimple.h"
+#include "ui/audio/AudioFilesController.h"
+#include "ui/audio/AudioListWidget.h"
 #include "ui/model/ValueLists.h"
+#include "ui/preview/PreviewWidget.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -273,6 +277,33 @@ private slots:
         QVERIFY(m->items().at(2)->caption().text.isEmpty());
     }
 
+    void oneSoundIsHeardAtATime()
+    {
+        m->addPhotos(QStringLiteral("a"));
+        const QString music = m->path("music.wav");
+        QVERIFY(MediaSamples::makeTone(music, {}));
+        m->page->editor().addAudio({{music, QStringLiteral("0:00:02")}}, -1);
+        const auto *preview = m->page->findChild<PreviewWidget *>();
+        AudioFilesController &audio = m->page->findChild<AudioListWidget *>()->controller();
+        audio.play(0);
+        QCOMPARE(audio.playingRow(), 0);
+        m->click("btnFullPreview");
+        QCOMPARE(audio.playingRow(), -1);
+        QVERIFY(preview->isPlaying());
+        audio.play(0);
+        QCOMPARE(audio.playingRow(), 0);
+        QVERIFY(!preview->isPlaying());
+
+        // Nor is anything heard of a page that is not shown.
+        action("actCaption")->trigger();
+        QCOMPARE(audio.playingRow(), -1);
+        m->click("butCancelText");
+        m->click("btnFullPreview");
+        QVERIFY(preview->isPlaying());
+        m->page->hide();
+        QVERIFY(!preview->isPlaying());
+    }
+
     void cancelledCaptionChangesNothing()
     {
         m->addPhotos(QStringLiteral("a"));
@@ -297,10 +328,12 @@ private slots:
         QCoreApplication::processEvents();
         const QChar mark = QLatin1Char('~');
         for (const char *name : {"btnUp", "btnSort", "m_btnRotate", "btnUndo", "btnOutResolution",
-                                 "btnHelpRatio", "btnCreate", "btnPauseResume"})
+                                 "btnHelpRatio", "btnCreate", "btnPauseResume", "btnCancelBusy"})
             QVERIFY2(m->child<QWidget>(name)->toolTip().startsWith(mark), name);
         for (const char *name : {"lblChangeAll", "lblFilename", "lblResolution"})
             QVERIFY2(m->child<QLabel>(name)->text().startsWith(mark), name);
+        QVERIFY(m->child<QPushButton>("btnCancelBusy")->text().startsWith(mark));
+        QVERIFY(m->child<QWidget>("btnUndo")->toolTip().contains(QLatin1String("~Add photos")));
         QVERIFY(m->child<QPushButton>("btnClear")->text().contains(QLatin1String("(2)")));
         QCOMPARE(m->child<QPopupButton>("btnDefaultTime")->text(), QStringLiteral("~1 sec"));
         QCOMPARE(m->child<QPushButton>("btnCreate")->shortcut(),
@@ -314,7 +347,10 @@ private slots:
         QVERIFY(QDir().mkpath(m->path("moved")));
         for (const char *name : {"a.png", "b.png"})
             QVERIFY(QFile::rename(m->path(name), m->path("moved/") + QLatin1String(name)));
-        m->table().slides()->checkFiles();
+        QWidget fileManager;
+        fileManager.show();
+        QApplication::setActiveWindow(&fileManager);
+        QApplication::setActiveWindow(m->page.get());
         const QModelIndex missing = m->table().model()->index(1, 0);
         QTRY_VERIFY(missing.data(SlideTableModel::MissingRole).toBool());
         m->select({1});

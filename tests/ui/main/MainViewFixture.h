@@ -14,8 +14,11 @@
 #include "ui/main/MainView.h"
 #include "ui/main/ProjectDocument.h"
 
+#include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QImage>
+#include <QLineEdit>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -28,11 +31,12 @@ class RecordedTaskbar : public TaskbarProgress
 public:
     void setWindow(QWindow *shown) override { window = shown; }
     void setVisible(bool shown) override { visible = shown; }
-    void setPaused(bool) override {}
+    void setPaused(bool on) override { paused = on; }
     void setValue(int percent) override { value = percent; }
 
     QWindow *window = nullptr;
     bool visible = false;
+    bool paused = false;
     int value = -1;
 };
 
@@ -95,6 +99,37 @@ public:
         QTest::keyClick(view.get(), static_cast<Qt::Key>(key), modifiers);
     }
 
+    /// Types file names into the next file dialog; none: cancels it.
+    void chooseFiles(const QStringList &files)
+    {
+        dialogs.expect([this, files](QDialog *dialog) {
+            auto *fileDialog = qobject_cast<QFileDialog *>(dialog);
+            if (!fileDialog)
+                return dialog->reject();
+            dialogFilters = fileDialog->nameFilters();
+            dialogFolder = fileDialog->directory().absolutePath();
+            if (files.isEmpty())
+                return dialog->reject();
+            QStringList quoted;
+            for (const QString &file : files)
+                quoted.append(QLatin1Char('"') + file + QLatin1Char('"'));
+            auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+            const QString text = quoted.size() == 1 ? files.first() : quoted.join(QLatin1Char(' '));
+            if (fileDialog->acceptMode() == QFileDialog::AcceptSave) {
+                // Only typed text takes the place of the name that is proposed.
+                name->selectAll();
+                QTest::keyClicks(name, text);
+            } else {
+                name->setText(text);
+            }
+            const auto *buttons = dialog->findChild<QDialogButtonBox *>();
+            const auto accept = fileDialog->acceptMode() == QFileDialog::AcceptSave
+                                    ? QDialogButtonBox::Save
+                                    : QDialogButtonBox::Open;
+            QTest::mouseClick(buttons->button(accept), Qt::LeftButton);
+        });
+    }
+
     QString makePhoto(const QString &name) const
     {
         QImage image(64, 48, QImage::Format_RGB32);
@@ -133,6 +168,8 @@ public:
     RecordedNotification notification;
     RecordedFileManager fileManager;
     DialogDriver dialogs;
+    QStringList dialogFilters; ///< Of the last file dialog.
+    QString dialogFolder;
     std::unique_ptr<MainView> view;
 };
 

@@ -44,40 +44,7 @@ private:
         QApplication::sendEvent(area, &drop);
     }
 
-    /// Types file names into the next file dialog; none: cancels it.
-    void chooseFiles(const QStringList &files)
-    {
-        m->dialogs.expect([this, files](QDialog *dialog) {
-            auto *fileDialog = qobject_cast<QFileDialog *>(dialog);
-            if (!fileDialog)
-                return dialog->reject();
-            m_filters = fileDialog->nameFilters();
-            m_directory = fileDialog->directory().absolutePath();
-            if (files.isEmpty())
-                return dialog->reject();
-            QStringList quoted;
-            for (const QString &file : files)
-                quoted.append(QLatin1Char('"') + file + QLatin1Char('"'));
-            auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-            const QString text = quoted.size() == 1 ? files.first() : quoted.join(QLatin1Char(' '));
-            if (fileDialog->acceptMode() == QFileDialog::AcceptSave) {
-                // Only typed text takes the place of the name that is proposed.
-                name->selectAll();
-                QTest::keyClicks(name, text);
-            } else {
-                name->setText(text);
-            }
-            const auto *buttons = dialog->findChild<QDialogButtonBox *>();
-            const auto accept = fileDialog->acceptMode() == QFileDialog::AcceptSave
-                                    ? QDialogButtonBox::Save
-                                    : QDialogButtonBox::Open;
-            QTest::mouseClick(buttons->button(accept), Qt::LeftButton);
-        });
-    }
-
     std::unique_ptr<MainViewFixture> m;
-    QStringList m_filters;
-    QString m_directory;
     QStringList m_addresses;
 
 private slots:
@@ -143,11 +110,12 @@ private slots:
                                 m->makePhoto(QStringLiteral("b b.png"))};
         if (fromHistory)
             m->click("btnHistory");
-        chooseFiles(files);
+        m->chooseFiles(files);
         m->view->onBtnAddPhotoClicked();
         QCOMPARE(m->dialogs.title(), QStringLiteral("Open File"));
-        QCOMPARE(m_filters, QStringList(QStringLiteral("Images (*.png *.jpg *.jpeg *.bmp *.gif)")));
-        QCOMPARE(m_directory, QStringLiteral("/usr"));
+        QCOMPARE(m->dialogFilters,
+                 QStringList(QStringLiteral("Images (*.png *.jpg *.jpeg *.bmp *.gif)")));
+        QCOMPARE(m->dialogFolder, QStringLiteral("/usr"));
         QCOMPARE(m->view->page(), fromHistory || !cancelled ? MainView::Editor : MainView::Start);
         QCOMPARE(m->store->value(QStringLiteral("last_open_folder")).toString(),
                  cancelled ? QStringLiteral("/usr") : m->folder.path());
@@ -162,7 +130,7 @@ private slots:
         m->makePhoto(QStringLiteral("album/img2.png"));
         m->makePhoto(QStringLiteral("album/inner/x.png"));
         const QString album = m->folder.filePath(QStringLiteral("album"));
-        chooseFiles({album});
+        m->chooseFiles({album});
         m->click("btnAddFolder");
         QCOMPARE(m->dialogs.title(), QStringLiteral("Add Folder"));
         QTRY_COMPARE(m->photos(),
@@ -203,9 +171,14 @@ private slots:
         QCOMPARE(m->taskbar.value, 0);
         emit editor.progress(42);
         QCOMPARE(m->taskbar.value, 42);
+        emit editor.pausedChanged(true);
+        QVERIFY(m->taskbar.paused);
         emit editor.progressFinished();
         QCOMPARE(locked(), 0);
         QVERIFY(!m->taskbar.visible);
+        emit editor.progressStarted();
+        QVERIFY(m->taskbar.visible && !m->taskbar.paused);
+        emit editor.progressFinished();
     }
 
     void finishedVideoIsShownInTheHistory()
@@ -226,123 +199,6 @@ private slots:
         // The history keeps the slideshow, so that nothing would be lost.
         QVERIFY(!m->view->isWindowModified());
         QVERIFY(m->view->close());
-    }
-
-    void resumeAsksAboutMissingFiles_data()
-    {
-        QTest::addColumn<QString>("answer");
-        QTest::newRow("RESUME") << QStringLiteral("RESUME");
-        QTest::newRow("CANCEL") << QStringLiteral("CANCEL");
-    }
-
-    void resumeAsksAboutMissingFiles()
-    {
-        QFETCH(QString, answer);
-        auto entry = std::make_unique<ProjectFile>(m->settings, ProjectFile::TitleSlide::Create);
-        entry->setName(QStringLiteral("Old trip"));
-        entry->addFiles({m->makePhoto(QStringLiteral("there.png")),
-                         m->folder.filePath(QStringLiteral("gone.png"))},
-                        3, 1);
-        AudioItemList audio;
-        audio.items = {{m->folder.filePath(QStringLiteral("gone.mp3")), QStringLiteral("0:03")}};
-        entry->setAudio(audio);
-        m->history->add(std::move(entry));
-        m->show();
-        QCOMPARE(m->child<QPushButton>("btnRecent")->text(),
-                 QStringLiteral("Continue with Old trip"));
-        m->dialogs.press(answer);
-        m->click("btnRecent");
-        QTRY_COMPARE(m->dialogs.title(), QStringLiteral("Not all files exist"));
-        QCOMPARE(m->dialogs.text(),
-                 QStringLiteral("Not all files exist, do you want to resume the project?"));
-        if (answer == QLatin1String("CANCEL")) {
-            QVERIFY(!m->view->document().project());
-            QCOMPARE(m->view->page(), MainView::Start);
-            return;
-        }
-        QTRY_COMPARE(m->view->page(), MainView::Editor);
-        QCOMPARE(m->photos(), QStringList(QStringLiteral("there.png")));
-        QVERIFY(m->view->document().project()->audio().items.isEmpty());
-        QVERIFY(!m->view->isWindowModified());
-        // The history still has the whole of it.
-        QCOMPARE(m->history->projects().front()->items().size(), 3);
-    }
-
-    void documentIsOpenedChangedAndSaved()
-    {
-        ProjectFile document(m->settings, ProjectFile::TitleSlide::Create);
-        document.addFiles({m->makePhoto(QStringLiteral("a.png"))}, 3, 1);
-        const QString path = m->folder.filePath(QStringLiteral("Holiday 2026.json"));
-        QVERIFY(document.saveToFile(path));
-        chooseFiles({path});
-        m->press(Qt::Key_O, Qt::ControlModifier);
-        QCOMPARE(m->view->page(), MainView::Editor);
-        QCOMPARE(m->view->windowTitle(), QStringLiteral("Holiday 2026[*] \u2013 Corvel Velmora"));
-        QVERIFY(!m->view->isWindowModified());
-        m->view->editorPage().editor().addPhotos({m->makePhoto(QStringLiteral("b.png"))}, -1);
-        QVERIFY(m->view->isWindowModified());
-        m->press(Qt::Key_S, Qt::ControlModifier);
-        QVERIFY(!m->view->isWindowModified());
-        QString error;
-        const auto read = ProjectFile::loadFromFile(path, m->settings, &error);
-        QVERIFY2(read, qPrintable(error));
-        QCOMPARE(read->items().size(), 3);
-
-        const QString copy = m->folder.filePath(QStringLiteral("copy"));
-        chooseFiles({copy});
-        m->press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
-        QVERIFY(QFile::exists(copy + QStringLiteral(".json")));
-        m->press(Qt::Key_N, Qt::ControlModifier);
-        QCOMPARE(m->view->page(), MainView::Start);
-        QVERIFY(!m->view->document().project());
-    }
-
-    void badDocumentChangesNothing_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::newRow("no JSON") << QByteArray("hello");
-        QTest::newRow("no project") << QByteArray("{\"a\": 1}");
-        QTest::newRow("empty") << QByteArray();
-    }
-
-    void badDocumentChangesNothing()
-    {
-        QFETCH(QByteArray, content);
-        m->beginSlideshow();
-        QFile file(m->folder.filePath(QStringLiteral("bad.json")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        file.close();
-        m->dialogs.press(QStringLiteral("CLOSE"));
-        m->view->openFiles({file.fileName()});
-        QVERIFY(m->dialogs.text().contains(QStringLiteral("bad.json")));
-        QCOMPARE(m->photos(), QStringList(QStringLiteral("begin.png")));
-        QVERIFY(m->view->isWindowModified());
-    }
-
-    void closingAsks_data()
-    {
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<bool>("closed");
-        QTest::addColumn<bool>("saved");
-        QTest::newRow("cancel") << QStringLiteral("CANCEL") << false << false;
-        QTest::newRow("discard") << QStringLiteral("DON'T SAVE") << true << false;
-        QTest::newRow("save") << QStringLiteral("SAVE") << true << true;
-    }
-
-    void closingAsks()
-    {
-        QFETCH(QString, answer);
-        QFETCH(bool, closed);
-        QFETCH(bool, saved);
-        m->beginSlideshow();
-        const QString path = m->folder.filePath(QStringLiteral("mine.json"));
-        m->dialogs.press(answer);
-        if (saved)
-            chooseFiles({path});
-        m->view->close();
-        QCOMPARE(m->view->isVisible(), !closed);
-        QCOMPARE(QFile::exists(path), saved);
     }
 
     void geometryIsKept()

@@ -80,9 +80,7 @@ private slots:
         row("remove", [](auto &e, auto &s) { e.removeSlides({s[1], s[3]}); });
         row("remove all", [](auto &e, auto &s) { e.removeSlides(s); });
         row("move", [](auto &e, auto &s) { e.moveSlides({s[1], s[3]}, 5); });
-        row("order", [](auto &e, auto &s) {
-            e.setOrder(S{s[0], s[4], s[3], s[2], s[1]}, QStringLiteral("Sort"));
-        });
+        row("order", [](auto &e, auto &s) { e.setOrder(S{s[0], s[4], s[3], s[2], s[1]}, "Sort"); });
         row("time", [](auto &e, auto &s) { e.setTime(s, 7); });
         row("transition", [](auto &e, auto &s) { e.setTransition(s, 27); });
         row("rotate", [](auto &e, auto &s) { e.rotate({s[2]}, -90); });

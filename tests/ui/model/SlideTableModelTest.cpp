@@ -115,6 +115,23 @@ private slots:
         QCOMPARE(this->thumbnail(model, 1).pixelColor(0, 0), QColor(Qt::red));
     }
 
+    void titleIsShownAsInTheVideo()
+    {
+        SlideTableModel model(*m_editor);
+        m_editor->setResolution({1920, 1080});
+        const auto shown = [&] { return thumbnail(model, 0); };
+        QCOMPARE(shown().size(), QSize(96, 54));
+        const QImage before = shown();
+        CaptionStyle caption = m_project->items().first()->caption();
+        caption.text.clear();
+        m_editor->setCaption(m_project->items(), caption);
+        QVERIFY(shown() != before);
+        QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+        m_editor->setResolution({640, 480});
+        QVERIFY(changed.size() > 0);
+        QCOMPARE(shown().size(), QSize(85, 64));
+    }
+
     void onlyVisibleRowsAreDecoded()
     {
         QStringList paths;
@@ -150,7 +167,6 @@ private slots:
         QVERIFY(model.flags(model.index(1, 0)) & Qt::ItemIsDragEnabled);
         QCOMPARE(model.index(1, 0).data(SlideTableModel::TitleRole).toString(),
                  QStringLiteral("a.jpg"));
-        QCOMPARE(thumbnail(model, 0).size(), SlideTableModel::kThumbnailBox);
         const QStringList headers = {QStringLiteral("#"), QStringLiteral("Time"),
                                      QStringLiteral("Transition"), QStringLiteral("Text")};
         for (int column = 0; column < headers.size(); ++column)

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Identity.h"
+#include "ui/main/MainViewFixture.h"
+
+#include <QPushButton>
+
+using namespace velmora;
+
+/// Slideshows opened, saved, resumed and closed in the main window.
+class DocumentsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<MainViewFixture> m;
+
+private slots:
+    void initTestCase()
+    {
+        applyIdentity();
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    }
+    void init()
+    {
+        m = std::make_unique<MainViewFixture>();
+        m->show();
+    }
+    void cleanup()
+    {
+        QCOMPARE(m->dialogs.failure(), QString());
+        m.reset();
+    }
+
+    void resumeAsksAboutMissingFiles_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::newRow("RESUME") << QStringLiteral("RESUME");
+        QTest::newRow("CANCEL") << QStringLiteral("CANCEL");
+    }
+
+    void resumeAsksAboutMissingFiles()
+    {
+        QFETCH(QString, answer);
+        auto entry = std::make_unique<ProjectFile>(m->settings, ProjectFile::TitleSlide::Create);
+        entry->setName(QStringLiteral("Old trip"));
+        entry->addFiles({m->makePhoto(QStringLiteral("there.png")),
+                         m->folder.filePath(QStringLiteral("gone.png"))},
+                        3, 1);
+        AudioItemList audio;
+        audio.items = {{m->folder.filePath(QStringLiteral("gone.mp3")), QStringLiteral("0:03")}};
+        entry->setAudio(audio);
+        m->history->add(std::move(entry));
+        m->show();
+        QCOMPARE(m->child<QPushButton>("btnRecent")->text(),
+                 QStringLiteral("Continue with Old trip"));
+        m->dialogs.press(answer);
+        m->click("btnRecent");
+        QTRY_COMPARE(m->dialogs.title(), QStringLiteral("Not all files exist"));
+        QCOMPARE(m->dialogs.text(),
+                 QStringLiteral("Not all files exist, do you want to resume the project?"));
+        if (answer == QLatin1String("CANCEL")) {
+            QVERIFY(!m->view->document().project());
+            QCOMPARE(m->view->page(), MainView::Start);
+            return;
+        }
+        QTRY_COMPARE(m->view->page(), MainView::Editor);
+        QCOMPARE(m->photos(), QStringList(QStringLiteral("there.png")));
+        QVERIFY(m->view->document().project()->audio().items.isEmpty());
+        QVERIFY(!m->view->isWindowModified());
+        // The history still has the whole of it.
+        QCOMPARE(m->history->projects().front()->items().size(), 3);
+    }
+
+    void documentIsOpenedChangedAndSaved()
+    {
+        ProjectFile document(m->settings, ProjectFile::TitleSlide::Create);
+        document.addFiles({m->makePhoto(QStringLiteral("a.png"))}, 3, 1);
+        const QString path = m->folder.filePath(QStringLiteral("Holiday 2026.json"));
+        QVERIFY(document.saveToFile(path));
+        m->chooseFiles({path});
+        m->press(Qt::Key_O, Qt::ControlModifier);
+        QCOMPARE(m->view->page(), MainView::Editor);
+        QCOMPARE(m->view->windowTitle(), QStringLiteral("Holiday 2026[*] \u2013 Corvel Velmora"));
+        QVERIFY(!m->view->isWindowModified());
+        m->view->editorPage().editor().addPhotos({m->makePhoto(QStringLiteral("b.png"))}, -1);
+        QVERIFY(m->view->isWindowModified());
+        m->press(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(!m->view->isWindowModified());
+        QString error;
+        const auto read = ProjectFile::loadFromFile(path, m->settings, &error);
+        QVERIFY2(read, qPrintable(error));
+        QCOMPARE(read->items().size(), 3);
+
+        const QString copy = m->folder.filePath(QStringLiteral("copy"));
+        m->chooseFiles({copy});
+        m->press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY(QFile::exists(copy + QStringLiteral(".json")));
+        m->press(Qt::Key_N, Qt::ControlModifier);
+        QCOMPARE(m->view->page(), MainView::Start);
+        QVERIFY(!m->view->document().project());
+    }
+
+    void badDocumentChangesNothing_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("no JSON") << QByteArray("hello");
+        QTest::newRow("no project") << QByteArray("{\"a\": 1}");
+        QTest::newRow("empty") << QByteArray();
+    }
+
+    void badDocumentChangesNothing()
+    {
+        QFETCH(QByteArray, content);
+        m->beginSlideshow();
+        QFile file(m->folder.filePath(QStringLiteral("bad.json")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        m->dialogs.press(QStringLiteral("CLOSE"));
+        m->view->openFiles({file.fileName()});
+        QVERIFY(m->dialogs.text().contains(QStringLiteral("bad.json")));
+        QCOMPARE(m->photos(), QStringList(QStringLiteral("begin.png")));
+        QVERIFY(m->view->isWindowModified());
+    }
+
+    void closingAsks_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<bool>("closed");
+        QTest::addColumn<bool>("saved");
+        QTest::newRow("cancel") << QStringLiteral("CANCEL") << false << false;
+        QTest::newRow("discard") << QStringLiteral("DON'T SAVE") << true << false;
+        QTest::newRow("save") << QStringLiteral("SAVE") << true << true;
+    }
+
+    void closingAsks()
+    {
+        QFETCH(QString, answer);
+        QFETCH(bool, closed);
+        QFETCH(bool, saved);
+        m->beginSlideshow();
+        const QString path = m->folder.filePath(QStringLiteral("mine.json"));
+        m->dialogs.press(answer);
+        if (saved)
+            m->chooseFiles({path});
+        m->view->close();
+        QCOMPARE(m->view->isVisible(), !closed);
+        QCOMPARE(QFile::exists(path), saved);
+    }
+};
+
+QTEST_MAIN(DocumentsTest)
+#include "DocumentsTest.moc"
