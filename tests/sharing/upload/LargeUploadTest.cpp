@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+#include <algorithm>
+
 using namespace velmora;
 
 namespace
@@ -79,7 +81,10 @@ void LargeUploadTest::memoryStaysFlat()
     QCOMPARE(static_cast<qint64>(
                  m_services.files().at(1).toObject().value(QLatin1String("size")).toDouble()),
              kSize);
-    QVERIFY(course.progress.contains(50) && course.progress.last() == 100);
+    // One report may cover several percent, when much is sent at a time.
+    QVERIFY(std::any_of(course.progress.begin(), course.progress.end(),
+                        [](int percent) { return percent > 40 && percent < 60; }));
+    QCOMPARE(course.progress.last(), 100);
     qInfo("idle %lld KiB, peak %lld KiB", idle, peak);
 #ifndef __SANITIZE_ADDRESS__
     QVERIFY2(peak - idle < kAllowance, qPrintable(QString::number(peak - idle)));
