@@ -17,12 +17,13 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 format=no asan=no tsan=no fuzz=0 windows=no only=.
 # The whole under Wine takes too long for every change: these show what differs on Windows.
 windows_tests=(
-    AppSettingsTest CacheSweeperTest ComposerTest ConcatListTest CrashDumpTest CrashReporterTest
-    CreateVideoTest EncoderLocatorTest ExifReaderTest FrameWriterTest HistoryStoreTest
-    ImageCheckTest ImageLoaderTest LogTest MakeProjectTest OutputTargetTest ProcessTreeTest
-    ProjectFileTest ProjectSlidesTest SecretsTest ServicesConfigTest SessionKeyTest
-    SessionValuesTest ShortcutResolverTest SingleInstanceTest StandardOutputTest SystemInfoTest
-    TerminationWatcherTest ToolRunnerTest VelmoratoolTest VelmoraStartTest WorkerTest
+    AppSettingsTest CacheSweeperTest ComposerTest ConcatListTest CrashDumpTest
+    CrashReporterTest CreateVideoTest DiscWriterTest EncoderLocatorTest ExifReaderTest
+    FrameWriterTest HistoryStoreTest ImageCheckTest ImageLoaderTest LogTest
+    MakeProjectTest OutputTargetTest ProcessTreeTest ProjectFileTest ProjectSlidesTest
+    SecretsTest ServicesConfigTest SessionKeyTest SessionValuesTest ShortcutResolverTest
+    SingleInstanceTest StandardOutputTest SystemInfoTest TerminationWatcherTest
+    ToolRunnerTest VelmoraStartTest VelmoratoolTest WindowsBurnTest WorkerTest
 )
 sdk=${VELMORA_WINDOWS_SDK_ARCHIVE:-../shared/windows/velmora-windows-sdk.tar.xz}
 usage() { sed -n 's/^#   //p' "$0"; }
