@@ -62,8 +62,10 @@ QStringList EncoderCommands::segment(const QString &imagesFolder, const QString 
               << QStringLiteral("-frames:v")
               << QString::number(EncoderOptions::frameCount(duration))
               << EncoderOptions::videoOptions(format.extension, format.size.height(),
-                                              format.profile)
-              << QStringLiteral("-y") << QStringLiteral("-s")
+                                              format.profile);
+    if (frames == 1)
+        arguments += EncoderOptions::stillOptions(format.extension, format.profile);
+    arguments << QStringLiteral("-y") << QStringLiteral("-s")
               << QStringLiteral("%1x%2").arg(format.size.width()).arg(format.size.height());
     return arguments;
 }

@@ -38,6 +38,7 @@ constexpr char kBuffer[] = "%buffer";
 struct FormatRow {
     Arguments extensions; // none: every other extension
     Arguments video;
+    Arguments still; // added for a picture that stands still
     Arguments sound;
     Arguments container;
     const char *pixels; // filters before the frame rate is fixed
@@ -73,6 +74,9 @@ constexpr Arguments kEverywhereVideo{
     "-profile:v",       "high",  "-pix_fmt",   "yuv420p", "-crf",         "20",
     "-maxrate",         kRate,   "-bufsize",   kBuffer,   "-colorspace",  "bt709",
     "-color_primaries", "bt709", "-color_trc", "bt709",   "-color_range", "tv"};
+// Without a fine search the encoder drops its psycho-visual part, and with it two steps of the
+// chroma quantizer, which stand in the headers that all segments share.
+constexpr Arguments kEverywhereStill{"-subq", "1", "-me_method", "dia", "-chromaoffset", "-2"};
 constexpr Arguments kAacSound{"-acodec", "aac", "-b:a", "192k", "-ac", "2", "-ar", "44100"};
 constexpr Arguments kFastStart{"-movflags", "+faststart"};
 // JPEG frames are full-range BT.601; the primaries are named only because the filter insists.
@@ -80,14 +84,15 @@ constexpr char kToBt709[] = "colorspace=ispace=bt470bg:space=bt709:iprimaries=bt
                             "bt709:itrc=bt709:trc=bt709:irange=pc:range=tv:format=yuv420p,";
 
 const std::array<FormatRow, 5> kOriginalRows{{
-    {kWebm, kWebmVideo, kWebmSound, kNothing, "format=yuv420p,"},
-    {kH264, kH264Video, kMp3Sound, kNothing, ""},
-    {kAvi, kH264Video, kMp3Sound, kAviContainer, ""},
-    {kWmv, kWmvVideo, kWmvSound, kNothing, "format=yuv420p,"},
-    {kNothing, kOtherVideo, kOtherSound, kNothing, ""},
+    {kWebm, kWebmVideo, kNothing, kWebmSound, kNothing, "format=yuv420p,"},
+    {kH264, kH264Video, kNothing, kMp3Sound, kNothing, ""},
+    {kAvi, kH264Video, kNothing, kMp3Sound, kAviContainer, ""},
+    {kWmv, kWmvVideo, kNothing, kWmvSound, kNothing, "format=yuv420p,"},
+    {kNothing, kOtherVideo, kNothing, kOtherSound, kNothing, ""},
 }};
 
-const FormatRow kEverywhereRow{kEverywhere, kEverywhereVideo, kAacSound, kFastStart, kToBt709};
+const FormatRow kEverywhereRow{kEverywhere, kEverywhereVideo, kEverywhereStill,
+                               kAacSound,   kFastStart,       kToBt709};
 
 bool serves(const FormatRow &row, const QString &extension)
 {
@@ -178,6 +183,11 @@ QStringList EncoderOptions::videoOptions(const QString &extension, int height,
     return toList(rowOf(extension, profile).video)
         .replaceInStrings(QLatin1String(kRate), QLatin1String(rates.value))
         .replaceInStrings(QLatin1String(kBuffer), QLatin1String(rates.doubled));
+}
+
+QStringList EncoderOptions::stillOptions(const QString &extension, OutputProfile profile)
+{
+    return toList(rowOf(extension, profile).still);
 }
 
 QStringList EncoderOptions::soundOptions(const QString &extension, OutputProfile profile)

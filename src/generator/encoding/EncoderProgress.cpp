@@ -11,11 +11,10 @@ namespace velmora
 
 int EncoderProgress::seconds(const QString &output)
 {
-    QRegExp pattern(QStringLiteral("time=(\\d\\d:\\d\\d:\\d\\d).\\d\\d"));
-    if (pattern.lastIndexIn(output) < 0) {
-        qCDebug(generatorLog) << "Failed to parse time from ffmpeg";
+    if (!output.contains(QLatin1String("time=")))
         return -1;
-    }
+    QRegExp pattern(QStringLiteral("time=(\\d\\d:\\d\\d:\\d\\d).\\d\\d"));
+    pattern.lastIndexIn(output);
     const QTime time = QTime::fromString(pattern.cap(1), QStringLiteral("hh:mm:ss"));
     if (!time.isValid()) {
         qCDebug(generatorLog) << "Failed to parse time from ffmpeg";

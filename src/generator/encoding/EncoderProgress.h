@@ -12,7 +12,8 @@ namespace EncoderProgress
 {
 
 /// The newest "time=" of @p output in whole seconds; -1 when it has none that parses. Logs
-/// "Found timeout from ffmpeg: " with the value or "Failed to parse time from ffmpeg".
+/// "Found timeout from ffmpeg: " with the value, or "Failed to parse time from ffmpeg" where there
+/// is a time of another form.
 int seconds(const QString &output);
 
 } // namespace EncoderProgress

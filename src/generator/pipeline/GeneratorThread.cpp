@@ -2,6 +2,7 @@
 #include "generator/pipeline/GeneratorThread.h"
 
 #include "generator/GeneratorLog.h"
+#include "generator/encoding/EncoderProgress.h"
 #include "generator/pipeline/FrameProducer.h"
 #include "generator/pipeline/OutputTarget.h"
 #include "generator/pipeline/PrepareAudioThread.h"
@@ -15,7 +16,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QTime>
 
 #include <cstdlib>
 #include <ctime>
@@ -42,8 +42,7 @@ constexpr int kMultiplexPart = 20;
 GeneratorThread::GeneratorThread(const ProjectFile &project, const Settings &settings,
                                  OutputTarget &target, QObject *parent)
     : QThread(parent), m_project(project), m_settings(settings), m_target(target),
-      m_cache(settings.cacheFolder),
-      m_timePattern(QStringLiteral("time=(\\d\\d:\\d\\d:\\d\\d).\\d\\d"))
+      m_cache(settings.cacheFolder)
 {
     m_pool.setMaxThreadCount(kPoolThreads);
     qCInfo(generatorLog) << "GENERATOR THREADS:" << m_pool.maxThreadCount();
@@ -213,18 +212,16 @@ void GeneratorThread::conclude(bool done)
         return;
     }
     RenderError error;
-    int step = -1;
     {
         const std::lock_guard<std::mutex> locker(m_mutex);
         error = m_error;
-        step = m_step;
     }
     if (!error.isSet()) {
         emit cancelled();
         return;
     }
     qCWarning(generatorLog).noquote() << error.code << error.text;
-    if (step == Joining || step == Multiplexing)
+    if (error.code != RenderErrorCode::kCache)
         MetricSender::instance().record(QStringLiteral("err1"), 1);
     emit failed(error);
 }
@@ -337,13 +334,10 @@ void GeneratorThread::onTimer()
         const std::lock_guard<std::mutex> locker(m_context.outputMutex);
         output.swap(m_context.encoderOutput);
     }
-    if (m_timePattern.lastIndexIn(output) >= 0) {
-        const QTime time = QTime::fromString(m_timePattern.cap(1), QStringLiteral("hh:mm:ss"));
-        qCDebug(generatorLog) << "Found timeout from ffmpeg: " << time;
-        m_progress.setRunPosition(time.msecsSinceStartOfDay());
+    const int seconds = EncoderProgress::seconds(output);
+    if (seconds >= 0) {
+        m_progress.setRunPosition(seconds * 1000LL);
         onVideoFrameGenerated();
-    } else if (output.contains(QLatin1String("time="))) {
-        qCDebug(generatorLog) << "Failed to parse time from ffmpeg";
     }
     watchForStall();
 }

@@ -10,7 +10,6 @@
 #include "project/frames/FrameFitter.h"
 
 #include <QElapsedTimer>
-#include <QRegExp>
 #include <QSize>
 #include <QThread>
 #include <QThreadPool>
@@ -116,7 +115,6 @@ private:
     RenderCache m_cache;
     QThreadPool m_pool;
     QTimer m_timer;
-    QRegExp m_timePattern;
     Progress m_progress;
     std::unique_ptr<SlideFrames> m_frames;
     std::unique_ptr<PrepareAudioThread> m_soundThread;

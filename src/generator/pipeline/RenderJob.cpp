@@ -95,6 +95,8 @@ void RenderJob::Private::check()
 /// Everything that can be known before the first frame.
 RenderError RenderJob::Private::findFault()
 {
+    // First of all: what killed renders left may fill the very disk that the checks look at.
+    CacheSweeper::sweepAll(cacheFolder);
     RenderError error = checkProject();
     if (error.isSet())
         return error;
@@ -105,8 +107,6 @@ RenderError RenderJob::Private::findFault()
                            CacheSweeper::lockFolder());
     if (!error.isSet())
         error = InputCheck::run(*request.project, cancelRequested);
-    if (!error.isSet())
-        CacheSweeper::sweepAll(cacheFolder);
     return error;
 }
 

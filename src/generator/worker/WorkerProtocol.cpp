@@ -123,4 +123,9 @@ WorkerMessage WorkerProtocol::decode(const QByteArray &line)
     return readFields(object, message) ? message : WorkerMessage();
 }
 
+WorkerExitCode exitCodeOf(const RenderError &error)
+{
+    return error.code == RenderErrorCode::kRequest ? kExitBadArguments : kExitFailed;
+}
+
 } // namespace velmora

@@ -22,6 +22,8 @@ struct WorkerMessage {
 
 /// Exit codes of the worker and of the command line.
 enum WorkerExitCode { kExitDone = 0, kExitFailed = 1, kExitBadArguments = 2, kExitCancelled = 3 };
+/// The exit code of a render that failed with @p error.
+WorkerExitCode exitCodeOf(const RenderError &error);
 
 /// Both directions of the protocol. Decoding accepts any bytes and yields Invalid for lines that
 /// are not of it.

@@ -32,7 +32,7 @@ WorkerRun::WorkerRun(RenderRequest request, const AppSettings &settings, const Q
     });
     connect(&m_job, &RenderJob::failed, this, [this](const RenderError &error) {
         ProtocolPrinter::failed(error);
-        end(kExitFailed);
+        end(exitCodeOf(error));
     });
     connect(&m_job, &RenderJob::cancelled, this, [this] {
         ProtocolPrinter::cancelled();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "programs/velmoratool/HelpText.h"
 
+#include "app/Identity.h"
+
 namespace velmora
 {
 
@@ -47,6 +49,11 @@ QString helpText()
         "\n"
         "What is left out is taken from the settings of the editor.\n"
         "Exit codes: 0 done, 1 failed, 2 wrong arguments, 3 cancelled.\n");
+}
+
+QString versionText()
+{
+    return QStringLiteral("velmoratool %1\n").arg(programVersion());
 }
 
 } // namespace velmora

@@ -10,4 +10,7 @@ namespace velmora
 /// last one with its newline.
 QString helpText();
 
+/// The program's name and version; one line with its newline.
+QString versionText();
+
 } // namespace velmora

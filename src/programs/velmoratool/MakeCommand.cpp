@@ -33,7 +33,7 @@ int MakeCommand::writeDocument()
 {
     const RenderRequest request = m_project.takeRequest();
     QString reason;
-    if (!request.project->saveToFile(m_options.dumpFile, &reason))
+    if (!RenderRequest::save(*request.project, m_project.settings(), m_options.dumpFile, &reason))
         return fail(
             {RenderErrorCode::kOutput,
              tr("The project cannot be written as \"%1\": %2.").arg(m_options.dumpFile, reason)});
@@ -57,7 +57,7 @@ int MakeCommand::render()
 int MakeCommand::fail(const RenderError &error)
 {
     m_report->failed(error);
-    return error.code == RenderErrorCode::kRequest ? kExitBadArguments : kExitFailed;
+    return exitCodeOf(error);
 }
 
 void MakeCommand::connectJob()
@@ -103,6 +103,10 @@ int runMake(const QStringList &arguments, const AppSettings &settings)
     }
     if (options->help) {
         QTextStream(stdout) << helpText();
+        return kExitDone;
+    }
+    if (options->version) {
+        QTextStream(stdout) << versionText();
         return kExitDone;
     }
     return MakeCommand(*options, settings).exec();

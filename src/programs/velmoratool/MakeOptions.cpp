@@ -150,6 +150,7 @@ constexpr Option kOptions[] = {
     {"dump-project", Values::One, true, text<&MakeOptions::dumpFile>},
     {"json", Values::None, true, raise<&MakeOptions::json>},
     {"help", Values::None, true, raise<&MakeOptions::help>},
+    {"version", Values::None, true, raise<&MakeOptions::version>},
 };
 
 class Parser
@@ -188,7 +189,7 @@ QString Parser::parse()
         if (!error.isEmpty())
             return error;
     }
-    return m_options.help ? QString() : checkCombination();
+    return m_options.help || m_options.version ? QString() : checkCombination();
 }
 
 QString Parser::parseOption(const QString &argument)

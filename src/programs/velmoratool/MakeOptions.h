@@ -42,6 +42,7 @@ struct MakeOptions {
     QString dumpFile;    ///< Where to write the document instead of rendering it.
     bool json = false;
     bool help = false;
+    bool version = false;
 };
 
 /// Parses the arguments after "make"; nothing, with a sentence for the user in @p error, when they

@@ -69,7 +69,11 @@ RenderError MakeProject::loadProject()
                 QCoreApplication::translate("velmora::MakeProject",
                                             "The project \"%1\" cannot be used: %2")
                     .arg(m_options.projectFile, reason)};
+    m_request.parallel = m_request.parallel || m_options.parallel;
+    m_request.profile = m_options.profile.value_or(m_request.profile);
     m_settings.transitionTime = m_request.transitionSeconds;
+    m_settings.speedGeneration = m_request.parallel;
+    m_settings.outputProfile = outputProfileKey(m_request.profile);
     if (m_options.size.isValid())
         m_request.project->setResolution(m_options.size);
     return {};

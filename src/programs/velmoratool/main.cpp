@@ -45,7 +45,7 @@ int dispatch(const QStringList &arguments, const velmora::AppSettings &settings)
         return velmora::kExitDone;
     }
     if (first == QLatin1String("--version")) {
-        QTextStream(stdout) << "velmoratool " << velmora::programVersion() << '\n';
+        QTextStream(stdout) << velmora::versionText();
         return velmora::kExitDone;
     }
     return first.startsWith(QLatin1String("--")) ? velmora::runWorker(arguments, settings)

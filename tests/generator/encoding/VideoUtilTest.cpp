@@ -98,6 +98,7 @@ private slots:
         const QString p = encode(util, QStringLiteral("_p1"), 50, 2000);
         const QString t = encode(util, QStringLiteral("_t1"), 25, 1000);
         const QString still = encode(util, QStringLiteral("_i1"), 1, 1000);
+        QCOMPARE(streamHeader(still), streamHeader(p));
         const QString slide = joinOf(util, {p, t, still}, "c1");
         const QString total = joinOf(util, {still, slide, slide, t, slide}, "total");
         checkPicture(total);
@@ -321,6 +322,14 @@ private:
         QVERIFY(VideoProbe::meanDifference(frames[25 + 19], picture(20)) < 3.0);
         QVERIFY(VideoProbe::meanDifference(frames[225 + 14], picture(15)) < 3.0);
         QVERIFY(VideoProbe::meanDifference(frames[kFrames - 1], picture(1)) < 3.0);
+    }
+
+    /// What a joined video keeps of its first segment only.
+    QString streamHeader(const QString &file) const
+    {
+        return probe(file, {QStringLiteral("-show_data_hash"), QStringLiteral("md5"),
+                            QStringLiteral("-show_entries"),
+                            QStringLiteral("stream=codec_name,extradata_hash")});
     }
 
     void checkMultiplex(VideoUtil &util, const QString &total, const QString &source) const

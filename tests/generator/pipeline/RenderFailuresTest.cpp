@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "generator/pipeline/CacheSweeper.h"
 #include "generator/pipeline/RenderJob.h"
+#include "helpers/DeadLock.h"
 #include "helpers/ProcessControl.h"
 #include "helpers/RenderFixture.h"
 #include "services/MetricSender.h"
@@ -61,11 +63,19 @@ private slots:
         QFile old(m_fixture.output(QStringLiteral("video.mp4")));
         QVERIFY(old.open(QIODevice::WriteOnly));
         old.write("old");
+        // What a killed render left goes, whatever this one ends with.
+        const QString dead = m_fixture.cacheFolder() + QStringLiteral("/render-dead01");
+        QVERIFY(QDir().mkpath(dead));
+        QFile lock(dead + QLatin1Char('/') + CacheSweeper::kLockFile);
+        QVERIFY(lock.open(QIODevice::WriteOnly));
+        lock.write(deadLock());
     }
 
     void cleanup()
     {
         qunsetenv("VELMORA_FFMPEG");
+        if (QTest::currentTestFunction() == QByteArray("withoutACacheNothingIsRendered"))
+            QDir(m_fixture.cacheFolder()).removeRecursively(); // another folder was swept
         QFile old(m_fixture.output(QStringLiteral("video.mp4")));
         QVERIFY(old.open(QIODevice::ReadOnly));
         QCOMPARE(old.readAll(), QByteArray("old"));
@@ -144,14 +154,26 @@ private slots:
         QTRY_VERIFY(!ProcessControl::isAlive(pid));
     }
 
-    void joinsThatFailAreCounted()
+    void failuresAreCounted_data()
     {
-        fakeEncoder(8, QStringLiteral("exit|1"));
+        QTest::addColumn<int>("call");
+        QTest::newRow("a segment") << 2;
+        QTest::newRow("the total join") << 8;
+    }
+
+    void failuresAreCounted()
+    {
+        QFETCH(int, call);
+        const auto told = [](const char *event) {
+            return MetricSender::instance().pending().filter(QLatin1String(event)).size();
+        };
+        const int failures = told("err1:");
+        const int starts = told("gres:160x90");
+        fakeEncoder(call, QStringLiteral("exit|1"));
         m_fixture.render(request());
-        const QStringList events = MetricSender::instance().pending();
-        QVERIFY(events.filter(QStringLiteral("gres:160x90")).size() > 0);
-        QVERIFY(events.filter(QStringLiteral("err1:")).size() > 0);
-        QVERIFY(events.filter(QStringLiteral("end:")).isEmpty());
+        QCOMPARE(told("gres:160x90"), starts + 1);
+        QCOMPARE(told("err1:"), failures + 1);
+        QCOMPARE(told("end:"), 0);
     }
 
     void refusesRequestsThatMakeNoVideo()

@@ -30,6 +30,8 @@ private slots:
     void captions_data();
     void captions();
     void projectKeepsItsOwn();
+    void howToMakeAProject_data();
+    void howToMakeAProject();
 
 private:
     QString datedPhoto(const QString &name, int variant, const char *taken);
@@ -284,6 +286,45 @@ void MakeProjectTest::projectKeepsItsOwn()
     QCOMPARE(project->resolution(), QSize(64, 48));
     QCOMPARE(project->items().value(1)->time(), 8);
     QCOMPARE(project->items().value(1)->caption().text, QStringLiteral("a b"));
+}
+
+void MakeProjectTest::howToMakeAProject_data()
+{
+    QTest::addColumn<bool>("named");
+    QTest::addColumn<QString>("profile");
+    QTest::addColumn<bool>("parallel");
+    QTest::newRow("as the document says") << false << QStringLiteral("everywhere") << true;
+    QTest::newRow("as the options say") << true << QStringLiteral("original") << true;
+}
+
+// The options win, and what comes out is what a document written from it says again.
+void MakeProjectTest::howToMakeAProject()
+{
+    QFETCH(bool, named);
+    QFETCH(QString, profile);
+    QFETCH(bool, parallel);
+    QVERIFY(build({}));
+    const QString saved = m_fixture.path(QStringLiteral("made.json"));
+    AppSettings made;
+    made.outputProfile = QStringLiteral("everywhere");
+    made.speedGeneration = !named;
+    QString error;
+    QVERIFY(RenderRequest::save(*m_request.project, made, saved, &error));
+
+    MakeOptions options;
+    options.projectFile = saved;
+    if (named) {
+        options.profile = outputProfileFromKey(profile);
+        options.parallel = true;
+    }
+    for (int round = 0; round < 2; ++round) {
+        QVERIFY(build(options));
+        QCOMPARE(outputProfileKey(m_request.profile), profile);
+        QCOMPARE(m_request.parallel, parallel);
+        QVERIFY(RenderRequest::save(*m_request.project, m_make->settings(), saved, &error));
+        options.profile.reset();
+        options.parallel = false;
+    }
 }
 
 QTEST_MAIN(MakeProjectTest)

@@ -117,6 +117,9 @@ void VelmoratoolTest::tellsAboutItself_data()
                                   << 0 << usage;
     QTest::newRow("version") << QStringList{QStringLiteral("--version")} << 0
                              << QStringLiteral("velmoratool ") + programVersion();
+    QTest::newRow("version of make")
+        << QStringList{QStringLiteral("make"), QStringLiteral("--version")} << 0
+        << QStringLiteral("velmoratool ") + programVersion();
     QTest::newRow("nothing") << QStringList() << 2 << QString();
     QTest::newRow("unknown command") << QStringList{QStringLiteral("mak")} << 2 << QString();
 }
