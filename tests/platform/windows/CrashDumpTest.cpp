@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <csignal>
+
 using namespace velmora;
 
 constexpr int kLongestDump = 120'000; // ms; Wine reads the symbols of all libraries first
@@ -25,6 +27,16 @@ private slots:
         QCOMPARE(process.exitStatus(), QProcess::CrashExit);
         QVERIFY(isMiniDump(file));
         QCOMPARE(CrashDump::describe(file).size(), 1);
+    }
+
+    void abortLeavesDump()
+    {
+        const QString file = m_folder.filePath(QStringLiteral("abort.dmp"));
+        QProcess process;
+        process.start(testProcessPath(), {QStringLiteral("--crash-dump"), file,
+                                          QStringLiteral("--raise"), QString::number(SIGABRT)});
+        QVERIFY(process.waitForFinished(kLongestDump));
+        QVERIFY(isMiniDump(file));
     }
 
     void writeGoesOn()
