@@ -134,7 +134,7 @@ private slots:
         QTest::keyClick(list, Qt::Key_Return);
         QCOMPARE(driver.title(), QStringLiteral("Open file Error"));
         QCOMPARE(driver.text(),
-                 QStringLiteral("File '%1' not found").arg(m_history->path("new.mp4")));
+                 QStringLiteral("File '%1' not found").arg(QDir::toNativeSeparators(video)));
         QCOMPARE(m_played.size(), 2);
     }
 
