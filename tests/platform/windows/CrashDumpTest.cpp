@@ -33,23 +33,12 @@ private slots:
     {
         const QString file = m_folder.filePath(QStringLiteral("abort.dmp"));
         QProcess process;
-        process.start(testProcessPath(), {QStringLiteral("--crash-dump"), file,
-                                          QStringLiteral("--raise"), QString::number(SIGABRT)});
-        QVERIFY(process.waitForFinished(kLongestDump));
-        QVERIFY(isMiniDump(file));
-    }
-
-    void writeGoesOn()
-    {
-        const QString file = m_folder.filePath(QStringLiteral("written.dmp"));
-        QProcess process;
         process.start(testProcessPath(),
                       {QStringLiteral("--write-dump"), QStringLiteral("--crash-dump"), file,
-                       QStringLiteral("--write-dump"), QStringLiteral("--exit"),
-                       QStringLiteral("3")});
+                       QStringLiteral("--raise"), QString::number(SIGABRT),
+                       QStringLiteral("--exit"), QStringLiteral("3")});
         QVERIFY(process.waitForFinished(kLongestDump));
-        QCOMPARE(nextLine(process), QByteArray("refused"));
-        QCOMPARE(nextLine(process), QByteArray("written"));
+        QCOMPARE(nextLine(process), QByteArray("refused")); // Not installed yet.
         QCOMPARE(process.exitCode(), 3);
         QVERIFY(isMiniDump(file));
     }
