@@ -18,7 +18,7 @@ format=no asan=no tsan=no fuzz=0 windows=no only=.
 # The whole under Wine takes too long for every change: these show what differs on Windows.
 windows_tests=(
     AppSettingsTest CacheSweeperTest ComposerTest ConcatListTest CrashDumpTest
-    CrashReporterTest CreateVideoTest DiscWriterTest EncoderLocatorTest ExifReaderTest
+    CrashReporterTest CreateVideoTest DiscSessionTest DiscWriterTest EncoderLocatorTest ExifReaderTest
     FrameWriterTest HistoryStoreTest ImageCheckTest ImageLoaderTest LogTest
     MakeProjectTest OutputTargetTest ProcessTreeTest ProjectFileTest ProjectSlidesTest
     SecretsTest ServicesConfigTest SessionKeyTest SessionValuesTest ShortcutResolverTest

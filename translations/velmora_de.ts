@@ -1702,7 +1702,7 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
     </message>
 </context>
 <context>
-    <name>velmora::EncoderLocator</name>
+    <name>velmora::EncoderAdvice</name>
     <message>
         <source>FFmpeg was not found. Please install it (on Debian and Ubuntu: sudo apt install ffmpeg).</source>
         <translation>FFmpeg wurde nicht gefunden. Bitte installieren Sie es (unter Debian und Ubuntu: sudo apt install ffmpeg).</translation>
@@ -1710,6 +1710,14 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
     <message>
         <source>FFmpeg %1 (%2) is too old. Please install version 4.4 or newer (on Debian and Ubuntu: sudo apt install ffmpeg).</source>
         <translation>FFmpeg %1 (%2) ist zu alt. Bitte installieren Sie Version 4.4 oder neuer (unter Debian und Ubuntu: sudo apt install ffmpeg).</translation>
+    </message>
+    <message>
+        <source>FFmpeg was not found. It comes with Velmora: please install Velmora again, or put ffmpeg.exe into its folder.</source>
+        <translation>FFmpeg wurde nicht gefunden. Es gehört zu Velmora: Bitte installieren Sie Velmora neu oder legen Sie ffmpeg.exe in dessen Ordner.</translation>
+    </message>
+    <message>
+        <source>FFmpeg %1 (%2) is too old. Please install Velmora again, or put ffmpeg.exe of version 4.4 or newer into its folder.</source>
+        <translation>FFmpeg %1 (%2) ist zu alt. Bitte installieren Sie Velmora neu oder legen Sie ffmpeg.exe ab Version 4.4 in dessen Ordner.</translation>
     </message>
 </context>
 <context>

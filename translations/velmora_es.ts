@@ -1702,7 +1702,7 @@ Pulse «Cancelar» para cancelar la operación.</translation>
     </message>
 </context>
 <context>
-    <name>velmora::EncoderLocator</name>
+    <name>velmora::EncoderAdvice</name>
     <message>
         <source>FFmpeg was not found. Please install it (on Debian and Ubuntu: sudo apt install ffmpeg).</source>
         <translation>No se ha encontrado FFmpeg. Instálelo (en Debian y Ubuntu: sudo apt install ffmpeg).</translation>
@@ -1710,6 +1710,14 @@ Pulse «Cancelar» para cancelar la operación.</translation>
     <message>
         <source>FFmpeg %1 (%2) is too old. Please install version 4.4 or newer (on Debian and Ubuntu: sudo apt install ffmpeg).</source>
         <translation>FFmpeg %1 (%2) es demasiado antiguo. Instale la versión 4.4 o posterior (en Debian y Ubuntu: sudo apt install ffmpeg).</translation>
+    </message>
+    <message>
+        <source>FFmpeg was not found. It comes with Velmora: please install Velmora again, or put ffmpeg.exe into its folder.</source>
+        <translation>No se ha encontrado FFmpeg. Se incluye con Velmora: vuelva a instalar Velmora o copie ffmpeg.exe en su carpeta.</translation>
+    </message>
+    <message>
+        <source>FFmpeg %1 (%2) is too old. Please install Velmora again, or put ffmpeg.exe of version 4.4 or newer into its folder.</source>
+        <translation>FFmpeg %1 (%2) es demasiado antiguo. Vuelva a instalar Velmora o copie ffmpeg.exe 4.4 o posterior en su carpeta.</translation>
     </message>
 </context>
 <context>

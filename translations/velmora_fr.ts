@@ -1702,7 +1702,7 @@ Press "Cancel" to cancel the operation.</source>
     </message>
 </context>
 <context>
-    <name>velmora::EncoderLocator</name>
+    <name>velmora::EncoderAdvice</name>
     <message>
         <source>FFmpeg was not found. Please install it (on Debian and Ubuntu: sudo apt install ffmpeg).</source>
         <translation>FFmpeg est introuvable. Installez-le (sous Debian et Ubuntu : sudo apt install ffmpeg).</translation>
@@ -1710,6 +1710,14 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>FFmpeg %1 (%2) is too old. Please install version 4.4 or newer (on Debian and Ubuntu: sudo apt install ffmpeg).</source>
         <translation>FFmpeg %1 (%2) est trop ancien. Installez la version 4.4 ou plus récente (sous Debian et Ubuntu : sudo apt install ffmpeg).</translation>
+    </message>
+    <message>
+        <source>FFmpeg was not found. It comes with Velmora: please install Velmora again, or put ffmpeg.exe into its folder.</source>
+        <translation>FFmpeg est introuvable. Il est fourni avec Velmora : réinstallez Velmora ou placez ffmpeg.exe dans son dossier.</translation>
+    </message>
+    <message>
+        <source>FFmpeg %1 (%2) is too old. Please install Velmora again, or put ffmpeg.exe of version 4.4 or newer into its folder.</source>
+        <translation>FFmpeg %1 (%2) est trop ancien. Réinstallez Velmora ou placez ffmpeg.exe version 4.4 ou plus récente dans son dossier.</translation>
     </message>
 </context>
 <context>

@@ -1702,7 +1702,7 @@ Premere "Annulla" per annullare l'operazione.</translation>
     </message>
 </context>
 <context>
-    <name>velmora::EncoderLocator</name>
+    <name>velmora::EncoderAdvice</name>
     <message>
         <source>FFmpeg was not found. Please install it (on Debian and Ubuntu: sudo apt install ffmpeg).</source>
         <translation>FFmpeg non è stato trovato. Installarlo (su Debian e Ubuntu: sudo apt install ffmpeg).</translation>
@@ -1710,6 +1710,14 @@ Premere "Annulla" per annullare l'operazione.</translation>
     <message>
         <source>FFmpeg %1 (%2) is too old. Please install version 4.4 or newer (on Debian and Ubuntu: sudo apt install ffmpeg).</source>
         <translation>FFmpeg %1 (%2) è troppo vecchio. Installare la versione 4.4 o successiva (su Debian e Ubuntu: sudo apt install ffmpeg).</translation>
+    </message>
+    <message>
+        <source>FFmpeg was not found. It comes with Velmora: please install Velmora again, or put ffmpeg.exe into its folder.</source>
+        <translation>FFmpeg non è stato trovato. È incluso in Velmora: reinstallare Velmora o mettere ffmpeg.exe nella sua cartella.</translation>
+    </message>
+    <message>
+        <source>FFmpeg %1 (%2) is too old. Please install Velmora again, or put ffmpeg.exe of version 4.4 or newer into its folder.</source>
+        <translation>FFmpeg %1 (%2) è troppo vecchio. Reinstallare Velmora o mettere ffmpeg.exe 4.4 o successivo nella sua cartella.</translation>
     </message>
 </context>
 <context>

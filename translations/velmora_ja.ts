@@ -1702,7 +1702,7 @@ Press "Cancel" to cancel the operation.</source>
     </message>
 </context>
 <context>
-    <name>velmora::EncoderLocator</name>
+    <name>velmora::EncoderAdvice</name>
     <message>
         <source>FFmpeg was not found. Please install it (on Debian and Ubuntu: sudo apt install ffmpeg).</source>
         <translation>FFmpeg が見つかりません。インストールしてください (Debian と Ubuntu: sudo apt install ffmpeg)。</translation>
@@ -1710,6 +1710,14 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>FFmpeg %1 (%2) is too old. Please install version 4.4 or newer (on Debian and Ubuntu: sudo apt install ffmpeg).</source>
         <translation>FFmpeg %1 (%2) は古すぎます。バージョン 4.4 以降をインストールしてください (Debian と Ubuntu: sudo apt install ffmpeg)。</translation>
+    </message>
+    <message>
+        <source>FFmpeg was not found. It comes with Velmora: please install Velmora again, or put ffmpeg.exe into its folder.</source>
+        <translation>FFmpeg が見つかりません。FFmpeg は Velmora に付属しています。Velmora を再インストールするか、Velmora のフォルダーに ffmpeg.exe を置いてください。</translation>
+    </message>
+    <message>
+        <source>FFmpeg %1 (%2) is too old. Please install Velmora again, or put ffmpeg.exe of version 4.4 or newer into its folder.</source>
+        <translation>FFmpeg %1 (%2) は古すぎます。Velmora を再インストールするか、Velmora のフォルダーにバージョン 4.4 以降の ffmpeg.exe を置いてください。</translation>
     </message>
 </context>
 <context>

@@ -1702,7 +1702,7 @@ Press "Cancel" to cancel the operation.</source>
     </message>
 </context>
 <context>
-    <name>velmora::EncoderLocator</name>
+    <name>velmora::EncoderAdvice</name>
     <message>
         <source>FFmpeg was not found. Please install it (on Debian and Ubuntu: sudo apt install ffmpeg).</source>
         <translation>Nie znaleziono FFmpeg. Zainstaluj go (w Debianie i Ubuntu: sudo apt install ffmpeg).</translation>
@@ -1710,6 +1710,14 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>FFmpeg %1 (%2) is too old. Please install version 4.4 or newer (on Debian and Ubuntu: sudo apt install ffmpeg).</source>
         <translation>FFmpeg %1 (%2) jest za stary. Zainstaluj wersję 4.4 lub nowszą (w Debianie i Ubuntu: sudo apt install ffmpeg).</translation>
+    </message>
+    <message>
+        <source>FFmpeg was not found. It comes with Velmora: please install Velmora again, or put ffmpeg.exe into its folder.</source>
+        <translation>Nie znaleziono FFmpeg. Jest on częścią Velmory: zainstaluj Velmorę ponownie albo umieść ffmpeg.exe w jej folderze.</translation>
+    </message>
+    <message>
+        <source>FFmpeg %1 (%2) is too old. Please install Velmora again, or put ffmpeg.exe of version 4.4 or newer into its folder.</source>
+        <translation>FFmpeg %1 (%2) jest za stary. Zainstaluj Velmorę ponownie albo umieść ffmpeg.exe w wersji 4.4 lub nowszej w jej folderze.</translation>
     </message>
 </context>
 <context>

@@ -1702,7 +1702,7 @@ Press "Cancel" to cancel the operation.</source>
     </message>
 </context>
 <context>
-    <name>velmora::EncoderLocator</name>
+    <name>velmora::EncoderAdvice</name>
     <message>
         <source>FFmpeg was not found. Please install it (on Debian and Ubuntu: sudo apt install ffmpeg).</source>
         <translation>FFmpeg не найден. Установите его (в Debian и Ubuntu: sudo apt install ffmpeg).</translation>
@@ -1710,6 +1710,14 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>FFmpeg %1 (%2) is too old. Please install version 4.4 or newer (on Debian and Ubuntu: sudo apt install ffmpeg).</source>
         <translation>FFmpeg %1 (%2) слишком старый. Установите версию 4.4 или новее (в Debian и Ubuntu: sudo apt install ffmpeg).</translation>
+    </message>
+    <message>
+        <source>FFmpeg was not found. It comes with Velmora: please install Velmora again, or put ffmpeg.exe into its folder.</source>
+        <translation>FFmpeg не найден. Он поставляется вместе с Velmora: переустановите Velmora или поместите ffmpeg.exe в её папку.</translation>
+    </message>
+    <message>
+        <source>FFmpeg %1 (%2) is too old. Please install Velmora again, or put ffmpeg.exe of version 4.4 or newer into its folder.</source>
+        <translation>FFmpeg %1 (%2) слишком старый. Переустановите Velmora или поместите ffmpeg.exe версии 4.4 или новее в её папку.</translation>
     </message>
 </context>
 <context>

@@ -1702,7 +1702,7 @@ Press "Cancel" to cancel the operation.</source>
     </message>
 </context>
 <context>
-    <name>velmora::EncoderLocator</name>
+    <name>velmora::EncoderAdvice</name>
     <message>
         <source>FFmpeg was not found. Please install it (on Debian and Ubuntu: sudo apt install ffmpeg).</source>
         <translation>未找到 FFmpeg。请安装它（在 Debian 和 Ubuntu 上: sudo apt install ffmpeg）。</translation>
@@ -1710,6 +1710,14 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>FFmpeg %1 (%2) is too old. Please install version 4.4 or newer (on Debian and Ubuntu: sudo apt install ffmpeg).</source>
         <translation>FFmpeg %1 (%2) 版本太旧。请安装 4.4 或更新版本（在 Debian 和 Ubuntu 上: sudo apt install ffmpeg）。</translation>
+    </message>
+    <message>
+        <source>FFmpeg was not found. It comes with Velmora: please install Velmora again, or put ffmpeg.exe into its folder.</source>
+        <translation>未找到 FFmpeg。它随 Velmora 一起提供：请重新安装 Velmora，或将 ffmpeg.exe 放入其文件夹。</translation>
+    </message>
+    <message>
+        <source>FFmpeg %1 (%2) is too old. Please install Velmora again, or put ffmpeg.exe of version 4.4 or newer into its folder.</source>
+        <translation>FFmpeg %1 (%2) 版本太旧。请重新安装 Velmora，或将 4.4 或更新版本的 ffmpeg.exe 放入其文件夹。</translation>
     </message>
 </context>
 <context>

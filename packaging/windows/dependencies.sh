@@ -19,3 +19,12 @@ wine_packages=(
 installer_packages=(
     nsis
 )
+
+# For drop-check.sh.
+drop_packages=(
+    ffmpeg
+    imagemagick
+    openbox
+    python3-pyqt5
+    xdotool
+)

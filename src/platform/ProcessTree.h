@@ -25,7 +25,8 @@ std::unique_ptr<QProcess> createProcess(Group group);
 
 /// Asks the tree of @p pid, started in its own group, to end (SIGTERM; on Windows as kill()).
 void terminate(qint64 pid);
-/// Ends the tree at once (SIGKILL; "taskkill.exe /F /T /PID").
+/// Ends the tree at once (SIGKILL; "taskkill.exe /F /T /PID", on a thread of its own). Does not
+/// wait for its end.
 void kill(qint64 pid);
 
 } // namespace ProcessTree

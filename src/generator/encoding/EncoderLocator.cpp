@@ -3,6 +3,7 @@
 
 #include "generator/GeneratorLog.h"
 #include "generator/encoding/ToolRunner.h"
+#include "platform/EncoderAdvice.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -89,9 +90,7 @@ EncoderVersion EncoderVersion::fromOutput(const QByteArray &output)
 EncoderLocation locateEncoder()
 {
     EncoderLocation location;
-    location.error = QCoreApplication::translate(
-        "velmora::EncoderLocator", "FFmpeg was not found. Please install it (on Debian and "
-                                   "Ubuntu: sudo apt install ffmpeg).");
+    location.error = EncoderAdvice::missing();
     const QStringList programs = candidates();
     for (const QString &program : programs) {
         const EncoderVersion version = knownVersion(program);
@@ -99,12 +98,7 @@ EncoderLocation locateEncoder()
             return {program, QString()};
         qCWarning(generatorLog).noquote() << "Unusable encoder:" << program << version.text;
         if (!version.text.isEmpty())
-            location.error =
-                QCoreApplication::translate(
-                    "velmora::EncoderLocator",
-                    "FFmpeg %1 (%2) is too old. Please install version 4.4 or newer (on Debian "
-                    "and Ubuntu: sudo apt install ffmpeg).")
-                    .arg(version.text, QDir::toNativeSeparators(program));
+            location.error = EncoderAdvice::tooOld(version.text, QDir::toNativeSeparators(program));
     }
     return location;
 }

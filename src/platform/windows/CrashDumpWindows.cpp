@@ -10,6 +10,8 @@
 
 #include <dbghelp.h>
 
+#include <csignal>
+
 namespace velmora
 {
 
@@ -47,7 +49,14 @@ LONG WINAPI onException(EXCEPTION_POINTERS *pointers)
 {
     if (writeDump(pointers))
         qCCritical(lcPlatform) << "Mini dump is inside";
-    return EXCEPTION_CONTINUE_SEARCH;
+    return previousFilter ? previousFilter(pointers) : EXCEPTION_CONTINUE_SEARCH;
+}
+
+// abort(), which also ends a process whose exception nobody catches, is no exception of the system.
+void onAbort(int)
+{
+    if (writeDump(nullptr))
+        qCCritical(lcPlatform) << "Mini dump is inside";
 }
 
 WriteFunction findWriteFunction(QString *error)
@@ -74,6 +83,7 @@ bool CrashDump::install(const QString &file, QString *error)
     }
     dumpFile = QDir::toNativeSeparators(file).toStdWString();
     previousFilter = SetUnhandledExceptionFilter(onException);
+    std::signal(SIGABRT, onAbort);
     return true;
 }
 
@@ -82,6 +92,7 @@ void CrashDump::uninstall()
     if (!writeFunction)
         return;
     SetUnhandledExceptionFilter(previousFilter);
+    std::signal(SIGABRT, SIG_DFL);
     writeFunction = nullptr;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/PlatformLog.h"
 
 #include <QProcess>
+#include <QThreadPool>
 #include <QVector>
 
 #include <limits>
@@ -92,6 +93,20 @@ void endTree(const QVector<RunningProcess> &all, DWORD id, quint64 notBefore)
     CloseHandle(process);
 }
 
+void runTaskkill(qint64 pid)
+{
+    const QStringList arguments = {QStringLiteral("/F"), QStringLiteral("/T"),
+                                   QStringLiteral("/PID"), QString::number(pid)};
+    QProcess taskkill;
+    taskkill.start(QStringLiteral("taskkill.exe"), arguments);
+    if (taskkill.waitForFinished() && taskkill.exitCode() == 0)
+        return;
+    // Not every edition of Windows has the program, and not every one of those knows trees.
+    qCInfo(lcPlatform).noquote() << QStringLiteral("No taskkill.exe for process tree %1: %2")
+                                        .arg(QString::number(pid), taskkill.errorString());
+    endTree(runningProcesses(), static_cast<DWORD>(pid), 0);
+}
+
 } // namespace
 
 std::unique_ptr<QProcess> ProcessTree::createProcess(Group group)
@@ -111,18 +126,9 @@ void ProcessTree::terminate(qint64 pid)
 
 void ProcessTree::kill(qint64 pid)
 {
-    if (pid <= 0)
-        return;
-    const QStringList arguments = {QStringLiteral("/F"), QStringLiteral("/T"),
-                                   QStringLiteral("/PID"), QString::number(pid)};
-    QProcess taskkill;
-    taskkill.start(QStringLiteral("taskkill.exe"), arguments);
-    if (taskkill.waitForFinished() && taskkill.exitCode() == 0)
-        return;
-    // Not every edition of Windows has the program, and not every one of those knows trees.
-    qCInfo(lcPlatform).noquote() << QStringLiteral("No taskkill.exe for process tree %1: %2")
-                                        .arg(QString::number(pid), taskkill.errorString());
-    endTree(runningProcesses(), static_cast<DWORD>(pid), 0);
+    // Starting a program and waiting for it takes too long for a thread that has windows.
+    if (pid > 0)
+        QThreadPool::globalInstance()->start([pid] { runTaskkill(pid); });
 }
 
 } // namespace velmora

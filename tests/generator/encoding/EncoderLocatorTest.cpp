@@ -23,6 +23,11 @@ class EncoderLocatorTest : public QObject
         return QFile::copy(tool.filePath(), program) ? program : QString();
     }
 
+    static bool onWindows()
+    {
+        return QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
+    }
+
 private slots:
     void init()
     {
@@ -97,6 +102,7 @@ private slots:
                      location.error.contains(QDir::toNativeSeparators(program)) &&
                      location.error.contains(QStringLiteral("4.4")),
                  qPrintable(location.error));
+        QCOMPARE(location.error.contains(QStringLiteral("ffmpeg.exe of")), onWindows());
     }
 
     void saysWhatToInstall()
@@ -105,9 +111,12 @@ private slots:
         qputenv("PATH", QFile::encodeName(empty.path()));
         const EncoderLocation location = locateEncoder();
         QVERIFY(location.program.isEmpty());
-        QCOMPARE(location.error,
-                 QStringLiteral("FFmpeg was not found. Please install it (on Debian and Ubuntu: "
-                                "sudo apt install ffmpeg)."));
+        const QString how =
+            onWindows() ? QStringLiteral("It comes with Velmora: please install Velmora again, or "
+                                         "put ffmpeg.exe into its folder.")
+                        : QStringLiteral("Please install it (on Debian and Ubuntu: sudo apt "
+                                         "install ffmpeg).");
+        QCOMPARE(location.error, QStringLiteral("FFmpeg was not found. ") + how);
     }
 
 private:

@@ -134,7 +134,7 @@ private slots:
         QTest::keyClick(list, Qt::Key_Return);
         QCOMPARE(driver.title(), QStringLiteral("Open file Error"));
         QCOMPARE(driver.text(),
-                 QStringLiteral("File '%1' not found").arg(m_history->path("new.mp4")));
+                 QStringLiteral("File '%1' not found").arg(QDir::toNativeSeparators(video)));
         QCOMPARE(m_played.size(), 2);
     }
 
@@ -235,6 +235,9 @@ private slots:
         if (QFile::exists(m_history->path("old.mp4")))
             QSKIP("There is no trash for this folder.");
         QVERIFY(QFile::exists(m_history->path("new.mp4")));
+        QString trashed;
+        if (QFile::moveToTrash(m_history->path("new.mp4"), &trashed) && trashed.isEmpty())
+            QSKIP("This trash does not tell where it puts a file, as Wine's does not.");
         click("btnUndo");
         QCOMPARE(QFileInfo(m_history->path("old.mp4")).size(), 3 * 1048576);
         QCOMPARE(m_history->saved().size(), 3);
