@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/images/Completeness.h"
 
+#include "project/images/JpegSegments.h"
+
 #include <QByteArray>
 #include <QIODevice>
 #include <QtEndian>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace velmora
@@ -15,6 +18,7 @@ namespace
 
 constexpr int kBmpHeader = 38; // Up to and with the size of the picture's data.
 constexpr int kOldBmpInfo = 12;
+constexpr qint64 kJpegBlock = 64 * 1024;
 
 template <typename T> T numberAt(const QByteArray &bytes, int offset)
 {
@@ -56,7 +60,54 @@ bool skipGifColours(QIODevice &device, int flags)
     return !(flags & 0x80) || skip(device, 3LL << ((flags & 7) + 1));
 }
 
+/// Whether there is an end marker from @p first on, up to the offset @p last. The picture's data
+/// cannot hold these two bytes.
+bool hasJpegEnd(QIODevice &device, qint64 first, qint64 last)
+{
+    for (qint64 position = first; position < last && device.seek(position);
+         position += kJpegBlock) {
+        if (device.read(kJpegBlock + 1).contains("\xff\xd9"))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
+
+bool isCompleteJpeg(QIODevice &device)
+{
+    JpegSegments segments(device);
+    while (segments.next()) {
+        if (segments.marker() != JpegSegments::ScanMarker)
+            continue;
+        // Most files end with the marker, and reading all of a large one takes long.
+        const qint64 tail = std::max(segments.end(), device.size() - kJpegBlock);
+        return hasJpegEnd(device, tail, device.size()) || hasJpegEnd(device, segments.end(), tail);
+    }
+    return false;
+}
+
+bool isCompletePng(QIODevice &device)
+{
+    qint64 position = 8;
+    while (device.seek(position)) {
+        const QByteArray head = device.read(8);
+        if (head.size() != 8)
+            return false;
+        if (head.endsWith("IEND"))
+            return true;
+        position += 12 + qint64(qFromBigEndian<quint32>(head.constData()));
+    }
+    return false;
+}
+
+bool isCompleteWebp(QIODevice &device)
+{
+    constexpr int kHead = 8; // The container's name and the size of what follows.
+    device.seek(0);
+    const QByteArray head = device.read(kHead);
+    return head.size() == kHead && device.size() - kHead >= numberAt<quint32>(head, 4);
+}
 
 bool isCompleteBmp(QIODevice &device)
 {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/images/ExifBlock.h"
 
+#include "project/images/JpegSegments.h"
+
 #include <QIODevice>
 #include <QtEndian>
 
@@ -31,36 +33,16 @@ QByteArray withoutMark(const QByteArray &block)
 
 QByteArray findInJpeg(QIODevice &device)
 {
-    device.seek(2);
-    for (;;) {
-        uchar marker = 0xff;
-        if (device.read(1) != QByteArray(1, '\xff'))
-            return QByteArray();
-        while (marker == 0xff) { // Any number of fill bytes may stand before a marker's code.
-            if (device.read(reinterpret_cast<char *>(&marker), 1) != 1)
-                return QByteArray();
-        }
-        const bool hasLength = marker != 0x01 && !(marker >= 0xd0 && marker <= 0xd8);
-        if (marker == 0xda || marker == 0xd9) // The picture's data begin, or the file ends.
-            return QByteArray();
-        if (!hasLength)
+    JpegSegments segments(device);
+    while (segments.next() && segments.marker() != JpegSegments::ScanMarker) {
+        if (segments.marker() != JpegSegments::ExifMarker)
             continue;
-        uchar sizeBytes[2];
-        if (device.read(reinterpret_cast<char *>(sizeBytes), 2) != 2)
-            return QByteArray();
-        const int size = qFromBigEndian<quint16>(sizeBytes) - 2;
-        if (size < 0)
-            return QByteArray();
-        const qint64 next = device.pos() + size;
-        if (marker == 0xe1 && size > kExifMarkSize) {
-            const QByteArray segment = device.read(size);
-            const QByteArray block = withoutMark(segment);
-            if (block.size() < segment.size())
-                return block;
-        }
-        if (!device.seek(next))
-            return QByteArray();
+        const QByteArray segment = device.read(segments.size());
+        const QByteArray block = withoutMark(segment);
+        if (!block.isEmpty() && block.size() < segment.size())
+            return block;
     }
+    return QByteArray();
 }
 
 /// The block from a text chunk, in which many editors keep it: compressed hexadecimal digits

@@ -52,6 +52,15 @@ QImage read(const QString &path, const QSize *target, QString *error)
     return image;
 }
 
+QString problemOf(const QString &path, bool (PhotoFile::*verify)())
+{
+    PhotoFile file(path);
+    if (file.open() && (file.*verify)())
+        return QString();
+    report(path, file, nullptr);
+    return file.problem();
+}
+
 } // namespace
 
 QImage ImageLoader::load(const QString &path, QString *error)
@@ -75,11 +84,12 @@ QSize ImageLoader::uprightSize(const QString &path, QString *error)
 
 QString ImageLoader::check(const QString &path)
 {
-    PhotoFile file(path);
-    if (file.open() && file.verify())
-        return QString();
-    report(path, file, nullptr);
-    return file.problem();
+    return problemOf(path, &PhotoFile::verify);
+}
+
+QString ImageLoader::checkEnd(const QString &path)
+{
+    return problemOf(path, &PhotoFile::verifyEnd);
 }
 
 } // namespace velmora

@@ -47,6 +47,20 @@ bool isPhotoFormat(const QByteArray &format)
     return false;
 }
 
+/// Whether the structure of the file tells that it reaches to the end of its picture.
+bool isComplete(QIODevice &device, const QByteArray &format)
+{
+    if (format == "jpeg")
+        return isCompleteJpeg(device);
+    if (format == "png")
+        return isCompletePng(device);
+    if (format == "bmp")
+        return isCompleteBmp(device);
+    if (format == "gif")
+        return isCompleteGif(device);
+    return format == "webp" && isCompleteWebp(device);
+}
+
 QImage toPaintingFormat(const QImage &image)
 {
     QImage result = image.convertToFormat(
@@ -158,9 +172,16 @@ bool PhotoFile::verify()
     }
     if (m_reader.read().isNull())
         return fail(damaged(), m_reader.errorString());
-    const bool isCut = (m_format == "bmp" && !isCompleteBmp(m_file)) ||
-                       (m_format == "gif" && !isCompleteGif(m_file));
-    return !isCut || fail(damaged(), QStringLiteral("The file ends too early"));
+    // These readers return what they find of a file that ends too early, and call that success.
+    const bool mayBeCut = m_format == "bmp" || m_format == "gif";
+    return !mayBeCut || isComplete(m_file, m_format) ||
+           fail(damaged(), QStringLiteral("The file ends too early"));
+}
+
+bool PhotoFile::verifyEnd()
+{
+    QFile file(m_path); // Its own handle, as in open().
+    return (file.open(QIODevice::ReadOnly) && isComplete(file, m_format)) || verify();
 }
 
 } // namespace velmora

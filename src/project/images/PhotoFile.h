@@ -25,6 +25,9 @@ public:
     QImage read(const QSize &minimum);
     /// Decodes to the end and tells whether the picture is whole. Once only, after open().
     bool verify();
+    /// The same at the cost of a look at the file's structure, unless that raises a doubt: damage
+    /// in the midst of the picture passes.
+    bool verifyEnd();
 
     /// The size in px as shown, after turning upright.
     QSize uprightSize() const;

@@ -96,11 +96,11 @@ void PhotoImporter::searchFolder(const QString &folder)
 void PhotoImporter::look(const QString &path)
 {
     constexpr int kReportEvery = 10; // photos
-    QString error;
-    if (ImageLoader::uprightSize(path, &error).isEmpty())
-        m_import.refused.append({path, error});
-    else
+    const QString problem = ImageLoader::checkEnd(path);
+    if (problem.isEmpty())
         m_import.photos.append(path);
+    else
+        m_import.refused.append({path, problem});
     if (++m_looked % kReportEvery == 0)
         emit progress(m_looked);
 }

@@ -22,6 +22,7 @@ private slots:
     void unreadableFileCannotBeOpened();
     void cutFilesAreDamaged_data();
     void cutFilesAreDamaged();
+    void checkOfTheEndDoesNotDecode();
     void harmlessOdditiesPass_data();
     void harmlessOdditiesPass();
     void hugePicturesAreRefused_data();
@@ -76,6 +77,15 @@ QByteArray gif()
     }
     file += '\0';
     return file + ';';
+}
+
+/// A JPEG file with a preview of itself, with an end marker of its own, in front.
+QByteArray jpegWithThumbnail()
+{
+    const QByteArray thumbnail = encoded("jpg", QSize(16, 12));
+    QByteArray length(2, '\0');
+    qToBigEndian(quint16(thumbnail.size() + 2), length.data());
+    return encoded("jpg", QSize(320, 240)).insert(2, "\xff\xe1" + length + thumbnail);
 }
 
 quint32 pngChecksum(const QByteArray &bytes)
@@ -165,11 +175,9 @@ void ImageCheckTest::cutFilesAreDamaged_data()
     QTest::addColumn<int>("percent");
     const QSize size(320, 240);
     const QVector<QPair<const char *, QByteArray>> files = {
-        {"jpg", encoded("jpg", size)},
-        {"png", encoded("png", size)},
-        {"bmp", encoded("bmp", size)},
-        {"tif", encoded("tif", size)},
-        {"gif", gif()},
+        {"jpg", encoded("jpg", size)}, {"jpg with thumbnail", jpegWithThumbnail()},
+        {"png", encoded("png", size)}, {"bmp", encoded("bmp", size)},
+        {"tif", encoded("tif", size)}, {"gif", gif()},
     };
     for (const auto &file : files) {
         for (const int percent : {20, 50, 90, 97})
@@ -183,8 +191,19 @@ void ImageCheckTest::cutFilesAreDamaged()
     QFETCH(int, percent);
     QVERIFY(Pictures::writeBytes(path("cut"), bytes));
     QCOMPARE(ImageLoader::check(path("cut")), QString());
+    QCOMPARE(ImageLoader::checkEnd(path("cut")), QString());
     QVERIFY(Pictures::writeBytes(path("cut"), bytes.left(bytes.size() * percent / 100)));
     QCOMPARE(ImageLoader::check(path("cut")), QStringLiteral("is damaged or incomplete"));
+    QCOMPARE(ImageLoader::checkEnd(path("cut")), QStringLiteral("is damaged or incomplete"));
+}
+
+/// So that thousands of photos are looked at in a moment.
+void ImageCheckTest::checkOfTheEndDoesNotDecode()
+{
+    QByteArray jpeg = encoded("jpg", QSize(320, 240));
+    QVERIFY(Pictures::writeBytes(path("hole.jpg"), jpeg.replace(jpeg.size() / 2, 2, "\xff\xc4")));
+    QVERIFY(!ImageLoader::check(path("hole.jpg")).isEmpty());
+    QCOMPARE(ImageLoader::checkEnd(path("hole.jpg")), QString());
 }
 
 void ImageCheckTest::harmlessOdditiesPass_data()
@@ -193,6 +212,7 @@ void ImageCheckTest::harmlessOdditiesPass_data()
     const QByteArray jpeg = encoded("jpg", QSize(320, 240));
     const QByteArray tail(1000, 'x');
     QTest::newRow("bytes behind a JPEG") << jpeg + tail;
+    QTest::newRow("film behind a JPEG") << jpeg + tail.repeated(200);
     QTest::newRow("no end marker") << jpeg.left(jpeg.size() - 2);
     QTest::newRow("bytes behind a PNG") << encoded("png", QSize(320, 240)) + tail;
     QTest::newRow("bytes behind a BMP") << encoded("bmp", QSize(320, 240)) + tail;
@@ -204,6 +224,7 @@ void ImageCheckTest::harmlessOdditiesPass()
     QFETCH(QByteArray, bytes);
     QVERIFY(Pictures::writeBytes(path("odd"), bytes));
     QCOMPARE(ImageLoader::check(path("odd")), QString());
+    QCOMPARE(ImageLoader::checkEnd(path("odd")), QString());
     QCOMPARE(Pictures::colorName(ImageLoader::load(path("odd")).pixel(4, 4)), QLatin1Char('R'));
 }
 
@@ -246,6 +267,7 @@ void ImageCheckTest::changedBytesDoNoHarm()
             changed[random.bounded(changed.size())] = char(random.bounded(256));
         QVERIFY(Pictures::writeBytes(path("changed"), changed));
         const bool passes = ImageLoader::check(path("changed")).isEmpty();
+        QVERIFY(!passes || ImageLoader::checkEnd(path("changed")).isEmpty());
         QVERIFY(!passes || !ImageLoader::load(path("changed")).isNull());
     }
 }
