@@ -1581,6 +1581,14 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <source>CLOSE</source>
         <translation>SCHLIESSEN</translation>
     </message>
+    <message>
+        <source>The video is ready, but it could not be entered in the history: %1</source>
+        <translation>Das Video ist fertig, konnte aber nicht in den Verlauf eingetragen werden: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DocumentActions</name>
@@ -1821,6 +1829,22 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
     <message>
         <source>CLOSE</source>
         <translation>SCHLIESSEN</translation>
+    </message>
+    <message>
+        <source>Go back in the preview</source>
+        <translation>In der Vorschau zurückgehen</translation>
+    </message>
+    <message>
+        <source>Go forward in the preview</source>
+        <translation>In der Vorschau vorgehen</translation>
+    </message>
+    <message>
+        <source>Show the preview on the full screen</source>
+        <translation>Die Vorschau als Vollbild zeigen</translation>
+    </message>
+    <message>
+        <source>Play the effect of a text</source>
+        <translation>Den Effekt eines Textes abspielen</translation>
     </message>
 </context>
 <context>
@@ -2090,6 +2114,10 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <source>Menu</source>
         <translation>Menü</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
 </context>
 <context>
     <name>velmora::MainView</name>
@@ -2104,6 +2132,10 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
     <message>
         <source>The upload is complete</source>
         <translation>Das Hochladen ist abgeschlossen</translation>
+    </message>
+    <message>
+        <source>Another video is being uploaded.</source>
+        <translation>Ein anderes Video wird gerade hochgeladen.</translation>
     </message>
 </context>
 <context>
@@ -2132,6 +2164,10 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <source>%1: %2</source>
         <comment>undo or redo, and what</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Add Audio</source>
+        <translation>Musik hinzufügen</translation>
     </message>
 </context>
 <context>

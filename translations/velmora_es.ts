@@ -1581,6 +1581,14 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <source>CLOSE</source>
         <translation>CERRAR</translation>
     </message>
+    <message>
+        <source>The video is ready, but it could not be entered in the history: %1</source>
+        <translation>El vídeo está listo, pero no se ha podido añadir al historial: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DocumentActions</name>
@@ -1821,6 +1829,22 @@ Pulse «Cancelar» para cancelar la operación.</translation>
     <message>
         <source>CLOSE</source>
         <translation>CERRAR</translation>
+    </message>
+    <message>
+        <source>Go back in the preview</source>
+        <translation>Retroceder en la vista previa</translation>
+    </message>
+    <message>
+        <source>Go forward in the preview</source>
+        <translation>Avanzar en la vista previa</translation>
+    </message>
+    <message>
+        <source>Show the preview on the full screen</source>
+        <translation>Mostrar la vista previa a pantalla completa</translation>
+    </message>
+    <message>
+        <source>Play the effect of a text</source>
+        <translation>Reproducir el efecto de un texto</translation>
     </message>
 </context>
 <context>
@@ -2090,6 +2114,10 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <source>Menu</source>
         <translation>Menú</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
 </context>
 <context>
     <name>velmora::MainView</name>
@@ -2104,6 +2132,10 @@ Pulse «Cancelar» para cancelar la operación.</translation>
     <message>
         <source>The upload is complete</source>
         <translation>La subida ha terminado</translation>
+    </message>
+    <message>
+        <source>Another video is being uploaded.</source>
+        <translation>Se está subiendo otro vídeo.</translation>
     </message>
 </context>
 <context>
@@ -2132,6 +2164,10 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <source>%1: %2</source>
         <comment>undo or redo, and what</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Add Audio</source>
+        <translation>Añadir audio</translation>
     </message>
 </context>
 <context>

@@ -1581,6 +1581,14 @@ Press "Cancel" to cancel the operation.</source>
         <source>CLOSE</source>
         <translation>FERMER</translation>
     </message>
+    <message>
+        <source>The video is ready, but it could not be entered in the history: %1</source>
+        <translation>La vidéo est prête, mais elle n'a pas pu être inscrite dans l'historique : %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DocumentActions</name>
@@ -1821,6 +1829,22 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>CLOSE</source>
         <translation>FERMER</translation>
+    </message>
+    <message>
+        <source>Go back in the preview</source>
+        <translation>Reculer dans l'aperçu</translation>
+    </message>
+    <message>
+        <source>Go forward in the preview</source>
+        <translation>Avancer dans l'aperçu</translation>
+    </message>
+    <message>
+        <source>Show the preview on the full screen</source>
+        <translation>Afficher l'aperçu en plein écran</translation>
+    </message>
+    <message>
+        <source>Play the effect of a text</source>
+        <translation>Lire l'effet d'un texte</translation>
     </message>
 </context>
 <context>
@@ -2090,6 +2114,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>Menu</source>
         <translation>Menu</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
 </context>
 <context>
     <name>velmora::MainView</name>
@@ -2104,6 +2132,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>The upload is complete</source>
         <translation>L'envoi est terminé</translation>
+    </message>
+    <message>
+        <source>Another video is being uploaded.</source>
+        <translation>Une autre vidéo est en cours d'envoi.</translation>
     </message>
 </context>
 <context>
@@ -2132,6 +2164,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>%1: %2</source>
         <comment>undo or redo, and what</comment>
         <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Add Audio</source>
+        <translation>Ajouter audio</translation>
     </message>
 </context>
 <context>

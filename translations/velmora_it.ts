@@ -1581,6 +1581,14 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <source>CLOSE</source>
         <translation>CHIUDI</translation>
     </message>
+    <message>
+        <source>The video is ready, but it could not be entered in the history: %1</source>
+        <translation>Il video è pronto, ma non è stato possibile aggiungerlo alla cronologia: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Cronologia</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DocumentActions</name>
@@ -1821,6 +1829,22 @@ Premere "Annulla" per annullare l'operazione.</translation>
     <message>
         <source>CLOSE</source>
         <translation>CHIUDI</translation>
+    </message>
+    <message>
+        <source>Go back in the preview</source>
+        <translation>Torna indietro nell'anteprima</translation>
+    </message>
+    <message>
+        <source>Go forward in the preview</source>
+        <translation>Vai avanti nell'anteprima</translation>
+    </message>
+    <message>
+        <source>Show the preview on the full screen</source>
+        <translation>Mostra l'anteprima a schermo intero</translation>
+    </message>
+    <message>
+        <source>Play the effect of a text</source>
+        <translation>Riproduci l'effetto di un testo</translation>
     </message>
 </context>
 <context>
@@ -2090,6 +2114,10 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <source>Menu</source>
         <translation>Menu</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>Guida</translation>
+    </message>
 </context>
 <context>
     <name>velmora::MainView</name>
@@ -2104,6 +2132,10 @@ Premere "Annulla" per annullare l'operazione.</translation>
     <message>
         <source>The upload is complete</source>
         <translation>Il caricamento è completo</translation>
+    </message>
+    <message>
+        <source>Another video is being uploaded.</source>
+        <translation>È in corso il caricamento di un altro video.</translation>
     </message>
 </context>
 <context>
@@ -2132,6 +2164,10 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <source>%1: %2</source>
         <comment>undo or redo, and what</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Add Audio</source>
+        <translation>Aggiungi audio</translation>
     </message>
 </context>
 <context>

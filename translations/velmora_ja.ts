@@ -1581,6 +1581,14 @@ Press "Cancel" to cancel the operation.</source>
         <source>CLOSE</source>
         <translation>閉じる</translation>
     </message>
+    <message>
+        <source>The video is ready, but it could not be entered in the history: %1</source>
+        <translation>動画は完成しましたが、履歴に追加できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DocumentActions</name>
@@ -1821,6 +1829,22 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>CLOSE</source>
         <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Go back in the preview</source>
+        <translation>プレビューを戻す</translation>
+    </message>
+    <message>
+        <source>Go forward in the preview</source>
+        <translation>プレビューを進める</translation>
+    </message>
+    <message>
+        <source>Show the preview on the full screen</source>
+        <translation>プレビューを全画面で表示</translation>
+    </message>
+    <message>
+        <source>Play the effect of a text</source>
+        <translation>テキストの効果を再生</translation>
     </message>
 </context>
 <context>
@@ -2090,6 +2114,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>Menu</source>
         <translation>メニュー</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
 </context>
 <context>
     <name>velmora::MainView</name>
@@ -2104,6 +2132,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>The upload is complete</source>
         <translation>アップロードが完了しました</translation>
+    </message>
+    <message>
+        <source>Another video is being uploaded.</source>
+        <translation>別の動画をアップロード中です。</translation>
     </message>
 </context>
 <context>
@@ -2132,6 +2164,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>%1: %2</source>
         <comment>undo or redo, and what</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Add Audio</source>
+        <translation>音声を追加</translation>
     </message>
 </context>
 <context>

@@ -1581,6 +1581,14 @@ Press "Cancel" to cancel the operation.</source>
         <source>CLOSE</source>
         <translation>ZAMKNIJ</translation>
     </message>
+    <message>
+        <source>The video is ready, but it could not be entered in the history: %1</source>
+        <translation>Film jest gotowy, ale nie można było dodać go do historii: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historia</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DocumentActions</name>
@@ -1821,6 +1829,22 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>CLOSE</source>
         <translation>ZAMKNIJ</translation>
+    </message>
+    <message>
+        <source>Go back in the preview</source>
+        <translation>Przewiń podgląd do tyłu</translation>
+    </message>
+    <message>
+        <source>Go forward in the preview</source>
+        <translation>Przewiń podgląd do przodu</translation>
+    </message>
+    <message>
+        <source>Show the preview on the full screen</source>
+        <translation>Pokaż podgląd na pełnym ekranie</translation>
+    </message>
+    <message>
+        <source>Play the effect of a text</source>
+        <translation>Odtwórz efekt tekstu</translation>
     </message>
 </context>
 <context>
@@ -2090,6 +2114,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>Menu</source>
         <translation>Menu</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>Pomoc</translation>
+    </message>
 </context>
 <context>
     <name>velmora::MainView</name>
@@ -2104,6 +2132,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>The upload is complete</source>
         <translation>Przesyłanie zakończone</translation>
+    </message>
+    <message>
+        <source>Another video is being uploaded.</source>
+        <translation>Trwa przesyłanie innego filmu.</translation>
     </message>
 </context>
 <context>
@@ -2132,6 +2164,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>%1: %2</source>
         <comment>undo or redo, and what</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Add Audio</source>
+        <translation>Dodaj dźwięk</translation>
     </message>
 </context>
 <context>

@@ -1581,6 +1581,14 @@ Press "Cancel" to cancel the operation.</source>
         <source>CLOSE</source>
         <translation>关闭</translation>
     </message>
+    <message>
+        <source>The video is ready, but it could not be entered in the history: %1</source>
+        <translation>视频已完成，但无法加入历史记录: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>历史记录</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DocumentActions</name>
@@ -1821,6 +1829,22 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>CLOSE</source>
         <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Go back in the preview</source>
+        <translation>在预览中后退</translation>
+    </message>
+    <message>
+        <source>Go forward in the preview</source>
+        <translation>在预览中前进</translation>
+    </message>
+    <message>
+        <source>Show the preview on the full screen</source>
+        <translation>全屏显示预览</translation>
+    </message>
+    <message>
+        <source>Play the effect of a text</source>
+        <translation>播放文字效果</translation>
     </message>
 </context>
 <context>
@@ -2090,6 +2114,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>Menu</source>
         <translation>菜单</translation>
     </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
 </context>
 <context>
     <name>velmora::MainView</name>
@@ -2104,6 +2132,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>The upload is complete</source>
         <translation>上传已完成</translation>
+    </message>
+    <message>
+        <source>Another video is being uploaded.</source>
+        <translation>正在上传另一个视频。</translation>
     </message>
 </context>
 <context>
@@ -2132,6 +2164,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>%1: %2</source>
         <comment>undo or redo, and what</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Add Audio</source>
+        <translation>添加音频</translation>
     </message>
 </context>
 <context>

@@ -123,6 +123,13 @@ bool AppSettings::save(QSettings &store) const
     return false;
 }
 
+void AppSettings::saveTransitionTime(QSettings &store) const
+{
+    const QString key = QStringLiteral("transitionTime");
+    if (store.value(key, AppSettings().transitionTime).toInt() != transitionTime)
+        store.setValue(key, transitionTime);
+}
+
 std::unique_ptr<QSettings> openSettings(const QString &fileName)
 {
     auto settings = std::make_unique<QSettings>(fileName, QSettings::IniFormat);

@@ -36,6 +36,8 @@ struct AppSettings {
     void load(const QSettings &store, const QSize &screen);
     /// Writes every key. False with a log line when the store cannot be written.
     bool save(QSettings &store) const;
+    /// Writes "transitionTime", which the editor changes as well; nothing if it stands there.
+    void saveTransitionTime(QSettings &store) const;
 };
 
 /// Opens an INI file of the program, read and written as UTF-8; settings.ini is only opened so.

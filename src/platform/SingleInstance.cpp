@@ -18,9 +18,9 @@ namespace velmora
 namespace
 {
 
-constexpr qint64 kMaximumMessage = 64 * 1024; // bytes
-constexpr int kSilentConnection = 5000;       // ms
-constexpr int kRetryPause = 50;               // ms
+constexpr qint64 kMaximumMessage = 4LL * 1024 * 1024; // bytes; the paths of many thousand photos
+constexpr int kSilentConnection = 5000;               // ms
+constexpr int kRetryPause = 50;                       // ms
 constexpr char kReceipt = '+';
 
 int remaining(const QElapsedTimer &timer, int timeoutMs)

@@ -7,6 +7,9 @@
 #include <QLocalSocket>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QThread>
+
+#include <memory>
 
 using namespace velmora;
 
@@ -17,6 +20,7 @@ class SingleInstanceTest : public QObject
 private slots:
     void deliversText_data();
     void deliversText();
+    void deliversManyPaths();
     void killedOwnerIsReplaced();
     void silentOwnerTimesOut();
     void foldersAreIndependent();
@@ -54,6 +58,23 @@ void SingleInstanceTest::deliversText()
     QSignalSpy received(&first, &SingleInstance::messageReceived);
     QVERIFY(!first.isRunning());
     QCOMPARE(send(folder.path(), text, 5000), QByteArray("delivered"));
+    QTRY_COMPARE(received.size(), 1);
+    QCOMPARE(received.first().first().toString(), text);
+}
+
+void SingleInstanceTest::deliversManyPaths()
+{
+    const QTemporaryDir folder;
+    const SingleInstance first(folder.path());
+    QSignalSpy received(&first, &SingleInstance::messageReceived);
+    // More than a command line holds.
+    const QString text(1 << 20, QLatin1Char('x'));
+    bool delivered = false;
+    const std::unique_ptr<QThread> sender(QThread::create(
+        [&] { delivered = SingleInstance(folder.path()).sendMessage(text, 5000); }));
+    sender->start();
+    QTRY_VERIFY(sender->isFinished());
+    QVERIFY(delivered);
     QTRY_COMPARE(received.size(), 1);
     QCOMPARE(received.first().first().toString(), text);
 }
@@ -109,7 +130,7 @@ void SingleInstanceTest::survivesForeignClients_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("nothing") << QByteArray();
     QTest::newRow("huge length") << QByteArray("\x7f\xff\xff\xff garbage");
-    QTest::newRow("flood") << QByteArray(1 << 20, '\x7f');
+    QTest::newRow("flood") << QByteArray(1 << 23, '\x7f');
 }
 
 void SingleInstanceTest::survivesForeignClients()

@@ -55,10 +55,9 @@ AudioItemList readAudioFiles(const QJsonObject &object)
 } // namespace
 
 ProjectFile::ProjectFile(const AppSettings &settings, TitleSlide titleSlide, QObject *parent)
-    : QObject(parent), m_settings(settings), m_name(tr("New project")),
-      m_format(QStringLiteral("mkv")), m_resolution(settings.resolution),
-      m_origRatio(settings.origRatio), m_scaleToFit(settings.scaleToFit),
-      m_audioFade(settings.audioFade)
+    : QObject(parent), m_settings(settings), m_name(defaultName()), m_format(QStringLiteral("mkv")),
+      m_resolution(settings.resolution), m_origRatio(settings.origRatio),
+      m_scaleToFit(settings.scaleToFit), m_audioFade(settings.audioFade)
 {
     if (titleSlide == TitleSlide::Create) {
         m_items.append(new ProjectItemFirst(settings.defaultTime, this));
@@ -101,6 +100,11 @@ void ProjectFile::placeItem(ProjectItem *item, ProjectItem *anchor, int shift)
                        << (shift > 0 ? "after" : "before") << anchorIndex;
     m_items.removeAt(from);
     m_items.insert(m_items.indexOf(anchor) + shift, item);
+}
+
+QString ProjectFile::defaultName()
+{
+    return tr("New project");
 }
 
 QVector<ProjectItem *> ProjectFile::addFiles(const QStringList &paths, int timeSeconds,

@@ -32,6 +32,8 @@ public:
     /// A new project with the defaults of @p settings, which must outlive it.
     ProjectFile(const AppSettings &settings, TitleSlide titleSlide, QObject *parent = nullptr);
 
+    /// The name of a new project, in the present language.
+    static QString defaultName();
     const QString &name() const { return m_name; }
     void setName(const QString &name) { m_name = name; }
     const QString &fileName() const { return m_fileName; } ///< Path of the video to produce.

@@ -37,6 +37,7 @@ FinalWindow::FinalWindow(const QString &video, FileManager &fileManager, QWidget
         emit burnDvd();
     });
     const auto offer = [this](QPushButton *button, const char *key) {
+        m_uploadButtons.append(button);
         button->setToolTip(uploadHindrance());
         connect(button, &QPushButton::clicked, this, [this, key] {
             accept();
@@ -47,6 +48,14 @@ FinalWindow::FinalWindow(const QString &video, FileManager &fileManager, QWidget
     offer(form.btnUploadGoogleDrive, "googledrive");
     offer(form.btnUploadDropBox, "dropbox");
     form.btnOpen->setFocus();
+}
+
+void FinalWindow::refuseUploads(const QString &reason)
+{
+    for (QPushButton *button : qAsConst(m_uploadButtons)) {
+        button->setEnabled(false);
+        button->setToolTip(reason);
+    }
 }
 
 void FinalWindow::openFolder()

@@ -4,6 +4,9 @@
 #include "chrome/CorDialog.h"
 
 #include <QString>
+#include <QVector>
+
+class QPushButton;
 
 namespace velmora
 {
@@ -19,6 +22,9 @@ public:
     /// @p fileManager must outlive the window.
     FinalWindow(const QString &video, FileManager &fileManager, QWidget *parent = nullptr);
 
+    /// Disables the uploads; their tooltips tell @p reason.
+    void refuseUploads(const QString &reason);
+
 signals:
     /// The video shall be uploaded to "youtube", "googledrive" or "dropbox". After closing.
     void uploadService(const QString &serviceKey);
@@ -29,6 +35,7 @@ private:
 
     const QString m_video;
     FileManager &m_fileManager;
+    QVector<QPushButton *> m_uploadButtons;
 };
 
 } // namespace velmora

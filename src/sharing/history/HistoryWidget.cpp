@@ -246,6 +246,7 @@ void HistoryWidget::remove(const QVector<const ProjectFile *> &projects, bool tr
     const auto videos = trashVideos ? HistoryRemoval::Videos::Trash : HistoryRemoval::Videos::Keep;
     const bool removed = m_removal->remove(projects, videos, &error);
     reload();
+    emit historyChanged();
     m_ui->undoBar->setVisible(removed);
     if (!removed) {
         tellFailure(error);
@@ -274,6 +275,7 @@ void HistoryWidget::undoRemoval()
     else
         tellFailure(error);
     reload();
+    emit historyChanged();
     m_ui->listHistory->setFocus();
 }
 

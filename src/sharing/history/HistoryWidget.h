@@ -90,6 +90,7 @@ public slots:
 signals:
     /// The selected entry shall be opened in the editor; it is selectedProject() meanwhile.
     void openProject(const QString &fileName);
+    void historyChanged(); ///< Entries were removed, or brought back.
     /// The user chose a service for the selected entry. Answer with onStartUpload().
     void uploadClicked(const QString &uploadService);
     /// A video shall be burnt; @p diskTitle is the text of its title slide and may be empty.

@@ -18,7 +18,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
-#include <QShortcut>
 #include <QStandardPaths>
 #include <QVariant>
 #include <QWhatsThis>
@@ -147,8 +146,6 @@ void AudioListWidget::setUpActions()
     m_up->setIcon(Theme::icon(QStringLiteral("up")));
     m_down->setIcon(Theme::icon(QStringLiteral("down")));
     m_delete->setIcon(Theme::icon(QStringLiteral("audio-del")));
-    auto *add = new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_M), this);
-    connect(add, &QShortcut::activated, this, &AudioListWidget::onBtnAddAudioClicked);
 }
 
 void AudioListWidget::setUpValues()

@@ -64,6 +64,7 @@ void TextEditWidget::setUpControls()
     });
     connect(m_ui->cbColor, &ColorBox::colorChosen, this, show);
     connect(m_ui->cbBgColor, &ColorBox::colorChosen, this, show);
+    connect(m_ui->chkTitleToo, &QCheckBox::toggled, this, &TextEditWidget::announceEdited);
     connect(m_ui->framePosition, &PositionPicker::positionChosen, this, show);
     connect(m_ui->frameStarterBg, &BackgroundPicker::backgroundChosen, this,
             &TextEditWidget::onBackgroundChosen);
@@ -123,6 +124,7 @@ void TextEditWidget::begin(ProjectItem *item, bool allSlides)
     m_sharedStyle = allSlides ? item : nullptr;
     if (!m_item) {
         m_ui->captionPreview->clear();
+        announceEdited();
         return;
     }
     const bool isStyle = m_sharedStyle && !isTitle();
@@ -230,6 +232,7 @@ void TextEditWidget::updatePicture(Play play)
     const ProjectFile *project = m_editor.project();
     if (!m_item || !project)
         return;
+    announceEdited();
     constexpr int kSecond = 1000; // ms
     CaptionPictureRequest request;
     request.isTitle = isTitle();
@@ -243,6 +246,14 @@ void TextEditWidget::updatePicture(Play play)
     request.play = play == Play::Yes;
     request.milliseconds = m_editor.transitionSeconds() * kSecond;
     m_ui->captionPreview->setSubject(request);
+}
+
+void TextEditWidget::announceEdited()
+{
+    if (isEdited() == m_edited)
+        return;
+    m_edited = !m_edited;
+    emit editedChanged(m_edited);
 }
 
 /// A text in the colour that suited the background before gets the one that suits this one.
@@ -315,6 +326,7 @@ void TextEditWidget::end()
     m_item = nullptr;
     m_sharedStyle = nullptr;
     m_ui->captionPreview->clear();
+    announceEdited();
     emit finished();
 }
 

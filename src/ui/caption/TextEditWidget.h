@@ -36,6 +36,7 @@ public:
     bool isEdited() const;
 
 signals:
+    void editedChanged(bool edited); ///< isEdited() has changed.
     void titleChanged(const QString &heading);
     void finished(); ///< After saving, cancelling, or when the slide left the project.
 
@@ -56,6 +57,7 @@ private:
     void begin(ProjectItem *item, bool allSlides);
     void fill();
     void end();
+    void announceEdited();
     void showHeading();
     void updatePicture(Play play = Play::No);
     void leave(); ///< Cancels, after a question when there are changes.
@@ -74,6 +76,7 @@ private:
     int m_originalBackground = 0;
     int m_shownBackground = 0;
     QString m_family;
+    bool m_edited = false; ///< As announced last.
 };
 
 } // namespace velmora

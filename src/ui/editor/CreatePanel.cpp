@@ -12,15 +12,16 @@
 #include "services/MetricSender.h"
 #include "ui/UiLog.h"
 #include "ui/editor/SlideActions.h"
+#include "ui/editor/VideoName.h"
 #include "ui/model/ProjectEditor.h"
 #include "ui/model/ValueLists.h"
 #include "ui_CreatePanel.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
 #include <QTemporaryFile>
+#include <QUndoStack>
 
 #include <algorithm>
 
@@ -42,6 +43,7 @@ CreatePanel::CreatePanel(ProjectEditor &editor, const AppSettings &settings, His
       m_ui(std::make_unique<Ui::CreatePanel>())
 {
     m_ui->setupUi(this);
+    m_name = new VideoName(*m_ui->txtProjName, editor, this);
     setUpPages();
     connectComposer();
     for (QTimer *timer : {&m_progressTimer, &m_finalTimer})
@@ -51,11 +53,13 @@ CreatePanel::CreatePanel(ProjectEditor &editor, const AppSettings &settings, His
     for (const auto signal : {&ProjectEditor::projectChanged, &ProjectEditor::settingsChanged,
                               &ProjectEditor::totalsChanged})
         connect(&m_editor, signal, this, &CreatePanel::refresh);
-    setDefaultName();
     refresh();
 }
 
-CreatePanel::~CreatePanel() = default;
+CreatePanel::~CreatePanel()
+{
+    removeRequest();
+}
 
 void CreatePanel::setUpPages()
 {
@@ -113,14 +117,6 @@ void CreatePanel::connectComposer()
     connect(&m_composer, &Composer::finished, this, &CreatePanel::onFinished);
     connect(&m_composer, &Composer::failed, this, &CreatePanel::onFailed);
     connect(&m_composer, &Composer::canceled, this, &CreatePanel::onCancelled);
-}
-
-void CreatePanel::setDefaultName()
-{
-    const QString stamp =
-        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_HHmmss"));
-    m_ui->txtProjName->setText(QStringLiteral("sshow_") + stamp);
-    m_ui->txtProjName->setCursorPosition(0);
 }
 
 void CreatePanel::refresh()
@@ -233,16 +229,18 @@ void CreatePanel::on_btnCreate_clicked()
 void CreatePanel::start(const QString &output)
 {
     ProjectFile &project = *m_editor.project();
-    const QString name = m_ui->txtProjName->text();
-    project.setName(name);
+    m_name->giveTitle();
     project.setFileName(output);
-    const QString request = QStringLiteral("%1/%2.json").arg(Paths::cacheFolder(), name);
+    m_request = QStringLiteral("%1/%2.json").arg(Paths::cacheFolder(), m_ui->txtProjName->text());
     QString error = tr("The folder %1 cannot be made.").arg(Paths::cacheFolder());
     if (!Paths::ensureFolder(Paths::cacheFolder()) ||
-        !RenderRequest::save(project, m_settings, request, &error)) {
+        !RenderRequest::save(project, m_settings, m_request, &error)) {
         MessageDialog::inform(this, tr("The video cannot be made"), error);
         return;
     }
+    m_rendered = QJsonObject();
+    project.toJson(m_rendered);
+    m_renderedStep = m_editor.undoStack()->index();
     m_videoLength = Timeline::ofProject(project, m_settings.transitionTime).totalLength();
     m_generating = true;
     m_ui->tcCreate->setCurrentWidget(m_ui->page_2);
@@ -252,7 +250,7 @@ void CreatePanel::start(const QString &output)
     m_ui->lblPercent->setText(tr("%1 %").arg(0));
     emit progressStarted();
     m_progressTimer.start();
-    m_composer.run(request);
+    m_composer.run(m_request);
     onProgressTimer();
 }
 
@@ -301,6 +299,7 @@ void CreatePanel::onFinalTimer()
         showState();
     } else if (!m_composer.isRunning()) {
         m_finalTimer.stop();
+        removeRequest();
         updateCreateButton();
     }
 }
@@ -348,9 +347,19 @@ void CreatePanel::onCancelled()
     m_finalTimer.start();
 }
 
+/// It holds the user's paths and texts, and nobody reads it any more.
+void CreatePanel::removeRequest()
+{
+    if (!m_request.isEmpty())
+        QFile::remove(m_request);
+    m_request.clear();
+}
+
 void CreatePanel::onFailed()
 {
+    removeRequest();
     showSetup();
+    emit failed(m_composer.errorText());
     MessageDialog::Message message;
     message.kind = MessageDialog::Kind::Warning;
     message.title = QCoreApplication::translate("Conversion", "Creation error");
@@ -363,24 +372,35 @@ void CreatePanel::onFailed()
 void CreatePanel::onFinished(const QString &fileName)
 {
     qCDebug(lcUi) << "Finished generating" << fileName;
+    removeRequest();
     m_ui->progressBar->setValue(100);
     m_ui->lblRemTime->setText(tr("Time Remaining: %1").arg(ValueLists::durationText(0)));
-    recordHistory(fileName);
-    setDefaultName();
+    QString error;
+    const bool isRecorded = recordHistory(fileName, &error);
+    m_name->propose();
     showSetup();
+    // Photos that were still on their way when the render began are not in the entry.
+    if (isRecorded && m_editor.undoStack()->index() == m_renderedStep)
+        emit recorded();
     emit finished(fileName);
+    if (!isRecorded)
+        MessageDialog::inform(
+            window(), tr("History"),
+            tr("The video is ready, but it could not be entered in the history: %1").arg(error));
 }
 
-void CreatePanel::recordHistory(const QString &fileName)
+/// The entry is what was rendered, whatever has become of the project since.
+bool CreatePanel::recordHistory(const QString &fileName, QString *error)
 {
-    QJsonObject document;
-    m_editor.project()->toJson(document);
-    std::unique_ptr<ProjectFile> copy = ProjectFile::fromJson(document, m_settings);
-    if (!copy)
-        return;
-    copy->setFileName(fileName);
-    m_history.add(std::move(copy));
-    m_history.save();
+    QStringList problems;
+    std::unique_ptr<ProjectFile> entry = ProjectFile::fromJson(m_rendered, m_settings, &problems);
+    if (!entry) {
+        *error = problems.join(QStringLiteral(", "));
+        return false;
+    }
+    entry->setFileName(fileName);
+    m_history.add(std::move(entry));
+    return m_history.save(error);
 }
 
 } // namespace velmora

@@ -4,6 +4,7 @@
 #include "generator/worker/Composer.h"
 
 #include <QFrame>
+#include <QJsonObject>
 #include <QTimer>
 
 #include <memory>
@@ -19,6 +20,7 @@ namespace velmora
 struct AppSettings;
 class HistoryStore;
 class ProjectEditor;
+class VideoName;
 
 /// Name and format of the video, and the run of its render with the progress page. GUI thread.
 class CreatePanel : public QFrame
@@ -38,6 +40,8 @@ signals:
     void progressFinished(); ///< Once per progressStarted(): success, failure or cancel.
     void progress(int percent);
     void pausedChanged(bool paused); ///< Between progressStarted() and progressFinished().
+    void recorded(); ///< The history has kept the project as it is. Before finished().
+    void failed(const QString &reason); ///< After progressFinished(), before the user is told.
     void finished(const QString &fileName);
     void fullPreviewClicked();
 
@@ -59,7 +63,6 @@ private:
     void setUpPages();
     void retranslate();
     void connectComposer();
-    void setDefaultName();
     QString outputPath() const;
     bool isNameUsable();
     bool isFolderUsable();
@@ -72,17 +75,22 @@ private:
     void showSetup();
     void showPauseButton(bool paused);
     void showState();
-    void recordHistory(const QString &fileName);
+    bool recordHistory(const QString &fileName, QString *error);
     void refresh();
     void updateCreateButton();
+    void removeRequest();
 
     ProjectEditor &m_editor;
     const AppSettings &m_settings;
     HistoryStore &m_history;
     std::unique_ptr<Ui::CreatePanel> m_ui;
+    VideoName *m_name = nullptr;
     Composer m_composer;
     QTimer m_progressTimer;
     QTimer m_finalTimer;
+    QString m_request;        ///< The worker's file, while there is one.
+    QJsonObject m_rendered;   ///< The project of the render.
+    int m_renderedStep = 0;   ///< Of the undo stack, when the render began.
     qint64 m_videoLength = 0; ///< ms of the video that is being made
     bool m_generating = false;
 };

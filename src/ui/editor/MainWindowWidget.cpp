@@ -41,7 +41,7 @@ MainWindowWidget::MainWindowWidget(AppSettings &settings, HistoryStore &history,
     : QWidget(parent), m_settings(settings), m_editor(settings),
       m_undo(new QAction(Theme::icon(QStringLiteral("undo")), QString(), this)),
       m_redo(new QAction(Theme::icon(QStringLiteral("redo")), QString(), this)),
-      m_slides(new SlidesPage(m_editor, settings)),
+      m_addAudio(new QAction(this)), m_slides(new SlidesPage(m_editor, settings)),
       m_imports(new PhotoImports(m_editor, m_slides->busyNote(), this)),
       m_preview(new PreviewWidget(m_editor, settings)),
       m_video(new VideoSettingsFrame(m_editor, settings)), m_audio(new AudioListWidget(m_editor)),
@@ -56,7 +56,7 @@ MainWindowWidget::MainWindowWidget(AppSettings &settings, HistoryStore &history,
     row->setSpacing(kGap);
     row->addWidget(m_stack, 1);
     row->addWidget(m_side, 1000); // up to its greatest width
-    setUpUndo();
+    setUpActions();
     connectParts();
 }
 
@@ -88,7 +88,7 @@ void MainWindowWidget::setUpSide()
     showHeading(m_side->mode());
 }
 
-void MainWindowWidget::setUpUndo()
+void MainWindowWidget::setUpActions()
 {
     m_undo->setObjectName(QStringLiteral("actUndo"));
     m_redo->setObjectName(QStringLiteral("actRedo"));
@@ -96,11 +96,16 @@ void MainWindowWidget::setUpUndo()
     m_redo->setShortcuts({Qt::CTRL + Qt::Key_Y, Qt::CTRL + Qt::SHIFT + Qt::Key_Z});
     connect(m_undo, &QAction::triggered, m_editor.undoStack(), &QUndoStack::undo);
     connect(m_redo, &QAction::triggered, m_editor.undoStack(), &QUndoStack::redo);
+    m_addAudio->setObjectName(QStringLiteral("actAddAudio"));
+    m_addAudio->setShortcut(Qt::CTRL + Qt::Key_M);
+    connect(m_addAudio, &QAction::triggered, m_audio, &AudioListWidget::onBtnAddAudioClicked);
+    addAction(m_addAudio);
     for (QAction *action : {m_undo, m_redo}) {
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         addAction(action);
     }
-    connect(m_editor.undoStack(), &QUndoStack::indexChanged, this, &MainWindowWidget::updateUndo);
+    connect(m_editor.undoStack(), &QUndoStack::indexChanged, this,
+            &MainWindowWidget::updateActions);
     retranslate();
     m_slides->setUndoActions(m_undo, m_redo);
 }
@@ -110,7 +115,9 @@ void MainWindowWidget::retranslate()
     m_side->setTitles({tr("Preview"), tr("Video"), tr("Audio")});
     m_undo->setText(tr("Undo"));
     m_redo->setText(tr("Redo"));
-    updateUndo();
+    m_addAudio->setText(tr("Add Audio"));
+    m_addAudio->setToolTip(SlideActions::toolTip(m_addAudio->text(), m_addAudio->shortcut()));
+    updateActions();
 }
 
 void MainWindowWidget::changeEvent(QEvent *event)
@@ -121,12 +128,13 @@ void MainWindowWidget::changeEvent(QEvent *event)
 }
 
 /// "Undo: Move slides (Ctrl+Z)"; not possible while a video is made or a caption is edited.
-void MainWindowWidget::updateUndo()
+void MainWindowWidget::updateActions()
 {
     const QUndoStack &stack = *m_editor.undoStack();
     const bool can = !isGenerating() && !isEditingText();
     m_undo->setEnabled(can && stack.canUndo());
     m_redo->setEnabled(can && stack.canRedo());
+    m_addAudio->setEnabled(can);
     const auto tip = [](QAction *action, const QString &name, const QString &step) {
         const QString text =
             step.isEmpty()
@@ -147,6 +155,7 @@ void MainWindowWidget::connectParts()
     connect(m_slides, &SlidesPage::captionOfAllRequested, this,
             &MainWindowWidget::editCaptionOfAll);
     connect(m_text, &TextEditWidget::finished, this, &MainWindowWidget::endTextEditing);
+    connect(m_text, &TextEditWidget::editedChanged, this, &MainWindowWidget::unsavedTextChanged);
     connect(m_slides, &SlidesPage::rotateChanged, this, &MainWindowWidget::rotateChanged);
     connect(m_preview, &PreviewWidget::previewClicked, this, &MainWindowWidget::onPreviewClicked);
     // Two sounds at once are noise.
@@ -163,10 +172,12 @@ void MainWindowWidget::connectParts()
     });
     connect(m_create, &CreatePanel::pausedChanged, this, &MainWindowWidget::pausedChanged);
     connect(m_create, &CreatePanel::progress, this, &MainWindowWidget::progress);
+    connect(m_create, &CreatePanel::failed, this, &MainWindowWidget::failed);
+    connect(m_create, &CreatePanel::recorded, this, &MainWindowWidget::recorded);
     connect(m_create, &CreatePanel::finished, this, &MainWindowWidget::onFullVideoGenerated);
 }
 
-/// An edit during a render would not be in the video, and its history entry must match it.
+/// An edit during a render would not be in the video.
 void MainWindowWidget::setGenerating(bool generating)
 {
     if (generating)
@@ -174,7 +185,7 @@ void MainWindowWidget::setGenerating(bool generating)
     m_stack->setEnabled(!generating);
     m_video->setEnabled(!generating);
     m_audio->setEnabled(!generating);
-    updateUndo();
+    updateActions();
 }
 
 bool MainWindowWidget::isGenerating() const
@@ -190,6 +201,18 @@ bool MainWindowWidget::isEditingText() const
 bool MainWindowWidget::hasUnsavedText() const
 {
     return isEditingText() && m_text->isEdited();
+}
+
+void MainWindowWidget::focusSlides()
+{
+    if (!isEditingText())
+        m_slides->focusTable();
+}
+
+void MainWindowWidget::saveText()
+{
+    if (hasUnsavedText())
+        m_text->save();
 }
 
 void MainWindowWidget::editCaption(ProjectItem *slide)
@@ -214,7 +237,7 @@ void MainWindowWidget::beginTextEditing()
     silence();
     m_stack->setCurrentIndex(1);
     m_side->hide();
-    updateUndo();
+    updateActions();
     emit textEditingBegan(m_editor.project()->items().size());
 }
 
@@ -225,7 +248,7 @@ void MainWindowWidget::endTextEditing()
     m_stack->setCurrentWidget(m_slides);
     m_side->show();
     m_slides->focusTable();
-    updateUndo();
+    updateActions();
     emit textEditingFinished();
 }
 
@@ -263,6 +286,7 @@ void MainWindowWidget::updateFromSettings()
 {
     m_video->refresh();
     m_slides->updateFromSettings();
+    m_preview->refreshSoon();
 }
 
 void MainWindowWidget::onFilesDropped(const QStringList &files, int newRow)

@@ -43,15 +43,22 @@ public:
     bool isEditingText() const;
     /// Whether that caption has changes that are not saved.
     bool hasUnsavedText() const;
+    /// Gives the keys to the slide table, unless a caption is being edited.
+    void focusSlides();
+    /// Takes these changes over into the project and leaves the caption.
+    void saveText();
 
 signals:
     void progressStarted();
     void progressFinished(); ///< Once per progressStarted().
     void progress(int percent);
     void pausedChanged(bool paused);        ///< Between progressStarted() and progressFinished().
+    void failed(const QString &reason);     ///< After progressFinished(): there is no video.
+    void recorded();                        ///< The history has kept the project as it is.
     void finished(const QString &fileName); ///< After progressFinished(): the video is there.
     void textEditingBegan(int totalSlide);
     void textEditingFinished();
+    void unsavedTextChanged(); ///< hasUnsavedText() may have changed.
     void rotateChanged();
 
 public slots:
@@ -77,10 +84,10 @@ protected:
 private:
     void setUpSlideStack();
     void setUpSide();
-    void setUpUndo();
+    void setUpActions();
     void retranslate();
     void connectParts();
-    void updateUndo();
+    void updateActions();
     void setGenerating(bool generating);
     void silence();
     void editCaption(ProjectItem *slide);
@@ -92,6 +99,7 @@ private:
     ProjectEditor m_editor;
     QAction *m_undo;
     QAction *m_redo;
+    QAction *m_addAudio;
     SlidesPage *m_slides;
     PhotoImports *m_imports;
     PreviewWidget *m_preview;

@@ -21,6 +21,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
+#include <QPointer>
 
 namespace velmora
 {
@@ -175,7 +176,7 @@ void SlidesPage::rotateSelected(int degrees)
 /// Other missing photos that lay in the same folder are looked for beside the file chosen.
 void SlidesPage::relocate(ProjectItem *slide)
 {
-    const auto *photo = qobject_cast<ProjectItemSimple *>(slide);
+    const QPointer<ProjectItemSimple> photo = qobject_cast<ProjectItemSimple *>(slide);
     if (!photo)
         return;
     const QFileInfo old(photo->fileName());
@@ -183,7 +184,8 @@ void SlidesPage::relocate(ProjectItem *slide)
     const QString chosen = QFileDialog::getOpenFileName(
         this, tr("Where is %1?").arg(old.fileName()),
         QFileInfo::exists(old.path()) ? old.path() : QDir::homePath(), filter);
-    if (chosen.isEmpty())
+    // The project may have been replaced meanwhile.
+    if (chosen.isEmpty() || !photo || m_model->rowOf(photo) < 0)
         return;
     const QDir folder = QFileInfo(chosen).absoluteDir();
     m_editor.beginStep(QT_TRANSLATE_NOOP("velmora::ProjectEditor", "Relocate photos"));

@@ -29,12 +29,14 @@ QString lockFile(const QString &folder)
     return folder + QStringLiteral("/autosave.lock");
 }
 
-void write(const QString &fileName, const QJsonObject &content)
+bool write(const QString &fileName, const QJsonObject &content)
 {
     QString error;
     const QByteArray text = QJsonDocument(content).toJson(QJsonDocument::Compact);
-    if (!JsonFile::write(fileName, text, &error))
+    const bool written = JsonFile::write(fileName, text, &error);
+    if (!written)
         qCWarning(lcUi).noquote() << "Cannot keep the unsaved changes:" << error;
+    return written;
 }
 
 } // namespace
@@ -98,7 +100,12 @@ void Autosave::saveNow()
     QJsonObject project;
     m_document.project()->toJson(project);
     const QJsonObject content = {{kPath, m_document.path()}, {kProject, project}};
-    QtConcurrent::run(&m_writer, write, m_fileName, content);
+    QtConcurrent::run(&m_writer, [this, content] {
+        // The next look tries again.
+        if (!write(m_fileName, content))
+            QMetaObject::invokeMethod(
+                this, [this] { m_changed = true; }, Qt::QueuedConnection);
+    });
 }
 
 void Autosave::clear()

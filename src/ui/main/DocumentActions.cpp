@@ -8,11 +8,13 @@
 #include "ui/main/Autosave.h"
 #include "ui/main/MainMenu.h"
 #include "ui/main/ProjectDocument.h"
+#include "ui/main/QuietMoment.h"
 #include "ui/settings/SetNameDialog.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QPointer>
 #include <QSettings>
 
 namespace velmora
@@ -36,7 +38,8 @@ const QString &suffix()
 } // namespace
 
 DocumentActions::DocumentActions(ProjectDocument &document, const AppSettings &settings,
-                                 QSettings &store, const MainMenu &menu, QWidget *window)
+                                 QSettings &store, const MainMenu &menu, QuietMoment &quiet,
+                                 QWidget *window)
     : QObject(window), m_document(document), m_settings(settings), m_store(store), m_window(window),
       m_resume(settings, window)
 {
@@ -45,7 +48,8 @@ DocumentActions::DocumentActions(ProjectDocument &document, const AppSettings &s
     connect(menu.save, &QAction::triggered, this, &DocumentActions::onSave);
     connect(menu.saveAs, &QAction::triggered, this, &DocumentActions::onSaveAs);
     connect(menu.title, &QAction::triggered, this, &DocumentActions::onTitle);
-    connect(&m_resume, &ProjectResume::ready, this, &DocumentActions::onResumed);
+    connect(&m_resume, &ProjectResume::ready, this,
+            [this, &quiet] { quiet.run([this] { onResumed(); }); });
     connect(&document, &ProjectDocument::stateChanged, this, &DocumentActions::updateTitle);
     updateTitle();
 }
@@ -61,7 +65,7 @@ void DocumentActions::updateTitle()
 
 void DocumentActions::onResumed()
 {
-    if (!mayLeave())
+    if (!m_resume.isReady() || !mayLeave())
         return;
     m_document.replace(m_resume.take(), QString());
     emit opened();
@@ -142,24 +146,35 @@ void DocumentActions::offerRestore(Autosave &autosave)
     emit opened();
 }
 
-bool DocumentActions::openFile(const QString &path)
+std::unique_ptr<ProjectFile> DocumentActions::read(const QString &path)
 {
     QString error;
     std::unique_ptr<ProjectFile> project = ProjectFile::loadFromFile(path, m_settings, &error);
-    if (!project) {
-        qCWarning(lcUi).noquote() << "Cannot open" << path << ':' << error;
-        MessageDialog::Message message;
-        message.kind = MessageDialog::Kind::Warning;
-        message.title = tr("Open a slideshow");
-        message.text = tr("The file \"%1\" cannot be opened as a slideshow.")
-                           .arg(QDir::toNativeSeparators(path));
-        message.details = error;
-        message.buttons = QStringList{tr("CLOSE")};
-        MessageDialog::ask(m_window, message);
+    if (project)
+        return project;
+    qCWarning(lcUi).noquote() << "Cannot open" << path << ':' << error;
+    MessageDialog::Message message;
+    message.kind = MessageDialog::Kind::Warning;
+    message.title = tr("Open a slideshow");
+    message.text =
+        tr("The file \"%1\" cannot be opened as a slideshow.").arg(QDir::toNativeSeparators(path));
+    message.details = error;
+    message.buttons = QStringList{tr("CLOSE")};
+    MessageDialog::ask(m_window, message);
+    return nullptr;
+}
+
+bool DocumentActions::openFile(const QString &path)
+{
+    std::unique_ptr<ProjectFile> project = read(path);
+    const bool modified = m_document.isModified();
+    if (project && !mayLeave())
         return false;
-    }
-    if (!mayLeave())
-        return false;
+    // The answer may have been to save to this very file.
+    if (project && modified)
+        project = read(path);
+    if (!project)
+        return true;
     m_document.replace(std::move(project), path);
     m_store.setValue(folderKey(), QFileInfo(path).absolutePath());
     emit opened();
@@ -237,8 +252,9 @@ void DocumentActions::onTitle()
 {
     if (!m_document.project())
         return;
-    SetNameDialog dialog(m_document.project()->name(), m_window);
-    if (dialog.exec() == QDialog::Accepted)
+    const QPointer<ProjectFile> project = m_document.project();
+    SetNameDialog dialog(project->name(), m_window);
+    if (dialog.exec() == QDialog::Accepted && project && project == m_document.project())
         m_document.setName(dialog.name());
 }
 

@@ -17,6 +17,7 @@ class Autosave;
 class MainMenu;
 class ProjectDocument;
 class ProjectFile;
+class QuietMoment;
 
 /// New, open, save, and the questions before something is lost. GUI thread; the slots return when
 /// the dialogs are answered.
@@ -27,7 +28,7 @@ public:
     /// Takes over the document's actions of @p menu and the title of @p window, above which it
     /// shows its dialogs. All must outlive the object.
     DocumentActions(ProjectDocument &document, const AppSettings &settings, QSettings &store,
-                    const MainMenu &menu, QWidget *window);
+                    const MainMenu &menu, QuietMoment &quiet, QWidget *window);
 
     /// Asks what to do with unsaved changes, and does it. False: the project has to stay open.
     bool mayLeave();
@@ -40,7 +41,7 @@ public:
     /// Asks whether to restore what was not saved before a crash, if there is something.
     void offerRestore(Autosave &autosave);
     /// Opens a project document in place of the open one; tells the user why it cannot be read.
-    /// False if the open project stays.
+    /// False if the user wants to stay with the open project.
     bool openFile(const QString &path);
 
     /// Whether @p path looks like a project document rather than a photo.
@@ -59,6 +60,7 @@ signals:
 
 private:
     bool mayStopWork(bool generating, bool uploading);
+    std::unique_ptr<ProjectFile> read(const QString &path); ///< Null: the user was told why.
     bool saveTo(const QString &path);
     void onResumed();
     void updateTitle();

@@ -40,7 +40,11 @@ QVector<Shortcut> fixedShortcuts()
     return {{Qt::CTRL + Qt::Key_Return, HelpDialog::tr("Create the video, or save a text")},
             {Qt::CTRL + Qt::Key_P, HelpDialog::tr("Preview the whole slideshow")},
             {Qt::Key_Space, HelpDialog::tr("Play or pause the preview")},
+            {Qt::Key_Left, HelpDialog::tr("Go back in the preview")},
+            {Qt::Key_Right, HelpDialog::tr("Go forward in the preview")},
+            {Qt::Key_F, HelpDialog::tr("Show the preview on the full screen")},
             {Qt::Key_M, HelpDialog::tr("Mute the preview")},
+            {Qt::Key_F5, HelpDialog::tr("Play the effect of a text")},
             {Qt::Key_Escape, HelpDialog::tr("Leave without saving")}};
 }
 

@@ -40,6 +40,7 @@ MainMenu::MainMenu(QWidget *window)
       settings(createAction(window, "actSettings", ShortcutKeys::settings(), "settings")),
       fullScreen(createAction(window, "actFullScreen", ShortcutKeys::fullScreen(), "fullscreen")),
       help(createAction(window, "actHelp", ShortcutKeys::help(), "help")),
+      shortcuts(createAction(window, "actShortcuts", {})),
       site(createAction(window, "actSite", {}, "link-out")),
       quit(createAction(window, "actQuit", ShortcutKeys::quit()))
 {
@@ -56,7 +57,7 @@ MainMenu::MainMenu(QWidget *window)
     m_menu.addSeparator();
     m_menu.addActions({history, settings, fullScreen});
     m_menu.addSeparator();
-    m_menu.addActions({help, site});
+    m_menu.addActions({help, shortcuts, site});
     m_menu.addSeparator();
     m_menu.addAction(quit);
     setMenu(&m_menu);
@@ -96,7 +97,8 @@ void MainMenu::retranslate()
     back->setText(tr("Back"));
     settings->setText(tr("Settings"));
     fullScreen->setText(tr("Full screen"));
-    help->setText(tr("Keyboard shortcuts"));
+    help->setText(tr("Help"));
+    shortcuts->setText(tr("Keyboard shortcuts"));
     site->setText(tr("Home page"));
     quit->setText(tr("Quit"));
     setToolTip(tr("Menu"));

@@ -30,6 +30,7 @@ public:
     QAction *const settings;
     QAction *const fullScreen;
     QAction *const help;
+    QAction *const shortcuts;
     QAction *const site;
     QAction *const quit;
 

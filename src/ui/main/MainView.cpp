@@ -2,7 +2,6 @@
 #include "ui/main/MainView.h"
 
 #include "app/Paths.h"
-#include "chrome/TitleBar.h"
 #include "platform/DesktopNotification.h"
 #include "platform/TaskbarProgress.h"
 #include "sharing/burning/BurnDialog.h"
@@ -16,7 +15,7 @@
 #include "ui/main/MainMenu.h"
 #include "ui/main/PhotoDialogs.h"
 #include "ui/main/ProjectDocument.h"
-#include "ui/main/SamplePhotos.h"
+#include "ui/main/QuietMoment.h"
 #include "ui/main/StartMessage.h"
 #include "ui/main/StartPage.h"
 #include "ui/main/ToolRow.h"
@@ -27,7 +26,6 @@
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QStackedWidget>
-#include <QVBoxLayout>
 
 #include <utility>
 
@@ -36,7 +34,8 @@ namespace velmora
 
 MainView::MainView(const Parts &parts)
     : m_parts(parts), m_menu(new MainMenu(this)), m_lastVideo(parts.history, parts.fileManager),
-      m_tools(new ToolRow(*m_menu)), m_stack(new QStackedWidget), m_start(new StartPage(*m_menu)),
+      m_taskbar(parts.taskbar), m_tools(new ToolRow(*m_menu)), m_stack(new QStackedWidget),
+      m_start(new StartPage(*m_menu)),
       m_editor(new MainWindowWidget(parts.settings, parts.history)),
       m_history(new HistoryWidget(parts.history, parts.settings)), m_settingsPanel(nullptr),
       m_help(new HelpPages(parts.services, *m_editor, this)),
@@ -44,7 +43,9 @@ MainView::MainView(const Parts &parts)
       m_document(std::make_unique<ProjectDocument>(*m_editor, parts.settings)),
       m_autosave(std::make_unique<Autosave>(*m_document, m_editor->editor(), Paths::dataFolder(),
                                             Autosave::intervalOf(parts.store))),
-      m_actions(new DocumentActions(*m_document, parts.settings, parts.store, *m_menu, this))
+      m_quiet(new QuietMoment(this)),
+      m_actions(
+          new DocumentActions(*m_document, parts.settings, parts.store, *m_menu, *m_quiet, this))
 {
     setObjectName(QStringLiteral("mainWindow"));
     setMinimumSize(960, 640);
@@ -55,8 +56,7 @@ MainView::MainView(const Parts &parts)
     connectHistory();
     connect(m_updates, &UpdateNotice::newVersion, this, &MainView::onNewVersion);
     connect(&parts.notification, &DesktopNotification::activated, this, &CorWindow::bringToFront);
-    connect(m_actions, &DocumentActions::opened, this,
-            [this] { m_stack->setCurrentIndex(Editor); });
+    connect(m_actions, &DocumentActions::opened, this, &MainView::showEditor);
     connect(m_actions, &DocumentActions::closed, this, [this] { m_stack->setCurrentIndex(Start); });
     onPageChanged(Start);
     updateLastVideo();
@@ -65,86 +65,6 @@ MainView::MainView(const Parts &parts)
 
 MainView::~MainView() = default;
 
-void MainView::setUpPages()
-{
-    m_stack->setObjectName(QStringLiteral("pages"));
-    m_stack->addWidget(m_start);
-    m_stack->addWidget(m_editor);
-    m_stack->addWidget(m_history);
-    auto *content = new QWidget;
-    auto *layout = new QVBoxLayout(content);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_tools);
-    layout->addWidget(m_stack, 1);
-    setContent(content);
-    m_settingsPanel = new SettingsWidget(m_parts.settings, m_parts.store, content);
-    connect(m_stack, &QStackedWidget::currentChanged, this, &MainView::onPageChanged);
-    connect(m_settingsPanel, &SettingsWidget::saved, this, &MainView::onSettingsUpdate);
-    connect(m_settingsPanel, &SettingsWidget::hidden, this, &MainView::onSettingsHideFinished);
-}
-
-void MainView::connectTools()
-{
-    titleBar()->addWidget(m_menu);
-    connect(m_tools, &ToolRow::helpClicked, this, &MainView::onBtnHelpClicked);
-    connect(m_tools, &ToolRow::lastProjectClicked, this, &MainView::onLblLastProjectClicked);
-    connect(m_menu->addPhoto, &QAction::triggered, this, &MainView::onBtnAddPhotoClicked);
-    connect(m_menu->addFolder, &QAction::triggered, this, &MainView::onBtnAddFolderClicked);
-    connect(m_menu->history, &QAction::triggered, this, &MainView::onBtnHistoryClicked);
-    connect(m_menu->back, &QAction::triggered, this, &MainView::leaveHistory);
-    connect(m_menu->settings, &QAction::triggered, this, &MainView::onBtnSettingsClicked);
-    connect(m_menu->fullScreen, &QAction::triggered, this, &MainView::onToggleFullScreen);
-    connect(m_menu->help, &QAction::triggered, this,
-            [this] { m_help->showShortcuts(HelpPages::placeOfPage(page())); });
-    connect(m_menu->site, &QAction::triggered, this, &MainView::onBtnSiteClicked);
-    connect(m_menu->quit, &QAction::triggered, this, &QWidget::close);
-}
-
-void MainView::connectStartPage()
-{
-    m_start->setSamplesOffered(!samplePhotosFolder().isEmpty());
-    connect(m_start, &StartPage::samplesClicked, this,
-            [this] { addFiles({samplePhotosFolder()}); });
-    connect(m_start, &StartPage::recentClicked, this, [this] {
-        if (m_lastVideo.project())
-            m_actions->resume(*m_lastVideo.project());
-    });
-    connect(m_start, &StartPage::dropBegin, this, &MainView::onDropBegin);
-    connect(m_start, &StartPage::fileDropped, this, &MainView::onFileDropped);
-    connect(m_start, &StartPage::dropEnd, this, &MainView::onDropEnd);
-}
-
-void MainView::connectEditor()
-{
-    connect(m_editor, &MainWindowWidget::progressStarted, this, &MainView::onProgressStarted);
-    connect(m_editor, &MainWindowWidget::progressFinished, this, &MainView::onProgressFinished);
-    connect(m_editor, &MainWindowWidget::progress, this,
-            [this](int percent) { m_parts.taskbar.setValue(percent); });
-    connect(m_editor, &MainWindowWidget::pausedChanged, this,
-            [this](bool paused) { m_parts.taskbar.setPaused(paused); });
-    connect(m_editor, &MainWindowWidget::finished, this, &MainView::onFinished);
-    connect(m_editor, &MainWindowWidget::textEditingBegan, this, &MainView::onTextEditingBegan);
-    connect(m_editor, &MainWindowWidget::textEditingFinished, this,
-            &MainView::onTextEditingFinished);
-}
-
-void MainView::connectHistory()
-{
-    m_history->setUploads(&m_parts.uploads);
-    connect(m_history, &HistoryWidget::openProject, this, &MainView::onProjectOpen);
-    connect(m_history, &HistoryWidget::burnDvd, this, &MainView::onBurnDvd);
-    connect(m_history, &HistoryWidget::uploadClicked, this, &MainView::onUploadClicked);
-    connect(m_history, &HistoryWidget::uploadProgressStarted, this,
-            &MainView::onUploadProgressStarted);
-    connect(m_history, &HistoryWidget::progressUpload, this,
-            [this](int percent) { m_parts.taskbar.setValue(percent); });
-    connect(m_history, &HistoryWidget::uploadProgressFinished, this,
-            [this] { m_parts.taskbar.setVisible(false); });
-    connect(m_history, &HistoryWidget::uploadFinished, this, &MainView::onUploadFinished);
-    connect(m_history, &HistoryWidget::uploadFailed, this, &MainView::onUploadFailed);
-}
-
 MainView::Page MainView::page() const
 {
     return static_cast<Page>(m_stack->currentIndex());
@@ -152,14 +72,28 @@ MainView::Page MainView::page() const
 
 void MainView::leaveHistory()
 {
-    if (page() == History)
-        m_stack->setCurrentIndex(m_document->project() ? Editor : Start);
+    if (page() != History)
+        return;
+    if (m_document->project())
+        showEditor();
+    else
+        m_stack->setCurrentIndex(Start);
+}
+
+/// The keys go to the slides, wherever the click was that led here.
+void MainView::showEditor()
+{
+    m_stack->setCurrentIndex(Editor);
+    m_editor->focusSlides();
 }
 
 void MainView::openFiles(const QStringList &files)
 {
-    if (m_editor->isGenerating())
-        return;
+    m_quiet->run([this, files] { openNow(files); });
+}
+
+void MainView::openNow(const QStringList &files)
+{
     QStringList photos;
     for (const QString &file : files) {
         if (!DocumentActions::isDocument(file))
@@ -177,7 +111,7 @@ void MainView::addFiles(const QStringList &files)
     if (!m_document->project())
         m_document->begin();
     m_editor->onFilesDropped(files, -1);
-    m_stack->setCurrentIndex(Editor);
+    showEditor();
     raise();
 }
 
@@ -201,6 +135,8 @@ void MainView::onSettingsHide()
 void MainView::onSettingsHideFinished()
 {
     m_stack->currentWidget()->setFocus();
+    if (page() == Editor)
+        m_editor->focusSlides();
 }
 
 void MainView::onSettingsUpdate()
@@ -226,7 +162,6 @@ void MainView::onDropEnd()
 
 void MainView::onFinished(const QString &fileName)
 {
-    m_document->keptByHistory();
     updateLastVideo();
     onBtnHistoryClicked();
     m_history->select(fileName);
@@ -238,6 +173,8 @@ void MainView::offerNextSteps(const QString &video)
 {
     auto *window = new FinalWindow(video, m_parts.fileManager, this);
     window->setAttribute(Qt::WA_DeleteOnClose);
+    if (m_history->isUploading())
+        window->refuseUploads(tr("Another video is being uploaded."));
     connect(window, &FinalWindow::uploadService, this, &MainView::onUploadClicked);
     connect(window, &FinalWindow::burnDvd, m_history, &HistoryWidget::on_btnBurn_clicked);
     window->open();
@@ -253,24 +190,19 @@ void MainView::onNewVersion(const QString &version)
     m_updates->show(version);
 }
 
-void MainView::showTaskbarProgress()
-{
-    m_parts.taskbar.setValue(0);
-    m_parts.taskbar.setVisible(true);
-    m_parts.taskbar.setPaused(false);
-}
-
 void MainView::onProgressStarted()
 {
     m_menu->setGenerating(true);
-    showTaskbarProgress();
+    m_quiet->setGenerating(true);
+    m_taskbar.begin(TaskbarShare::Video);
 }
 
 void MainView::onProgressFinished()
 {
     qCDebug(lcUi) << "onProgressFinished";
     m_menu->setGenerating(false);
-    m_parts.taskbar.setVisible(false);
+    m_quiet->setGenerating(false);
+    m_taskbar.end(TaskbarShare::Video);
 }
 
 void MainView::onUploadClicked(const QString &uploadService)
@@ -292,7 +224,7 @@ void MainView::onUploadFinished(const QString &videoId, const QString &previewUr
 
 void MainView::onUploadProgressStarted()
 {
-    showTaskbarProgress();
+    m_taskbar.begin(TaskbarShare::Upload);
 }
 
 void MainView::onBurnDvd(const QString &diskTitle, const QString &fileName)
@@ -316,7 +248,7 @@ void MainView::onBtnAddPhotoClicked()
     if (page() == History) {
         if (!m_document->project())
             m_document->begin();
-        m_stack->setCurrentIndex(Editor);
+        showEditor();
     }
     addFiles(PhotoDialogs::askForPhotos(this, &m_parts.store));
 }
@@ -382,6 +314,13 @@ void MainView::tellInBackground(const QString &title, const QString &text)
 {
     if (!isActiveWindow())
         m_parts.notification.show(title, text);
+}
+
+bool MainView::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowUnblocked)
+        m_quiet->lookSoon();
+    return CorWindow::event(event);
 }
 
 void MainView::closeEvent(QCloseEvent *event)

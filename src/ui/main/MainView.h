@@ -3,6 +3,7 @@
 
 #include "chrome/CorWindow.h"
 #include "ui/main/LastVideo.h"
+#include "ui/main/TaskbarShare.h"
 
 #include <QStringList>
 
@@ -25,6 +26,7 @@ class HistoryWidget;
 class MainMenu;
 class MainWindowWidget;
 class ProjectDocument;
+class QuietMoment;
 class ServicesConfig;
 class SettingsWidget;
 class StartPage;
@@ -59,7 +61,8 @@ public:
     MainWindowWidget &editorPage() { return *m_editor; }
     ProjectDocument &document() { return *m_document; }
     Page page() const;
-    /// Opens a project document or adds photos and folders to the open slideshow.
+    /// Opens a project document or adds photos and folders to the open slideshow; once no dialog is
+    /// open and no video is being made.
     void openFiles(const QStringList &files);
     /// Asks whether to restore what was not saved before a crash, if there is something.
     void offerRestore();
@@ -99,6 +102,7 @@ signals:
     void settingsSaved(); ///< The user changed the settings; language and services may differ.
 
 protected:
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
@@ -109,8 +113,9 @@ private:
     void connectEditor();
     void connectHistory();
     void leaveHistory();
+    void showEditor();
+    void openNow(const QStringList &files);
     void addFiles(const QStringList &files);
-    void showTaskbarProgress();
     void updateLastVideo();
     void offerNextSteps(const QString &video);
     void tellInBackground(const QString &title, const QString &text);
@@ -118,6 +123,7 @@ private:
     Parts m_parts;
     MainMenu *m_menu;
     LastVideo m_lastVideo;
+    TaskbarShare m_taskbar;
     ToolRow *m_tools;
     QStackedWidget *m_stack;
     StartPage *m_start;
@@ -129,6 +135,7 @@ private:
     // These end before the pages do, which are children of the window.
     std::unique_ptr<ProjectDocument> m_document;
     std::unique_ptr<Autosave> m_autosave;
+    QuietMoment *m_quiet;
     DocumentActions *m_actions;
     QStringList m_dropped; ///< The files of the drop in work.
 };

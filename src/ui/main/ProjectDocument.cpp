@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/main/ProjectDocument.h"
 
+#include "app/AppSettings.h"
 #include "project/documents/ProjectFile.h"
 #include "ui/editor/MainWindowWidget.h"
 
@@ -15,17 +16,19 @@ ProjectDocument::ProjectDocument(MainWindowWidget &page, const AppSettings &sett
 {
     connect(&page.editor(), &ProjectEditor::modifiedChanged, this, &ProjectDocument::stateChanged);
     connect(&page.editor(), &ProjectEditor::settingsChanged, this, &ProjectDocument::stateChanged);
+    connect(&page, &MainWindowWidget::unsavedTextChanged, this, &ProjectDocument::stateChanged);
 }
 
 ProjectDocument::~ProjectDocument()
 {
+    disconnect(&m_page, nullptr, this, nullptr);
     disconnect(&m_page.editor(), nullptr, this, nullptr);
     m_page.setProject(nullptr);
 }
 
 bool ProjectDocument::isModified() const
 {
-    return m_project && (m_fileDiffers || m_page.editor().isModified());
+    return m_project && (m_fileDiffers || m_page.editor().isModified() || m_page.hasUnsavedText());
 }
 
 QString ProjectDocument::displayName() const
@@ -40,6 +43,9 @@ void ProjectDocument::begin()
     auto project = std::make_unique<ProjectFile>(m_settings, ProjectFile::TitleSlide::Create);
     // The first format of the menu; the project's own first value is not in it.
     project->setFormat(QStringLiteral("mp4"));
+    AudioItemList audio;
+    audio.offset = m_settings.audioOffset;
+    project->setAudio(audio);
     replace(std::move(project), QString());
 }
 
@@ -66,7 +72,10 @@ void ProjectDocument::setName(const QString &name)
 
 bool ProjectDocument::save(const QString &path, QString *error)
 {
-    if (!m_project || !m_project->saveToFile(path, error))
+    if (!m_project)
+        return false;
+    m_page.saveText();
+    if (!m_project->saveToFile(path, error))
         return false;
     m_path = path;
     setClean();

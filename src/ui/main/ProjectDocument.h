@@ -25,7 +25,8 @@ public:
 
     ProjectFile *project() const { return m_project.get(); } ///< Null: none is open.
     const QString &path() const { return m_path; }           ///< Empty: never saved.
-    bool isModified() const; ///< Whether closing it would lose something.
+    /// Whether closing it would lose something, be it only a caption that is being edited.
+    bool isModified() const;
     /// What the window calls it: its file's name, otherwise the project's. Empty without one.
     QString displayName() const;
 
@@ -37,8 +38,8 @@ public:
     void close();
     /// Changes the title of the project as one step of the undo stack.
     void setName(const QString &name);
-    /// Writes the project to @p path, which is its file from then on; false with a reason for the
-    /// user on failure.
+    /// Writes the project, with a caption that is being edited, to @p path, which is its file from
+    /// then on; false with a reason for the user on failure.
     bool save(const QString &path, QString *error);
     /// A project that was never saved counts as unmodified once the history has kept it.
     void keptByHistory();

@@ -70,12 +70,14 @@ bool ProjectResume::start(const ProjectFile &entry)
         return false;
     }
     m_project = std::move(project);
+    m_ready = false;
     m_search.setFuture(QtConcurrent::run(missingFiles, files(*m_project)));
     return true;
 }
 
 std::unique_ptr<ProjectFile> ProjectResume::take()
 {
+    m_ready = false;
     return std::move(m_project);
 }
 
@@ -121,6 +123,7 @@ void ProjectResume::onLooked()
         }
         removeFiles(m_project.get(), missing);
     }
+    m_ready = true;
     emit ready();
 }
 

@@ -29,6 +29,8 @@ public:
     /// Copies @p entry and looks for its files; ready() follows if there is something to go on
     /// with. False if the entry cannot be read. A search in work is given up.
     bool start(const ProjectFile &entry);
+    /// Whether take() has something to give: ready() was emitted, and no start() followed it.
+    bool isReady() const { return m_ready; }
     /// The project of ready(), less the missing files; null afterwards.
     std::unique_ptr<ProjectFile> take();
 
@@ -46,6 +48,7 @@ private:
     const AppSettings &m_settings;
     QWidget *m_window;
     std::unique_ptr<ProjectFile> m_project;
+    bool m_ready = false;
     QFutureWatcher<QStringList> m_search;
 };
 

@@ -4,6 +4,7 @@
 #include "app/AppSettings.h"
 #include "project/documents/ProjectFile.h"
 #include "project/slides/ProjectItemFirst.h"
+#include "project/slides/ProjectItemSimple.h"
 #include "ui/model/ProjectStateCommand.h"
 #include "ui/model/SlideListCommand.h"
 #include "ui/model/SlideStatesCommand.h"
@@ -130,17 +131,13 @@ void ProjectEditor::addPhotos(const QStringList &paths, int row)
 {
     if (!d->project)
         return;
-    ProjectFile batch(d->settings, ProjectFile::TitleSlide::Omit);
-    const Slides added =
-        batch.addFiles(paths, d->settings.defaultTime, d->settings.defaultTransition);
     Slides slides = d->project->items();
     const int first = d->titleSlide() ? 1 : 0;
     int place = row < 0 ? slides.size() : qBound(first, row, slides.size());
-    for (ProjectItem *slide : added) {
-        batch.takeItem(slide);
-        slide->setParent(d->shelf.get());
-        slides.insert(place++, slide);
-    }
+    for (const QString &path : paths)
+        slides.insert(place++,
+                      new ProjectItemSimple(path, d->settings.defaultTime,
+                                            d->settings.defaultTransition, d->shelf.get()));
     d->setSlides(slides, QT_TR_NOOP("Add photos"));
 }
 

@@ -48,7 +48,8 @@ public:
     void markSaved();
 
     // Slides. Rows are indexes in ProjectFile::items().
-    /// New photo slides with the default time and transition; @p row -1 appends.
+    /// New slides of photos, named by their absolute paths, with the default time and transition;
+    /// @p row -1 appends.
     void addPhotos(const QStringList &paths, int row);
     void removeSlides(const Slides &slides);
     /// Moves the slides, in their present order, to stand directly before @p row.

@@ -22,17 +22,27 @@ ProjectState ProjectState::of(const ProjectFile &project, const AppSettings &set
     return state;
 }
 
-void ProjectState::applyTo(ProjectFile &project, AppSettings &settings) const
+void ProjectState::applyTo(ProjectFile &project, AppSettings &settings,
+                           const ProjectState &before) const
 {
-    project.setName(name);
-    project.setFormat(format);
-    project.setResolution(resolution);
-    project.setOrigRatio(origRatio);
-    project.setScaleToFit(scaleToFit);
-    project.setAudio(audio);
-    project.setAudioLoop(audioLoop);
-    project.setAudioFade(audioFade);
-    settings.transitionTime = transitionSeconds;
+    if (name != before.name)
+        project.setName(name);
+    if (format != before.format)
+        project.setFormat(format);
+    if (resolution != before.resolution)
+        project.setResolution(resolution);
+    if (origRatio != before.origRatio)
+        project.setOrigRatio(origRatio);
+    if (scaleToFit != before.scaleToFit)
+        project.setScaleToFit(scaleToFit);
+    if (!hasSameAudio(before) || audio.offset != before.audio.offset)
+        project.setAudio(audio);
+    if (audioLoop != before.audioLoop)
+        project.setAudioLoop(audioLoop);
+    if (audioFade != before.audioFade)
+        project.setAudioFade(audioFade);
+    if (transitionSeconds != before.transitionSeconds)
+        settings.transitionTime = transitionSeconds;
 }
 
 bool ProjectState::hasSameSettings(const ProjectState &other) const

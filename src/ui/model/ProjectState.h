@@ -25,7 +25,8 @@ struct ProjectState {
     int transitionSeconds = 0; ///< s; kept in the settings
 
     static ProjectState of(const ProjectFile &project, const AppSettings &settings);
-    void applyTo(ProjectFile &project, AppSettings &settings) const;
+    /// Sets what differs from @p before; everything else stays, as others may have changed it.
+    void applyTo(ProjectFile &project, AppSettings &settings, const ProjectState &before) const;
 
     bool hasSameSettings(const ProjectState &other) const;
     bool hasSameAudio(const ProjectState &other) const;

@@ -15,22 +15,22 @@ ProjectStateCommand::ProjectStateCommand(ProjectEditor &editor, AppSettings &set
 
 void ProjectStateCommand::undo()
 {
-    apply(m_before);
+    apply(m_after, m_before);
 }
 
 void ProjectStateCommand::redo()
 {
-    apply(m_after);
+    apply(m_before, m_after);
 }
 
-void ProjectStateCommand::apply(const ProjectState &state)
+void ProjectStateCommand::apply(const ProjectState &before, const ProjectState &after)
 {
-    state.applyTo(*m_editor.project(), m_settings);
-    if (!m_before.hasSameAudio(m_after))
+    after.applyTo(*m_editor.project(), m_settings, before);
+    if (!before.hasSameAudio(after))
         emit m_editor.audioChanged();
-    if (!m_before.hasSameSettings(m_after))
+    if (!before.hasSameSettings(after))
         emit m_editor.settingsChanged();
-    if (m_before.transitionSeconds != m_after.transitionSeconds)
+    if (before.transitionSeconds != after.transitionSeconds)
         emit m_editor.totalsChanged();
 }
 

@@ -21,7 +21,7 @@ public:
     void redo() override;
 
 private:
-    void apply(const ProjectState &state);
+    void apply(const ProjectState &before, const ProjectState &after);
 
     ProjectEditor &m_editor;
     AppSettings &m_settings;

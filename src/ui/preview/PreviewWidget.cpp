@@ -30,10 +30,9 @@ PreviewWidget::PreviewWidget(ProjectEditor &editor, const AppSettings &settings,
     connect(&m_changes, &QTimer::timeout, m_player, &VideoPlayerWidget::refresh);
     connect(&editor, &ProjectEditor::projectChanged, this, &PreviewWidget::takeProject);
     connect(&editor, &ProjectEditor::slidesChanged, this, &PreviewWidget::onSlidesChanged);
-    const auto refreshSoon = [this] { m_changes.start(); };
-    connect(&editor, &ProjectEditor::slideChanged, this, refreshSoon);
-    connect(&editor, &ProjectEditor::settingsChanged, this, refreshSoon);
-    connect(&editor, &ProjectEditor::audioChanged, this, refreshSoon);
+    connect(&editor, &ProjectEditor::slideChanged, this, &PreviewWidget::refreshSoon);
+    connect(&editor, &ProjectEditor::settingsChanged, this, &PreviewWidget::refreshSoon);
+    connect(&editor, &ProjectEditor::audioChanged, this, &PreviewWidget::refreshSoon);
     connect(m_player, &VideoPlayerWidget::playing, this, &PreviewWidget::playing);
     connect(m_player, &VideoPlayerWidget::clicked, this, &PreviewWidget::previewClicked);
     connect(m_player, &VideoPlayerWidget::fullSizeToggled, this, &PreviewWidget::toggleFullSize);

@@ -34,6 +34,8 @@ public slots:
     /// Plays the whole slideshow from its start.
     void playFull();
     void stop();
+    /// The settings have changed: shows the project as it is with them.
+    void refreshSoon() { m_changes.start(); }
 
 signals:
     /// Playing is about to begin or to go on after a pause.

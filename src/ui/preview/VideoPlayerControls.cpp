@@ -9,6 +9,7 @@
 #include "ui/preview/VolumeSetting.h"
 #include "ui_VideoPlayerWidget.h"
 
+#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QScreen>
 
@@ -157,6 +158,14 @@ void VideoPlayerWidget::showFullSize(bool full)
         show();
     }
     m_ui->player->setFocus();
+}
+
+void VideoPlayerWidget::closeEvent(QCloseEvent *event)
+{
+    if (!isWindow())
+        return;
+    event->ignore();
+    emit fullSizeToggled();
 }
 
 void VideoPlayerWidget::resizeEvent(QResizeEvent *event)

@@ -72,6 +72,8 @@ public slots:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    /// Closing the full screen puts the player back in its place.
+    void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
 

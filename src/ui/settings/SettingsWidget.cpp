@@ -120,6 +120,7 @@ void SettingsWidget::fillLanguages()
     if (index < 0)
         index = codes.indexOf(m_settings.locale.section(QLatin1Char('_'), 0, 0));
     m_ui->cbxLanguage->setCurrentIndex(std::max(index, 0));
+    m_shownLanguage = m_ui->cbxLanguage->currentData().toString();
 }
 
 void SettingsWidget::showSettings()
@@ -162,9 +163,10 @@ void SettingsWidget::store()
     m_settings.sendStatistics = m_ui->chkStatistics->isChecked();
     m_settings.outputProfile = m_ui->btnProfile->value().toString();
     const QString language = m_ui->cbxLanguage->currentData().toString();
-    if (language != m_settings.locale)
+    if (language != m_shownLanguage) {
         MetricSender::instance().record(QStringLiteral("chlan"), language);
-    m_settings.locale = language;
+        m_settings.locale = language;
+    }
     m_settings.save(m_store);
 }
 

@@ -71,6 +71,7 @@ private:
     std::unique_ptr<Ui::SettingsPanel> m_ui;
     QWidget *m_panel;
     QVariantAnimation m_slide; ///< 0: out, 1: in.
+    QString m_shownLanguage;   ///< As open() chose it; the locale may be one that is not listed.
     bool m_open = false;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/documents/ProjectName.h"
 
+#include <QDateTime>
 #include <QTest>
 
 using namespace velmora;
@@ -11,6 +12,7 @@ class ProjectNameTest : public QObject
 private slots:
     void names_data();
     void names();
+    void proposalIsRecognised();
     void messageListsSymbols();
 };
 
@@ -33,6 +35,14 @@ void ProjectNameTest::names()
 {
     QFETCH(QString, name);
     QTEST(ProjectName::isAllowed(name), "allowed");
+}
+
+void ProjectNameTest::proposalIsRecognised()
+{
+    const QString name = ProjectName::proposal({QDate(2026, 3, 9), QTime(8, 5, 1)});
+    QCOMPARE(name, QStringLiteral("sshow_2026-03-09_080501"));
+    QVERIFY(ProjectName::isProposal(name));
+    QVERIFY(!ProjectName::isProposal(name + QStringLiteral(" Sylt")));
 }
 
 void ProjectNameTest::messageListsSymbols()

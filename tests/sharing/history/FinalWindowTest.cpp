@@ -33,6 +33,7 @@ private slots:
     void initTestCase();
     void choicesCloseAndReport_data();
     void choicesCloseAndReport();
+    void uploadsAreRefused();
     void folderIsOpened();
     void missingFile();
 
@@ -85,6 +86,19 @@ void FinalWindowTest::choicesCloseAndReport()
     QCOMPARE(uploads.isEmpty() ? QString() : uploads.first().first().toString(), service);
     QCOMPARE(burn.size(), burns);
     QVERIFY(manager.shown.isEmpty());
+}
+
+void FinalWindowTest::uploadsAreRefused()
+{
+    NotingFileManager manager;
+    FinalWindow window(m_video, manager);
+    window.refuseUploads(QStringLiteral("Not now."));
+    for (const char *name : {"btnUploadYoutube", "btnUploadGoogleDrive", "btnUploadDropBox"}) {
+        const auto *button = window.findChild<QPushButton *>(QLatin1String(name));
+        QVERIFY2(!button->isEnabled(), name);
+        QCOMPARE(button->toolTip(), QStringLiteral("Not now."));
+    }
+    QVERIFY(window.findChild<QPushButton *>(QStringLiteral("btnBurnDvd"))->isEnabled());
 }
 
 void FinalWindowTest::folderIsOpened()

@@ -67,25 +67,83 @@ private slots:
         QVERIFY(pattern.match(m->child<QLineEdit>("txtProjName")->text()).hasMatch());
     }
 
+    void titleAndFileNameAreTwo_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("fileName");
+        QTest::addColumn<QString>("kept");
+        const QString video = QStringLiteral("video");
+        QTest::newRow("no title") << QString() << video << video;
+        QTest::newRow("title") << QStringLiteral("Trip") << QString() << QStringLiteral("Trip");
+        QTest::newRow("both") << QStringLiteral("Trip") << video << QStringLiteral("Trip");
+        QTest::newRow("no file name")
+            << QStringLiteral("1:0") << QString() << QStringLiteral("1:0");
+    }
+
+    void titleAndFileNameAreTwo()
+    {
+        QFETCH(QString, title);
+        QFETCH(QString, fileName);
+        if (!title.isEmpty())
+            m->page->editor().setName(title);
+        if (!fileName.isEmpty())
+            setName(fileName);
+        composer().setProgram(m->path("none"));
+        m->answerNext(0);
+        m->click("btnCreate");
+        QTRY_COMPARE(m->message(), QStringLiteral("Creation error"));
+        QTEST(m->project->name(), "kept");
+        const QString made = QFileInfo(m->project->fileName()).completeBaseName();
+        QCOMPARE(made, m->child<QLineEdit>("txtProjName")->text());
+        QCOMPARE(made == title, title == QLatin1String("Trip") && fileName.isEmpty());
+        // A name that a render gave gives way to the next one.
+        setName(QStringLiteral("other"));
+        m->answerNext(0);
+        m->click("btnCreate");
+        QTRY_COMPARE(m->message(), QStringLiteral("Creation error"));
+        QCOMPARE(m->project->name(), title.isEmpty() ? QStringLiteral("other") : title);
+    }
+
+    void createMakesTheVideo_data()
+    {
+        QTest::addColumn<bool>("lateEdit");
+        QTest::addColumn<bool>("historyWritable");
+        QTest::newRow("usual") << false << true;
+        QTest::newRow("late edit") << true << true;
+        QTest::newRow("read-only history") << false << false;
+    }
+
     void createMakesTheVideo()
     {
+        QFETCH(bool, lateEdit);
+        QFETCH(bool, historyWritable);
+        if (!historyWritable) {
+            QVERIFY(QDir().mkpath(m->path("history.json")));
+            m->answerNext(0);
+        }
         m->addPhotos(QStringLiteral("a"));
         QSignalSpy finished(m->page.get(), &MainWindowWidget::finished);
         QSignalSpy ended(m->page.get(), &MainWindowWidget::progressFinished);
         QSignalSpy progress(m->page.get(), &MainWindowWidget::progress);
+        QSignalSpy recorded(m->page.get(), &MainWindowWidget::recorded);
         setName(QStringLiteral("video!"));
         m->click("btnCreate");
         QCOMPARE(page(), 1);
         QVERIFY(m->page->isGenerating());
         QVERIFY(!m->table().isEnabled());
+        if (lateEdit)
+            m->page->editor().addPhotos({m->makePhoto(QStringLiteral("late.png"))}, -1);
         QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, 120000);
         QCOMPARE(finished.count(), 1);
+        QCOMPARE(recorded.count(), lateEdit || !historyWritable ? 0 : 1);
+        QCOMPARE(m->message().isEmpty(), historyWritable);
         const QString file = m->path("video!.mp4");
         QCOMPARE(finished.first().first().toString(), file);
         QVERIFY(QFileInfo(file).size() > 1000);
         QCOMPARE(progress.last().first().toInt(), 100);
         QCOMPARE(m->history->projects().size(), std::size_t(1));
         QCOMPARE(m->history->projects().front()->fileName(), file);
+        QCOMPARE(m->history->projects().front()->items().size(), 2);
         QCOMPARE(page(), 0);
         QVERIFY(m->table().isEnabled());
         QVERIFY(m->child<QLineEdit>("txtProjName")->text().startsWith(QStringLiteral("sshow_")));
@@ -128,6 +186,7 @@ private slots:
         m->addPhotos(QStringLiteral("abc"));
         QSignalSpy ended(m->page.get(), &MainWindowWidget::progressFinished);
         QSignalSpy finished(m->page.get(), &MainWindowWidget::finished);
+        QSignalSpy failed(m->page.get(), &MainWindowWidget::failed);
         m->click("btnCreate");
         QVector<qint64> workers;
         QTRY_COMPARE(
@@ -136,6 +195,8 @@ private slots:
         QVERIFY(ProcessControl::kill(workers.first()));
         QTRY_COMPARE(m->message(), QStringLiteral("Creation error"));
         QVERIFY(!m->details().isEmpty());
+        QCOMPARE(failed.count(), 1);
+        QCOMPARE(failed.first().first().toString(), m->details());
         QCOMPARE(ended.count(), 1);
         QCOMPARE(finished.count(), 0);
         QCOMPARE(page(), 0);
@@ -196,12 +257,16 @@ private slots:
         setName(QStringLiteral("wanted"));
         composer().setProgram(m->path("none"));
         m->answerNext(0);
-        m->click("btnCreate");
-        QTRY_VERIFY(!m->message().isEmpty());
         RenderRequest request;
         QString error;
-        QVERIFY2(request.load(m->path("cache/data/wanted.json"), AppSettings(), &error),
-                 qPrintable(error));
+        const QString file = m->path("cache/data/wanted.json");
+        connect(m->page.get(), &MainWindowWidget::progressStarted, this,
+                [&] { request.load(file, AppSettings(), &error); });
+        m->click("btnCreate");
+        QTRY_VERIFY(!m->message().isEmpty());
+        QVERIFY2(request.project, qPrintable(error));
+        // It holds the user's paths and texts.
+        QVERIFY(!QFile::exists(file));
         QVERIFY(request.profile == OutputProfile::PlaysEverywhere);
         QVERIFY(request.parallel);
         QCOMPARE(request.transitionSeconds, 1);

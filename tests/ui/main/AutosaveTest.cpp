@@ -2,6 +2,8 @@
 #include "ui/main/Autosave.h"
 #include "ui/main/MainViewFixture.h"
 
+#include <atomic>
+
 using namespace velmora;
 
 class AutosaveTest : public QObject
@@ -106,6 +108,23 @@ private slots:
         m->view->offerRestore();
         QCOMPARE(m->view->page(), MainView::Start);
         QTRY_VERIFY(!QFile::exists(fileName()));
+    }
+
+    void failedWriteIsTriedAgain()
+    {
+        QVERIFY(QDir().mkpath(fileName()));
+        m->show();
+        m->view->document().begin();
+        static std::atomic_bool failed;
+        failed = false;
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
+            failed = failed || text.startsWith(QLatin1String("Cannot keep the unsaved changes"));
+        });
+        m->view->document().setName(QStringLiteral("Sylt"));
+        QTRY_VERIFY(failed);
+        qInstallMessageHandler(nullptr);
+        QVERIFY(QDir().rmdir(fileName()));
+        QTRY_VERIFY(QFileInfo(fileName()).isFile());
     }
 
     void onlyTheFirstOfSeveralKeepsOne()

@@ -2,7 +2,10 @@
 #include "app/Identity.h"
 #include "ui/main/MainViewFixture.h"
 
+#include <QAction>
 #include <QPushButton>
+#include <QStackedWidget>
+#include <QTextEdit>
 
 using namespace velmora;
 
@@ -100,6 +103,19 @@ private slots:
         QVERIFY(!m->view->document().project());
     }
 
+    void openingTheOpenFileKeepsWhatIsSaved()
+    {
+        m->beginSlideshow();
+        QString error;
+        const QString path = m->folder.filePath(QStringLiteral("mine.json"));
+        QVERIFY(m->view->document().save(path, &error));
+        m->view->editorPage().editor().addPhotos({m->makePhoto(QStringLiteral("b.png"))}, -1);
+        m->dialogs.press(QStringLiteral("SAVE"));
+        m->view->openFiles({path});
+        QCOMPARE(m->photos().size(), 2);
+        QVERIFY(!m->view->isWindowModified());
+    }
+
     void badDocumentChangesNothing_data()
     {
         QTest::addColumn<QByteArray>("content");
@@ -117,10 +133,40 @@ private slots:
         file.write(content);
         file.close();
         m->dialogs.press(QStringLiteral("CLOSE"));
-        m->view->openFiles({file.fileName()});
+        m->view->openFiles({file.fileName(), m->makePhoto(QStringLiteral("good.png"))});
         QVERIFY(m->dialogs.text().contains(QStringLiteral("bad.json")));
-        QCOMPARE(m->photos(), QStringList(QStringLiteral("begin.png")));
+        QTRY_COMPARE(m->photos(),
+                     QStringList({QStringLiteral("begin.png"), QStringLiteral("good.png")}));
         QVERIFY(m->view->isWindowModified());
+    }
+
+    void handedOverFilesWaitForDialogs()
+    {
+        m->beginSlideshow();
+        ProjectFile document(m->settings, ProjectFile::TitleSlide::Create);
+        const QString path = m->folder.filePath(QStringLiteral("Holiday.json"));
+        QVERIFY(document.saveToFile(path));
+        m->dialogs.expect([this, path](QDialog *dialog) {
+            m->view->openFiles({path});
+            dialog->findChild<QLineEdit *>()->setText(QStringLiteral("Old"));
+            dialog->accept();
+        });
+        m->dialogs.press(QStringLiteral("DON'T SAVE"));
+        m->press(Qt::Key_T, Qt::ControlModifier);
+        QTRY_COMPARE(m->view->document().path(), path);
+        QCOMPARE(m->view->document().project()->name(), document.name());
+    }
+
+    void handedOverFilesWaitForTheVideo()
+    {
+        m->view->document().begin();
+        const QString path = m->folder.filePath(QStringLiteral("Holiday.json"));
+        QVERIFY(m->view->document().project()->saveToFile(path));
+        emit m->view->editorPage().progressStarted();
+        m->view->openFiles({path});
+        QCOMPARE(m->view->document().path(), QString());
+        emit m->view->editorPage().progressFinished();
+        QTRY_COMPARE(m->view->document().path(), path);
     }
 
     void closingAsks_data()
@@ -138,7 +184,15 @@ private slots:
         QFETCH(QString, answer);
         QFETCH(bool, closed);
         QFETCH(bool, saved);
-        m->beginSlideshow();
+        // A caption that is being edited is work as well.
+        m->view->document().begin();
+        m->child<QStackedWidget>("pages")->setCurrentIndex(MainView::Editor);
+        QVERIFY(!m->view->isWindowModified());
+        m->child<QAction>("actCaptionOfAll")->trigger();
+        auto *text = m->child<QTextEdit>("teProjectItemText");
+        text->selectAll();
+        QTest::keyClicks(text, QStringLiteral("Unsaved"));
+        QVERIFY(m->view->isWindowModified());
         const QString path = m->folder.filePath(QStringLiteral("mine.json"));
         m->dialogs.press(answer);
         if (saved)
@@ -146,6 +200,10 @@ private slots:
         m->view->close();
         QCOMPARE(m->view->isVisible(), !closed);
         QCOMPARE(QFile::exists(path), saved);
+        QString error;
+        const auto read = ProjectFile::loadFromFile(path, m->settings, &error);
+        QCOMPARE(read ? read->items().first()->caption().text : QString(),
+                 saved ? QStringLiteral("Unsaved") : QString());
     }
 };
 

@@ -2,6 +2,7 @@
 #include "app/Identity.h"
 #include "helpers/PseudoTranslator.h"
 #include "services/MetricSender.h"
+#include "sharing/history/HistoryWidget.h"
 #include "ui/main/MainViewFixture.h"
 
 #include <QAction>
@@ -15,6 +16,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QSignalSpy>
+#include <QSlider>
 #include <QStackedWidget>
 
 using namespace velmora;
@@ -151,6 +153,9 @@ private slots:
         m->click("btnHistory");
         m->press(Qt::Key_Left, Qt::AltModifier);
         QCOMPARE(m->view->page(), MainView::Editor);
+        m->click("btnHistory");
+        m->click("btnAddPhoto");
+        QVERIFY(m->child<QWidget>("tableView")->hasFocus());
     }
 
     void renderLocksTheToolRow()
@@ -171,10 +176,17 @@ private slots:
         QCOMPARE(m->taskbar.value, 0);
         emit editor.progress(42);
         QCOMPARE(m->taskbar.value, 42);
+        auto *history = m->view->findChild<HistoryWidget *>();
+        emit history->uploadProgressStarted();
+        emit history->progressUpload(7);
+        QCOMPARE(m->taskbar.value, 42);
         emit editor.pausedChanged(true);
         QVERIFY(m->taskbar.paused);
         emit editor.progressFinished();
         QCOMPARE(locked(), 0);
+        QVERIFY(m->taskbar.visible && !m->taskbar.paused);
+        QCOMPARE(m->taskbar.value, 7);
+        emit history->uploadProgressFinished();
         QVERIFY(!m->taskbar.visible);
         emit editor.progressStarted();
         QVERIFY(m->taskbar.visible && !m->taskbar.paused);
@@ -190,15 +202,41 @@ private slots:
         QWidget other;
         other.show();
         QApplication::setActiveWindow(&other);
+        emit m->view->editorPage().failed(QStringLiteral("No room"));
+        emit m->view->editorPage().recorded();
         emit m->view->editorPage().finished(m->folder.filePath(QStringLiteral("new.mp4")));
         QCOMPARE(m->view->page(), MainView::History);
-        QCOMPARE(m->notification.texts, QStringList(QStringLiteral("new.mp4")));
+        QCOMPARE(m->notification.texts,
+                 QStringList({QStringLiteral("No room"), QStringLiteral("new.mp4")}));
         QVERIFY(m->child<QLabel>("lblLastProject")->isVisible());
         emit m->child<QLabel>("lblLastProject")->linkActivated(QStringLiteral("folder"));
         QCOMPARE(m->fileManager.paths, QStringList(m->folder.filePath(QStringLiteral("new.mp4"))));
         // The history keeps the slideshow, so that nothing would be lost.
         QVERIFY(!m->view->isWindowModified());
         QVERIFY(m->view->close());
+    }
+
+    void removedVideoIsNotOffered()
+    {
+        auto entry = std::make_unique<ProjectFile>(m->settings, ProjectFile::TitleSlide::Create);
+        entry->setFileName(m->folder.filePath(QStringLiteral("old.mp4")));
+        m->history->add(std::move(entry));
+        m->show();
+        QVERIFY(m->child<QLabel>("lblLastProject")->isVisible());
+        m->click("btnHistory");
+        m->dialogs.press(QStringLiteral("REMOVE ALL"));
+        m->click("btnClearHistory");
+        QVERIFY(!m->child<QLabel>("lblLastProject")->isVisible());
+    }
+
+    void hiddenAudioIsAddedByKey()
+    {
+        m->beginSlideshow();
+        m->view->resize(m->view->minimumSize());
+        QTRY_VERIFY(!m->child<QWidget>("btnAddAudio")->isVisible());
+        m->chooseFiles({});
+        m->press(Qt::Key_M, Qt::ControlModifier);
+        QCOMPARE(m->dialogs.title(), QStringLiteral("Open File"));
     }
 
     void geometryIsKept()
@@ -246,7 +284,9 @@ private slots:
         QDesktopServices::setUrlHandler(QStringLiteral("test"), this, "onAddress");
         m->child<QStackedWidget>("pages")->setCurrentIndex(page);
         m->click("btnHelp");
-        QCOMPARE(m_addresses, QStringList(QStringLiteral("test://manual/%1.html").arg(place)));
+        m->press(Qt::Key_F1);
+        const QString address = QStringLiteral("test://manual/%1.html").arg(place);
+        QCOMPARE(m_addresses, QStringList({address, address}));
         QDesktopServices::unsetUrlHandler(QStringLiteral("test"));
 
         // Without a browser it is a usage event and no message.
@@ -268,7 +308,8 @@ private slots:
             dialog->reject();
         });
         m->press(Qt::Key_F1);
-        for (const char *keys : {"Ctrl+O", "Ctrl+Shift+S", "F11", "Ctrl+Z", "Ctrl+R"})
+        for (const char *keys :
+             {"Ctrl+O", "Ctrl+Shift+S", "F11", "Ctrl+Z", "Ctrl+R", "Ctrl+M", "F5", "F", "Left"})
             QVERIFY2(texts.contains(QLatin1String(keys)), keys);
         QCOMPARE(texts.count(QStringLiteral("Ctrl+S")), 1);
     }
@@ -283,12 +324,21 @@ private slots:
 
     void settingsReachTheEditor()
     {
+        m->settings.audioOffset = -3;
+        m->view->document().begin();
+        QCOMPARE(m->view->document().project()->audio().offset, -3);
+        m->view->editorPage().editor().setTransitionSeconds(3);
+        QCOMPARE(m->store->value(QStringLiteral("transitionTime")).toInt(), 3);
+        auto *preview = m->child<QSlider>("slDuration");
+        QTRY_COMPARE(preview->maximum(), 6000);
+        m->settings.transitionTime = 1;
         QSignalSpy saved(m->view.get(), &MainView::settingsSaved);
         m->press(Qt::Key_Comma, Qt::ControlModifier);
         auto *panel = m->child<QWidget>("settingsWidget");
         QTRY_VERIFY(panel->isVisible());
         m->click("btnSave");
         QCOMPARE(saved.count(), 1);
+        QTRY_COMPARE(preview->maximum(), 4000);
         QTRY_VERIFY(!panel->isVisible());
     }
 

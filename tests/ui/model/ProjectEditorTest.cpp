@@ -126,6 +126,16 @@ private slots:
         }
     }
 
+    void undoLeavesWhatOthersChanged()
+    {
+        m_editor->setResolution({640, 480});
+        m_settings.transitionTime = 3;
+        m_project->setName(QStringLiteral("Holiday"));
+        m_editor->undoStack()->undo();
+        QCOMPARE(m_settings.transitionTime, 3);
+        QCOMPARE(m_project->name(), QStringLiteral("Holiday"));
+    }
+
     void unchangedValuesAreNoSteps()
     {
         m_editor->setTime(m_project->items(), 3);

@@ -40,6 +40,7 @@ private slots:
     void editsWhilePlaying();
     void removedSlideIsForgotten();
     void withoutAProjectNothingPlays();
+    void fullSizeKeepsPlaying_data();
     void fullSizeKeepsPlaying();
     void volumeIsRemembered();
     void playsWithMusic();
@@ -284,8 +285,16 @@ void PreviewWidgetTest::withoutAProjectNothingPlays()
     QVERIFY(!m_widget->isPlaying());
 }
 
+void PreviewWidgetTest::fullSizeKeepsPlaying_data()
+{
+    QTest::addColumn<bool>("closed");
+    QTest::newRow("Escape") << false;
+    QTest::newRow("closed by the desktop") << true;
+}
+
 void PreviewWidgetTest::fullSizeKeepsPlaying()
 {
+    QFETCH(bool, closed);
     m_widget->playFull();
     QTRY_VERIFY(player()->position() > 0);
     const QSize small = player()->size();
@@ -294,8 +303,12 @@ void PreviewWidgetTest::fullSizeKeepsPlaying()
     QTRY_COMPARE(player()->script()->format().size, player()->frameSize({1280, 720}));
     QVERIFY(player()->width() > small.width());
     QVERIFY(m_widget->isPlaying());
-    QTest::keyClick(player(), Qt::Key_Escape);
+    if (closed)
+        player()->window()->close();
+    else
+        QTest::keyClick(player(), Qt::Key_Escape);
     QTRY_COMPARE(player()->window(), m_widget.get());
+    QTRY_VERIFY(player()->isVisible());
     QTRY_COMPARE(player()->size(), small);
     QVERIFY(m_widget->isPlaying());
 }

@@ -211,13 +211,14 @@ private slots:
     void valuesBesideTheListsAreKept()
     {
         write(QStringLiteral("settings.ini"),
-              "[General]\ndefaultTime=11\nresolution=1000x1000\naudioFade=9\n");
+              "[General]\ndefaultTime=11\nresolution=1000x1000\naudioFade=9\nlocale=sv\n");
         load();
         open();
         QTest::keyClick(child<QWidget>("txtFolder"), Qt::Key_Return, Qt::ControlModifier);
         QCOMPARE(m_settings.defaultTime, 11);
         QCOMPARE(m_settings.resolution, QSize(1000, 1000));
         QCOMPARE(m_settings.audioFade, 9);
+        QCOMPARE(m_settings.locale, QStringLiteral("sv"));
     }
 
     void tabStaysInThePanel()

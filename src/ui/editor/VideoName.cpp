@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/editor/VideoName.h"
+
+#include "project/documents/ProjectFile.h"
+#include "project/documents/ProjectName.h"
+#include "ui/model/ProjectEditor.h"
+
+#include <QDateTime>
+#include <QLineEdit>
+
+namespace velmora
+{
+
+VideoName::VideoName(QLineEdit &field, ProjectEditor &editor, QObject *parent)
+    : QObject(parent), m_field(field), m_editor(editor)
+{
+    connect(&editor, &ProjectEditor::projectChanged, this, &VideoName::takeProject);
+    connect(&editor, &ProjectEditor::settingsChanged, this, &VideoName::followTitle);
+    takeProject();
+    propose();
+}
+
+void VideoName::takeProject()
+{
+    m_title = m_editor.project() ? m_editor.project()->name() : QString();
+    m_givenTitle.clear();
+}
+
+void VideoName::propose()
+{
+    m_field.setText(ProjectName::proposal(QDateTime::currentDateTime()));
+    m_field.setCursorPosition(0);
+}
+
+void VideoName::followTitle()
+{
+    if (!m_editor.project() || m_editor.project()->name() == m_title)
+        return;
+    m_title = m_editor.project()->name();
+    if (m_title == ProjectFile::defaultName())
+        propose();
+    else if (!m_title.trimmed().isEmpty() && ProjectName::isAllowed(m_title))
+        m_field.setText(m_title);
+}
+
+void VideoName::giveTitle()
+{
+    const bool isOwn = m_title != ProjectFile::defaultName() && m_title != m_givenTitle &&
+                       !ProjectName::isProposal(m_title);
+    if (isOwn)
+        return;
+    m_title = m_field.text();
+    m_givenTitle = m_title;
+    m_editor.project()->setName(m_title);
+}
+
+} // namespace velmora
