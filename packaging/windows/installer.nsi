@@ -14,6 +14,8 @@ SetCompressor /SOLID lzma
 
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Velmora"
 !define PROGRAM_KEY "Software\Corvel\Corvel Velmora"
+!define SESSION_KEY "Software\Corvel Velmora"
+!define BROWSER_KEY "Software\Microsoft\Internet Explorer\Main\FeatureControl\FEATURE_BROWSER_EMULATION"
 !define DOCUMENT "Velmora.Slideshow"
 
 Name "Velmora"
@@ -87,8 +89,16 @@ Section "Uninstall"
   RMDir /r "$SMPROGRAMS\Velmora"
   DeleteRegKey HKCU "Software\Classes\${DOCUMENT}"
   DeleteRegValue HKCU "Software\Classes\.json\OpenWithProgids" "${DOCUMENT}"
+  DeleteRegKey /ifempty HKCU "Software\Classes\.json\OpenWithProgids"
+  DeleteRegKey /ifempty HKCU "Software\Classes\.json"
   DeleteRegValue HKCU "${PROGRAM_KEY}" "DisplayVersion"
   DeleteRegValue HKCU "${PROGRAM_KEY}" "CurrentVersion"
+  DeleteRegKey /ifempty HKCU "${PROGRAM_KEY}"
+  DeleteRegKey /ifempty HKCU "Software\Corvel"
+  ; What the program itself leaves there.
+  DeleteRegValue HKCU "${BROWSER_KEY}" "velmora.exe"
+  DeleteRegKey /ifempty HKCU "${SESSION_KEY}\Sessions"
+  DeleteRegKey /ifempty HKCU "${SESSION_KEY}"
   DeleteRegKey HKCU "${UNINSTALL_KEY}"
   System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)'
 SectionEnd

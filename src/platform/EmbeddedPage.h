@@ -17,6 +17,8 @@ public:
     using QWidget::QWidget;
 
     virtual void navigate(const QUrl &address) = 0;
+    /// Whether the page is a window of the system, which a translucent window does not show.
+    virtual bool needsOpaqueWindow() const { return false; }
 
 signals:
     void titleChanged(QString title);

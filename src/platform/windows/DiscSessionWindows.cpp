@@ -8,6 +8,7 @@
 #include "platform/windows/DiscExamination.h"
 #include "platform/windows/EraseEvents.h"
 #include "platform/windows/EventConnection.h"
+#include "platform/windows/EventType.h"
 #include "platform/windows/WriteEvents.h"
 
 #include <QFileInfo>

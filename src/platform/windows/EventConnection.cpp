@@ -6,21 +6,6 @@
 namespace velmora
 {
 
-ComPtr<ITypeInfo> eventType(ImapiFactory &factory, REFIID events, const char *name)
-{
-    ComPtr<ITypeLib> library;
-    if (!succeeded(factory.loadTypeLibrary(library.ReleaseAndGetAddressOf()),
-                   "LoadRegTypeLib LIBID_IMAPILib2 failed, result: '%1'"))
-        return {};
-    ComPtr<ITypeInfo> type;
-    const QByteArray failure =
-        QByteArrayLiteral("GetTypeInfoOfGuid IID_") + name + " failed, result: '%1'";
-    if (!succeeded(library->GetTypeInfoOfGuid(events, type.ReleaseAndGetAddressOf()),
-                   failure.constData()))
-        return {};
-    return type;
-}
-
 EventConnection::EventConnection(IUnknown *source, REFIID events, IUnknown *sink)
 {
     ComPtr<IConnectionPointContainer> container;

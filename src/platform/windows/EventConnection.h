@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/windows/ImapiFactory.h"
+#include "platform/windows/ComPtr.h"
 
 #include <QtGlobal>
 
@@ -9,10 +9,6 @@
 
 namespace velmora
 {
-
-/// The description of an event interface; null, with a log line that has @p name, when the system
-/// does not have it.
-ComPtr<ITypeInfo> eventType(ImapiFactory &factory, REFIID events, const char *name);
 
 /// Sends the events of an object to a sink as long as it lives. What fails is logged and means that
 /// no events come.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/windows/ImapiFactory.h"
+#include "platform/windows/ComPtr.h"
 
 #include <oleauto.h>
 

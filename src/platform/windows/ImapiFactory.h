@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/windows/ComPtr.h"
 #include "platform/windows/ImapiInterfaces.h"
-
-#include <wrl/client.h>
 
 namespace velmora
 {
-
-using Microsoft::WRL::ComPtr;
 
 /// Where burning takes its COM objects from: the system, or in tests something that records what is
 /// done with them. Used within a ComApartment.

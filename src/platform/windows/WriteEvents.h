@@ -3,6 +3,7 @@
 
 #include "platform/DiscSession.h"
 #include "platform/windows/EventSink.h"
+#include "platform/windows/ImapiInterfaces.h"
 
 namespace velmora
 {

@@ -13,6 +13,8 @@ WebLoginDialog::WebLoginDialog(std::unique_ptr<EmbeddedPage> page, QWidget *pare
 {
     setObjectName(QStringLiteral("webLoginDialog"));
     setWindowTitle(tr("Sign in"));
+    if (m_page->needsOpaqueWindow())
+        setAttribute(Qt::WA_TranslucentBackground, false);
     m_page->setParent(content());
     m_page->setObjectName(QStringLiteral("webView"));
     m_page->setAccessibleName(tr("Sign-in page of the service"));

@@ -8,14 +8,32 @@
 #include "ui/model/ProjectEditor.h"
 
 #include <QAbstractItemModelTester>
+#include <QAudioDeviceInfo>
 #include <QDir>
 #include <QFile>
+#include <QOperatingSystemVersion>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUndoStack>
 
 using namespace velmora;
+
+namespace
+{
+
+bool onWindows()
+{
+    return QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
+}
+
+/// The name of a link, which has an ending of its own on Windows.
+QString linkName(const char *name)
+{
+    return QLatin1String(name) + QLatin1String(onWindows() ? ".lnk" : "");
+}
+
+} // namespace
 
 class AudioFilesControllerTest : public QObject
 {
@@ -91,9 +109,9 @@ void AudioFilesControllerTest::initTestCase()
     QVERIFY(text.open(QIODevice::WriteOnly) && text.write("no music") > 0);
     QFile broken(file("broken.mp3"));
     QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no sound") > 0);
-    QVERIFY(QFile::link(file("b.wav"), file("link to b")));
-    QVERIFY(QFile::link(file("music"), file("link to music")));
-    QVERIFY(QFile::link(file("gone.wav"), file("link to nothing")));
+    QVERIFY(QFile::link(file("b.wav"), m_folder.filePath(linkName("link to b"))));
+    QVERIFY(QFile::link(file("music"), m_folder.filePath(linkName("link to music"))));
+    QVERIFY(QFile::link(file("gone.wav"), m_folder.filePath(linkName("link to nothing"))));
     QFile desktop(file("b.desktop"));
     QVERIFY(desktop.open(QIODevice::WriteOnly));
     QVERIFY(desktop.write("[Desktop Entry]\nType=Link\nURL=file://" + file("b.wav").toUtf8()) > 0);
@@ -172,10 +190,12 @@ void AudioFilesControllerTest::shortcutsAreFollowed_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("target");
     QTest::addColumn<int>("count");
-    QTest::newRow("file") << QStringLiteral("link to b") << QStringLiteral("b.wav") << 1;
-    QTest::newRow("desktop link") << QStringLiteral("b.desktop") << QStringLiteral("b.wav") << 1;
-    QTest::newRow("folder") << QStringLiteral("link to music") << QString() << 3;
-    QTest::newRow("nothing") << QStringLiteral("link to nothing") << QString() << 0;
+    QTest::newRow("file") << linkName("link to b") << QStringLiteral("b.wav") << 1;
+    if (!onWindows())
+        QTest::newRow("desktop link")
+            << QStringLiteral("b.desktop") << QStringLiteral("b.wav") << 1;
+    QTest::newRow("folder") << linkName("link to music") << QString() << 3;
+    QTest::newRow("nothing") << linkName("link to nothing") << QString() << 0;
 }
 
 void AudioFilesControllerTest::shortcutsAreFollowed()
@@ -341,6 +361,8 @@ void AudioFilesControllerTest::trackPlaysToItsEnd()
     QSignalSpy failed(m_controller.get(), &AudioFilesController::playFailed);
     m_controller->play(0);
     QTRY_COMPARE(m_controller->playingRow(), -1);
+    if (onWindows() && QAudioDeviceInfo::availableDevices(QAudio::AudioOutput).isEmpty())
+        QSKIP("Windows plays nothing without a sound device.");
     QCOMPARE(failed.size(), 0);
 
     // What cannot be played ends as well, and says why.

@@ -49,7 +49,7 @@ private slots:
                                        QStringLiteral("/x.png")};
         QCOMPARE(StartMessage::filesOfArguments(arguments),
                  QStringList({QDir::current().absoluteFilePath(QStringLiteral("a b.json")),
-                              QStringLiteral("/x.png")}));
+                              QDir::current().absoluteFilePath(QStringLiteral("/x.png"))}));
     }
 };
 

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/FileManager.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <windows.h>
+
+using namespace velmora;
+
+/// What the file manager is told. A copy of this program takes its place.
+class FileManagerTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The command line that @p program was started with lies beside it.
+    static QString noteOf(const QString &program) { return program + QStringLiteral(".txt"); }
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase() { QDir::setCurrent(QDir::tempPath()); }
+    void showsFiles_data();
+    void showsFiles();
+
+private:
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+
+    QTemporaryDir m_folder;
+};
+
+void FileManagerTest::initTestCase()
+{
+    QVERIFY(
+        QFile::copy(QCoreApplication::applicationFilePath(), path(QStringLiteral("explorer.exe"))));
+    QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("Мои видео")));
+    QFile video(path(QStringLiteral("Мои видео/日本 2, 3.mp4")));
+    QVERIFY(video.open(QIODevice::WriteOnly));
+    // Programs are looked for in the current folder before that of the system.
+    QVERIFY(QDir::setCurrent(m_folder.path()));
+}
+
+void FileManagerTest::showsFiles_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("arguments"); // Empty: nothing is started.
+    QTest::newRow("file") << QStringLiteral("Мои видео/日本 2, 3.mp4")
+                          << QStringLiteral("/select, \"%1\\Мои видео\\日本 2, 3.mp4\"");
+    QTest::newRow("gone") << QStringLiteral("Мои видео/gone.mp4")
+                          << QStringLiteral("\"%1\\Мои видео\"");
+    QTest::newRow("folder gone") << QStringLiteral("gone/gone.mp4") << QString();
+}
+
+void FileManagerTest::showsFiles()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, arguments);
+    QCOMPARE(createFileManager()->showInFolder(path(file)), !arguments.isEmpty());
+    if (arguments.isEmpty())
+        return;
+    QFile note(noteOf(path(QStringLiteral("explorer.exe"))));
+    QTRY_VERIFY(note.isOpen() || note.open(QIODevice::ReadOnly));
+    const QString folder = QDir::toNativeSeparators(QFileInfo(m_folder.path()).absoluteFilePath());
+    const QString line = QString::fromUtf8(note.readAll());
+    QVERIFY2(line.startsWith(QStringLiteral("explorer.exe ")), qPrintable(line));
+    QCOMPARE(line.section(QLatin1Char(' '), 1).trimmed(), arguments.arg(folder));
+    QVERIFY(note.remove());
+}
+
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    const QString program = QCoreApplication::applicationFilePath();
+    if (program.endsWith(QLatin1String("explorer.exe"))) {
+        QSaveFile note(FileManagerTest::noteOf(program));
+        note.open(QIODevice::WriteOnly);
+        note.write(QString::fromWCharArray(GetCommandLineW()).toUtf8());
+        return note.commit() ? 0 : 1;
+    }
+    FileManagerTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "FileManagerTest.moc"
