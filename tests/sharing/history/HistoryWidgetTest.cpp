@@ -162,60 +162,43 @@ private slots:
         QCOMPARE(list->currentIndex().row(), 1);
     }
 
-    void deletingAsks_data()
+    void removalAsksAndCanBeUndone_data()
     {
-        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("answer");
         QTest::addColumn<int>("left");
-        QTest::newRow("remove") << QStringLiteral("REMOVE") << 2;
-        QTest::newRow("cancel") << QStringLiteral("CANCEL") << 3;
+        QTest::newRow("remove") << "REMOVE" << 2;
+        QTest::newRow("cancel") << "CANCEL" << 3;
+        QTest::newRow("clear") << "REMOVE ALL" << 0;
     }
 
-    void deletingAsks()
+    void removalAsksAndCanBeUndone()
     {
-        QFETCH(QString, button);
+        QFETCH(QString, answer);
         QFETCH(int, left);
         show();
         QVERIFY(m_widget->select(m_history->path("old.mp4")));
+        const QStringList before = m_history->saved();
         DialogDriver driver;
-        driver.press(button);
-        QTest::keyClick(find<HistoryListView>("listHistory"), Qt::Key_Delete);
+        driver.press(answer);
+        if (left == 0)
+            click("btnClearHistory");
+        else
+            QTest::keyClick(find<HistoryListView>("listHistory"), Qt::Key_Delete);
         QCOMPARE(driver.failure(), QString());
         QCOMPARE(count(), left);
         QCOMPARE(m_history->saved().size(), left);
         QVERIFY(QFile::exists(m_history->path("old.mp4")));
-        QCOMPARE(find<QFrame>("undoBar")->isVisible(), left == 2);
-        QVERIFY(!m_widget->selectedFile().isEmpty());
-    }
-
-    void undoBringsEverythingBack()
-    {
-        show();
-        const QStringList before = m_history->saved();
-        DialogDriver driver;
-        driver.press(QStringLiteral("REMOVE"));
-        clickIn(row("old.mp4"), "btnDelete");
-        QCOMPARE(count(), 2);
-        QTest::keyClick(m_widget.get(), Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(QFile::exists(m_history->path("new.mp4")));
+        QCOMPARE(find<QFrame>("undoBar")->isVisible(), left < 3);
+        QCOMPARE(find<QPushButton>("btnClearHistory")->isEnabled(), left > 0);
+        QCOMPARE(m_widget->selectedFile().isEmpty(), left == 0);
+        if (left == 0)
+            click("btnUndo");
+        else
+            QTest::keyClick(m_widget.get(), Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(m_history->saved(), before);
         QCOMPARE(count(), 3);
         QVERIFY(!find<QFrame>("undoBar")->isVisible());
-    }
-
-    void clearingCanBeUndone()
-    {
-        show();
-        const QStringList before = m_history->saved();
-        DialogDriver driver;
-        driver.press(QStringLiteral("REMOVE ALL"));
-        click("btnClearHistory");
-        QCOMPARE(driver.failure(), QString());
-        QCOMPARE(count(), 0);
-        QCOMPARE(m_history->saved(), QStringList());
-        QVERIFY(!find<QPushButton>("btnClearHistory")->isEnabled());
-        QVERIFY(QFile::exists(m_history->path("new.mp4")));
-        click("btnUndo");
-        QCOMPARE(m_history->saved(), before);
-        QCOMPARE(count(), 3);
     }
 
     void videosGoToTheTrashOnlyWhenTicked()
