@@ -4,6 +4,7 @@
 #include "helpers/DialogDriver.h"
 #include "helpers/LogCapture.h"
 #include "sharing/history/HistoryFixture.h"
+#include "sharing/history/HistoryHeader.h"
 #include "sharing/history/HistoryListView.h"
 #include "sharing/history/HistoryRowWidget.h"
 #include "sharing/upload/UploadController.h"
@@ -63,6 +64,39 @@ private slots:
         QCOMPARE(text(old, "lblDuration").size(), 8);
         QCOMPARE(text(old, "lblSize"), QStringLiteral("3.0 MB"));
         QCOMPARE(text(row("new.mp4"), "lblSize"), QStringLiteral("250 MB"));
+    }
+
+    /// With and without a scroll bar, whatever page was visible when it came or went.
+    void headerStandsAboveTheRows()
+    {
+        QStackedWidget stack;
+        auto *other = new QWidget;
+        stack.addWidget(other);
+        auto *widget = new HistoryWidget(m_history->store, m_history->settings);
+        stack.addWidget(widget);
+        stack.show();
+        for (const int height : {300, 600, 300}) {
+            for (QWidget *first : {other, static_cast<QWidget *>(widget)}) {
+                stack.setCurrentWidget(first);
+                stack.resize(2000 - height, 900 - height);
+                QCoreApplication::processEvents();
+                stack.resize(1000, height);
+                QCoreApplication::processEvents();
+                stack.setCurrentWidget(widget);
+                widget->reload();
+                const auto left = [widget](const QLabel *label) {
+                    return label->mapTo(widget, {}).x();
+                };
+                const auto *header =
+                    widget->findChild<HistoryHeader *>()->findChildren<QLabel *>().first();
+                QCOMPARE(header->text(), QStringLiteral("Resolution"));
+                const auto inRow = [widget] {
+                    return widget->findChild<QLabel *>(QStringLiteral("lblResolution"));
+                };
+                QTRY_VERIFY(inRow());
+                QTRY_COMPARE(left(header), left(inRow()));
+            }
+        }
     }
 
     void removedVideo()
