@@ -29,14 +29,16 @@ void TaskThread::retire()
     connect(this, &TaskThread::ended, this, &QObject::deleteLater);
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this,
             &QObject::deleteLater);
-    stop();
+    if (!stop())
+        delete this;
 }
 
-void TaskThread::stop()
+bool TaskThread::stop()
 {
     const std::lock_guard<std::mutex> locker(m_mutex);
     m_stopped = true;
     m_wake.notify_one();
+    return m_working;
 }
 
 void TaskThread::run()
@@ -46,10 +48,12 @@ void TaskThread::run()
     for (m_wake.wait(locker, hasNews); !m_stopped; m_wake.wait(locker, hasNews)) {
         Work work = std::move(m_waiting.front());
         m_waiting.pop_front();
+        m_working = true;
         locker.unlock();
         Report report = work();
         work = nullptr; // What it holds may take its time to go.
         locker.lock();
+        m_working = false;
         m_reports.push_back(std::move(report));
         emit worked();
     }

@@ -27,8 +27,8 @@ public:
     ~TaskThread() override;
 
     void add(Work work);
-    /// Does the same without waiting: the object deletes itself once the work in progress has
-    /// ended, for which only the end of the program waits.
+    /// Deletes the object without waiting: at once, or when the work in progress has ended. Only
+    /// the end of the program waits for that.
     void retire();
 
 signals:
@@ -37,7 +37,7 @@ signals:
 
 private:
     void run();
-    void stop();
+    bool stop(); ///< Whether work is in progress still.
     void report();
 
     std::mutex m_mutex;
@@ -45,6 +45,7 @@ private:
     // Guarded by m_mutex:
     std::deque<Work> m_waiting;
     std::deque<Report> m_reports;
+    bool m_working = false;
     bool m_stopped = false;
 
     std::thread m_thread; ///< The last member: it uses the others.
