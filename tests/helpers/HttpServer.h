@@ -26,12 +26,20 @@ public:
                 connect(socket, &QTcpSocket::readyRead, this, [this, socket] { onData(socket); });
             }
         });
+        setStatus("200 OK");
         listen(QHostAddress::LocalHost);
     }
 
     QUrl url() const { return QUrl(QStringLiteral("http://127.0.0.1:%1").arg(serverPort())); }
 
-    void setStatus(const QByteArray &status) { m_status = status; }
+    void setStatus(const QByteArray &status) { setAnswer(status, QByteArray()); }
+    void setAnswer(const QByteArray &status, const QByteArray &body)
+    {
+        setRawAnswer("HTTP/1.1 " + status + "\r\nContent-Length: " +
+                     QByteArray::number(body.size()) + "\r\nConnection: close\r\n\r\n" + body);
+    }
+    /// Whatever bytes instead of a proper answer.
+    void setRawAnswer(const QByteArray &answer) { m_answer = answer; }
     void hold() { m_held = true; }
     void release()
     {
@@ -63,12 +71,11 @@ private:
 
     void answer(QTcpSocket *socket)
     {
-        socket->write("HTTP/1.1 " + m_status +
-                      "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n");
+        socket->write(m_answer);
         socket->disconnectFromHost();
     }
 
-    QByteArray m_status = "200 OK";
+    QByteArray m_answer;
     bool m_held = false;
     QHash<QTcpSocket *, QByteArray> m_buffers;
     QList<QPointer<QTcpSocket>> m_waiting;

@@ -17,6 +17,7 @@
 #include "sharing/upload/UploadFailWindow.h"
 #include "sharing/upload/UploadSuccessWindow.h"
 #include "sharing/upload/signin/AnswerPage.h"
+#include "ui/main/ProjectResume.h"
 #include "ui/update/UpdateDialog.h"
 
 #include <QApplication>
@@ -98,6 +99,20 @@ void fill(HistoryFixture &history, const QStringList &photos)
     }
 }
 
+/// What is asked when a photo of a project is gone.
+void showResume(HistoryFixture &history, HistoryWidget &widget, const QStringList &photos)
+{
+    ProjectFile *project = history.add("Harbour.mp4", -1, {});
+    const QString photo = history.path("Beach.jpg");
+    QFile::copy(photos.value(0), photo);
+    project->addFiles({photo}, 4, 1);
+    QFile::remove(photo);
+    ProjectResume resume(history.settings, &widget);
+    saveNextDialog("resume.png");
+    resume.start(*project);
+    wait(700);
+}
+
 void showHistory(const QStringList &photos)
 {
     HistoryFixture history;
@@ -137,6 +152,7 @@ void showHistory(const QStringList &photos)
     save(widget, "upload-progress.png");
     pages->setCurrentWidget(widget.findChild<QWidget *>(QStringLiteral("Oauth2Waiting")));
     save(widget, "upload-waiting.png");
+    showResume(history, widget, photos);
 }
 
 void showUploadResults()
@@ -155,29 +171,81 @@ void showUploadResults()
     writePage("answer-not-connected.html", page.failure());
 }
 
-void showBurning()
+DiscMedia usedDisc()
+{
+    DiscMedia media;
+    media.present = true;
+    media.appendable = true;
+    media.erasable = true;
+    media.freeBytes = 4483LL * 1048576;
+    media.erasedBytes = 4483LL * 1048576;
+    media.volumeName = QStringLiteral("Holidays 2025");
+    return media;
+}
+
+void press(QWidget &dialog, const char *button)
+{
+    dialog.findChild<QPushButton *>(QLatin1String(button))->click();
+    wait(300);
+}
+
+void showBurning(const QString &video)
 {
     FakeDiscWriter::State state;
-    state.media.present = true;
-    state.media.appendable = true;
-    state.media.erasable = true;
-    state.media.freeBytes = 4483LL * 1048576;
-    state.media.erasedBytes = 4483LL * 1048576;
-    state.media.volumeName = QStringLiteral("Holidays 2025");
+    state.media = usedDisc();
     BurnController controller(std::make_unique<FakeDiscWriter>(state));
-    BurnDialog dialog(controller, QStringLiteral("/home/me/Summer at the lake.mp4"), QString());
+    BurnDialog dialog(controller, video, QString());
     save(dialog, "burn-settings.png");
-    dialog.findChild<QPushButton *>(QStringLiteral("btnBurn"))->click();
-    wait(300);
+    state.media.present = false;
+    saveNextDialog("burn-no-disc.png");
+    press(dialog, "btnBurn");
+    state.media = usedDisc();
+    state.media.appendable = false;
+    press(dialog, "btnBurn");
+    save(dialog, "burn-erase.png");
+    press(dialog, "btnCancelTwo");
+    state.media = usedDisc();
+    press(dialog, "btnBurn");
     save(dialog, "burn-not-empty.png");
     state.hold = true;
-    dialog.findChild<QPushButton *>(QStringLiteral("btnNo"))->click();
-    wait(300);
+    press(dialog, "btnNo");
     save(dialog, "burn-progress.png");
+    saveNextDialog("burn-stop.png");
+    press(dialog, "btnCancel");
     state.hold = false;
     wait(500);
     save(dialog, "burn-result.png");
-    controller.cancel();
+}
+
+void showFailedBurning(const QString &video)
+{
+    FakeDiscWriter::State state;
+    BurnController nothing(std::make_unique<FakeDiscWriter>(state, 0));
+    BurnDialog without(nothing, video, QString());
+    save(without, "burn-no-drive.png");
+    BurnController controller(std::make_unique<FakeDiscWriter>(state));
+    BurnDialog dialog(controller, video, QString());
+    state.media.present = true;
+    state.media.blank = true;
+    state.media.freeBytes = 1048576;
+    dialog.show();
+    wait(300);
+    saveNextDialog("burn-no-space.png");
+    press(dialog, "btnBurn");
+    state.media.freeBytes *= 700;
+    state.failingStep = QStringLiteral("write");
+    press(dialog, "btnBurn");
+    wait(300);
+    save(dialog, "burn-error.png");
+}
+
+void showFinal()
+{
+    NullFileManager manager;
+    FinalWindow final(QStringLiteral("/home/me/Summer at the lake.mp4"), manager);
+    save(final, "final.png");
+    saveNextDialog("final-no-file.png");
+    press(final, "btnOpen");
 }
 
 } // namespace
@@ -193,10 +261,12 @@ int main(int argc, char **argv)
     QDir().mkpath(s_folder);
     showHistory(arguments.mid(2));
     showUploadResults();
-    showBurning();
-    NullFileManager manager;
-    FinalWindow final(QStringLiteral("/home/me/Summer at the lake.mp4"), manager);
-    save(final, "final.png");
+    const QTemporaryDir folder;
+    const QString video = folder.filePath(QStringLiteral("Summer at the lake.mp4"));
+    HistoryFixture::write(video, 3 * 1048576, QDate(2026, 1, 3));
+    showBurning(video);
+    showFailedBurning(video);
+    showFinal();
     UpdateDialog update(QStringLiteral("4.0.1"), QUrl(QStringLiteral("https://example.org/get")),
                         QUrl(QStringLiteral("https://example.org/notes")));
     save(update, "update.png");

@@ -5,20 +5,18 @@
 #include "sharing/SharingLog.h"
 #include "sharing/burning/WriteThread.h"
 
-#include <QtConcurrent>
-
 namespace velmora
 {
 
 namespace
 {
 
-QVector<BurnDevice> search(const std::shared_ptr<DiscWriter> &writer)
+QVector<BurnDevice> search(DiscWriter &writer)
 {
     QVector<BurnDevice> devices;
-    const QVector<DiscRecorder> recorders = writer->recorders();
+    const QVector<DiscRecorder> recorders = writer.recorders();
     for (const DiscRecorder &recorder : recorders)
-        devices.append({recorder, writer->media(recorder.id)});
+        devices.append({recorder, writer.media(recorder.id)});
     return devices;
 }
 
@@ -33,41 +31,47 @@ QString minutesAndSeconds(qint64 milliseconds)
 } // namespace
 
 BurnController::BurnController(std::unique_ptr<DiscWriter> writer, QObject *parent)
-    : QObject(parent), m_writer(std::move(writer))
+    : QObject(parent), m_writer(std::move(writer)), m_questions(new TaskThread)
 {
     m_timer.setInterval(1000);
     connect(&m_timer, &QTimer::timeout, this,
             [this] { emit elapsedTime(minutesAndSeconds(m_elapsed.elapsed())); });
-    connect(&m_search, &QFutureWatcher<QVector<BurnDevice>>::finished, this, [this] {
-        m_devices = m_search.result();
-        emit devicesChanged();
-    });
-    connect(&m_check, &QFutureWatcher<DiscMedia>::finished, this, [this] {
-        const DiscMedia media = m_check.result();
-        if (m_checked >= 0 && m_checked < m_devices.size())
-            m_devices[m_checked].media = media;
-        emit mediaChecked(media);
-    });
 }
 
 BurnController::~BurnController()
 {
     delete m_thread; // Waits.
+    m_questions->retire();
 }
 
 void BurnController::findDevices()
 {
-    if (!m_search.isRunning())
-        m_search.setFuture(QtConcurrent::run(search, m_writer));
+    if (m_searching)
+        return;
+    m_searching = true;
+    m_questions->add([this, writer = m_writer]() -> TaskThread::Report {
+        return [this, devices = search(*writer)] {
+            m_searching = false;
+            m_devices = devices;
+            emit devicesChanged();
+        };
+    });
 }
 
 void BurnController::checkMedia(int index)
 {
-    if (m_check.isRunning() || index < 0 || index >= m_devices.size())
+    if (m_checking || index < 0 || index >= m_devices.size())
         return;
-    m_checked = index;
+    m_checking = true;
     const QString id = m_devices.at(index).recorder.id;
-    m_check.setFuture(QtConcurrent::run([writer = m_writer, id] { return writer->media(id); }));
+    m_questions->add([this, writer = m_writer, id, index]() -> TaskThread::Report {
+        return [this, index, media = writer->media(id)] {
+            m_checking = false;
+            if (index < m_devices.size())
+                m_devices[index].media = media;
+            emit mediaChecked(media);
+        };
+    });
 }
 
 void BurnController::burn(const BurnJob &job)

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/TaskThread.h"
 #include "platform/DiscWriter.h"
 #include "sharing/burning/BurnJob.h"
 
 #include <QElapsedTimer>
-#include <QFutureWatcher>
 #include <QObject>
 #include <QTimer>
 #include <QVector>
@@ -23,8 +23,8 @@ struct BurnDevice {
     DiscMedia media;
 };
 
-/// Knows the drives and runs one burn at a time. Drives are asked on threads of a pool, since they
-/// may take their time. GUI thread.
+/// Knows the drives and runs one burn at a time. Drives are asked on a thread of their own, since
+/// they may take their time. GUI thread.
 class BurnController : public QObject
 {
     Q_OBJECT
@@ -60,9 +60,9 @@ private:
 
     std::shared_ptr<DiscWriter> m_writer; ///< Questions that still run keep it, too.
     QVector<BurnDevice> m_devices;
-    QFutureWatcher<QVector<BurnDevice>> m_search;
-    QFutureWatcher<DiscMedia> m_check;
-    int m_checked = -1; ///< The device that m_check looks at.
+    TaskThread *m_questions; ///< Outlives the controller where a drive is slow to answer.
+    bool m_searching = false;
+    bool m_checking = false;
     WriteThread *m_thread = nullptr;
     QTimer m_timer;
     QElapsedTimer m_elapsed;

@@ -233,8 +233,10 @@ void BurnDialog::on_btnCancel_clicked()
 
 void BurnDialog::onBurnFinished(bool succeeded)
 {
-    m_ui->lbResultPicture->setPixmap(
-        Theme::icon(succeeded ? QStringLiteral("done") : QStringLiteral("warning")).pixmap(64, 64));
+    // The two pictures are drawn alike.
+    const QString picture =
+        succeeded ? QStringLiteral("done") : QStringLiteral("oauth2_not_connected");
+    m_ui->lbResultPicture->setPixmap(Theme::icon(picture).pixmap(64, 64));
     m_ui->lbResult->setText(succeeded ? tr("Succeeded") : tr("Error"));
     m_ui->lbResultInfo->setText(
         succeeded ? tr("The video is on the disc.")

@@ -39,6 +39,7 @@ HistoryListView::HistoryListView(QWidget *parent)
 {
     setItemDelegate(new HistoryDelegate(this));
     setUniformItemSizes(true);
+    setResizeMode(Adjust); // Otherwise rows keep the width that they had first.
     setMouseTracking(true);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -177,8 +178,13 @@ void HistoryListView::selectionChanged(const QItemSelection &selected,
 void HistoryListView::resizeEvent(QResizeEvent *event)
 {
     QListView::resizeEvent(event);
-    emit freeSpaceChanged(width() - viewport()->width());
     updateRows();
+}
+
+void HistoryListView::updateGeometries()
+{
+    QListView::updateGeometries();
+    emit freeSpaceChanged(width() - viewport()->width());
 }
 
 void HistoryListView::showEvent(QShowEvent *event)

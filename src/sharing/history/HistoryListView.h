@@ -38,6 +38,7 @@ signals:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void updateGeometries() override;
     void showEvent(QShowEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;

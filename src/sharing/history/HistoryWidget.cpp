@@ -59,9 +59,15 @@ void HistoryWidget::setUpList()
 
 void HistoryWidget::setUpPages()
 {
-    connect(m_ui->btnUpload, &QPushButton::clicked, this, &HistoryWidget::onButtonUploadClicked);
-    connect(m_ui->btnCancelWaiting, &QPushButton::clicked, this,
-            &HistoryWidget::on_btnCancel_clicked);
+    const auto on = [this](QPushButton *button, void (HistoryWidget::*slot)()) {
+        connect(button, &QPushButton::clicked, this, slot);
+    };
+    on(m_ui->btnClearHistory, &HistoryWidget::on_btnClearHistory_clicked);
+    on(m_ui->btnResumeProject, &HistoryWidget::on_btnResumeProject_clicked);
+    on(m_ui->btnBurn, &HistoryWidget::on_btnBurn_clicked);
+    on(m_ui->btnUpload, &HistoryWidget::onButtonUploadClicked);
+    on(m_ui->btnCancel, &HistoryWidget::on_btnCancel_clicked);
+    on(m_ui->btnCancelWaiting, &HistoryWidget::on_btnCancel_clicked);
     m_ui->btnClearHistory->setIcon(Theme::icon(QStringLiteral("clear")));
     m_ui->btnResumeProject->setIcon(Theme::icon(QStringLiteral("edit")));
     m_ui->btnBurn->setIcon(Theme::icon(QStringLiteral("disc")));
@@ -306,7 +312,13 @@ void HistoryWidget::onButtonUploadClicked()
 {
     auto *menu = new UploadServiceMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    connect(menu, &UploadServiceMenu::uploadService, this, &HistoryWidget::uploadClicked);
+    connect(menu, &UploadServiceMenu::uploadService, this, [this](const QString &key) {
+        static const QHash<QString, void (HistoryWidget::*)()> choices = {
+            {QStringLiteral("youtube"), &HistoryWidget::on_btnUpload_Youtube},
+            {QStringLiteral("googledrive"), &HistoryWidget::on_btnUpload_GoogleDrive},
+            {QStringLiteral("dropbox"), &HistoryWidget::on_btnUpload_Dropbox}};
+        (this->*choices.value(key))();
+    });
     menu->popUp(*m_ui->btnUpload);
 }
 

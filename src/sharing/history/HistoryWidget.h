@@ -55,12 +55,6 @@ public:
     /// Starts the upload of one file to "youtube", "googledrive" or "dropbox".
     void startUpload(const QString &fileName, const QString &title, const QString &uploadService);
 
-    // What choosing a service for the selected entry does. They are no slots, because setupUi()
-    // would look for a button for each.
-    void on_btnUpload_Youtube();
-    void on_btnUpload_Dropbox();
-    void on_btnUpload_GoogleDrive();
-
 public slots:
     /// Reads the list from the history again and keeps the selection where it can.
     void reload();
@@ -80,6 +74,10 @@ public slots:
     void onSelectionChanged(const QItemSelection &selected, const QItemSelection &unselected);
     void onRowDoubleClicked(const QModelIndex &index);
     void onButtonUploadClicked();
+    // A service was chosen for the selected entry.
+    void on_btnUpload_Youtube();
+    void on_btnUpload_Dropbox();
+    void on_btnUpload_GoogleDrive();
     void onBtnDateClicked();
     void onBtnFileNameClicked();
     void on_btnClearHistory_clicked();

@@ -43,10 +43,12 @@ void UploadServiceMenu::popUp(const QWidget &button)
 {
     setMinimumWidth(button.width());
     adjustSize();
-    QPoint corner = button.mapToGlobal(QPoint(0, -height() - 4));
+    // The button stands at the window's right edge.
+    const int left = button.width() - width();
+    QPoint corner = button.mapToGlobal(QPoint(left, -height() - 4));
     const QRect screen = button.screen()->availableGeometry();
     if (corner.y() < screen.top())
-        corner = button.mapToGlobal(QPoint(0, button.height() + 4));
+        corner = button.mapToGlobal(QPoint(left, button.height() + 4));
     corner.setX(qBound(screen.left(), corner.x(), screen.right() - width()));
     move(corner);
     show();

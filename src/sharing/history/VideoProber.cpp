@@ -3,30 +3,18 @@
 
 #include "generator/media/MediaFileInfo.h"
 
-#include <QtConcurrent>
-
 namespace velmora
 {
 
-VideoProber::VideoProber(QObject *parent) : QObject(parent)
-{
-    m_pool.setMaxThreadCount(1); // One disk, one reader.
-}
-
-VideoProber::~VideoProber()
-{
-    m_pool.clear();
-    m_pool.waitForDone();
-}
+VideoProber::VideoProber(QObject *parent) : QObject(parent) {}
 
 void VideoProber::look(const QStringList &fileNames)
 {
-    QtConcurrent::run(&m_pool, [this, fileNames] {
+    m_thread.add([this, fileNames]() -> TaskThread::Report {
         QHash<QString, VideoFacts> all;
         for (const QString &fileName : fileNames)
             all.insert(fileName, VideoFacts::look(fileName));
-        QMetaObject::invokeMethod(
-            this, [this, all] { emit looked(all); }, Qt::QueuedConnection);
+        return [this, all] { emit looked(all); };
     });
 }
 
@@ -35,12 +23,10 @@ void VideoProber::probe(const QString &fileName)
     if (m_asked.contains(fileName))
         return;
     m_asked.insert(fileName);
-    QtConcurrent::run(&m_pool, [this, fileName] {
+    m_thread.add([this, fileName]() -> TaskThread::Report {
         const VideoFacts facts = VideoFacts::look(fileName);
         const qint64 duration = facts.exists ? MediaFileInfo(fileName).duration() : 0;
-        QMetaObject::invokeMethod(
-            this, [this, fileName, facts, duration] { onProbed(fileName, facts, duration); },
-            Qt::QueuedConnection);
+        return [this, fileName, facts, duration] { onProbed(fileName, facts, duration); };
     });
 }
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/TaskThread.h"
 #include "sharing/history/VideoFacts.h"
 
 #include <QHash>
 #include <QObject>
 #include <QSet>
 #include <QStringList>
-#include <QThreadPool>
 
 namespace velmora
 {
@@ -19,8 +19,6 @@ class VideoProber : public QObject
     Q_OBJECT
 public:
     explicit VideoProber(QObject *parent = nullptr);
-    /// Waits for the file in work.
-    ~VideoProber() override;
 
     /// Looks for all files; looked() follows.
     void look(const QStringList &fileNames);
@@ -42,9 +40,9 @@ private:
 
     void onProbed(const QString &fileName, const VideoFacts &facts, qint64 duration);
 
-    QThreadPool m_pool;
     QHash<QString, Probe> m_probes;
     QSet<QString> m_asked;
+    TaskThread m_thread; ///< One disk, one reader.
 };
 
 } // namespace velmora

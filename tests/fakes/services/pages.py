@@ -60,7 +60,7 @@ def overview(model):
 <h2>Let a request fail</h2><ul>%s</ul><form action="/_arm">The next <select name="step">%s</select>
 <select name="failure">%s</select> <button>Arm</button></form>
 <p><a href="/_expire">Let all access tokens expire</a></p>"""
-                % (files, wrong, armed, options(STEPS), options(FAILURES)))
+                % (files or "<tr><td>None.</td></tr>", wrong or "<li>Nothing.</li>", armed, options(STEPS), options(FAILURES)))
 
 
 def arm(model, query):

@@ -3,14 +3,13 @@
 #include "platform/linux/DiscWriterLinux.h"
 
 #include <QCryptographicHash>
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QRandomGenerator>
-#include <QStorageInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <fcntl.h>
+#include <functional>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
@@ -46,269 +45,6 @@ QString xorriso(const QStringList &arguments)
     return QString::fromUtf8(process.readAll());
 }
 
-} // namespace
-
-/// Burns to files and pipes that stand for drives, and looks at the result with xorriso.
-class DiscWriterTest : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void init();
-    void cleanup();
-    void listsImages();
-    void blankDisc_data();
-    void blankDisc();
-    void secondSessionKeepsTheFirst();
-    void takenNameIsNumbered();
-    void finaliseCloses();
-    void eraseForgets();
-    void foreignDataNeedsErasing_data();
-    void foreignDataNeedsErasing();
-    void closedDiscIsRefused();
-    void tooSmallDisc();
-    void fullDisc();
-    void discFillsUpWhileWriting();
-    void driveVanishesWhileWriting();
-    void videoShrinksWhileWriting();
-    void cancelStops();
-    void driveIsGone();
-    void sequentialDrive();
-
-private:
-    QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
-    QString image() const { return path("disc.img"); }
-    static QString drive(const QString &file) { return QStringLiteral("stdio:") + file; }
-    QString makeVideo(const char *name, qint64 size);
-    bool burn(const QString &driveId, const QString &video, const QString &name,
-              bool finalize = false, bool erase = false);
-    QByteArray extract(const QString &name) const;
-    int startPipe(const QString &name) const;
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    QString m_video;
-    QByteArray m_bytes; ///< Of m_video.
-    DiscWriterLinux m_writer;
-    std::atomic_bool m_cancelled{false};
-    DiscProgress m_progress = [](int, int) {};
-};
-
-void DiscWriterTest::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_video = makeVideo("holiday.mp4", 3 * kMegabyte + 12345);
-    m_bytes = contentOf(m_video);
-    m_cancelled = false;
-    m_progress = [](int, int) {};
-}
-
-void DiscWriterTest::cleanup()
-{
-    QCOMPARE(contentOf(m_video), m_bytes); // Whatever happened.
-}
-
-QString DiscWriterTest::makeVideo(const char *name, qint64 size)
-{
-    QFile file(path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(randomBytes(size)) != size)
-        return {};
-    return file.fileName();
-}
-
-bool DiscWriterTest::burn(const QString &driveId, const QString &video, const QString &name,
-                          bool finalize, bool erase)
-{
-    const auto session = m_writer.openSession(driveId);
-    return session && (!erase || session->erase(m_progress)) && session->checkMedia() &&
-           session->createImage(video, name, QStringLiteral("Sommer 2026")) &&
-           session->finishImage(finalize) && session->write(m_progress, m_cancelled);
-}
-
-QByteArray DiscWriterTest::extract(const QString &name) const
-{
-    const QString target = path("extracted");
-    QFile::remove(target);
-    xorriso({QStringLiteral("-osirrox"), QStringLiteral("on"), QStringLiteral("-indev"),
-             drive(image()), QStringLiteral("-extract"), QLatin1Char('/') + name, target});
-    return contentOf(target);
-}
-
-void DiscWriterTest::listsImages()
-{
-    DiscWriterLinux writer({image()});
-    const auto recorders = writer.recorders();
-    QVERIFY(!recorders.isEmpty());
-    QCOMPARE(recorders.last().id, drive(image()));
-    QCOMPARE(recorders.last().volumes, QStringList{image()});
-    LogCapture log;
-    const bool real = recorders.size() > 1;
-    QCOMPARE(DiscWriterLinux().recorders().isEmpty(), !real);
-    QCOMPARE(log.lines().contains(QStringLiteral("There were no writable devices detected!")),
-             !real);
-}
-
-void DiscWriterTest::blankDisc_data()
-{
-    QTest::addColumn<qint64>("size");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("plain") << 3 * kMegabyte << QStringLiteral("holiday.mp4");
-    QTest::newRow("empty") << qint64(0) << QStringLiteral("empty.mp4");
-    QTest::newRow("one byte more than a block") << qint64(2049) << QStringLiteral("a");
-    QTest::newRow("odd name") << kMegabyte << QStringLiteral("Öl & Żółw - 日本 'x'.webm");
-}
-
-void DiscWriterTest::blankDisc()
-{
-    QFETCH(qint64, size);
-    QFETCH(QString, name);
-    const QString video = makeVideo("video", size);
-    QVERIFY(m_writer.media(drive(image())).blank);
-    QVERIFY(m_writer.media(drive(image())).present);
-    int last = -1;
-    int steps = 0;
-    m_progress = [&](int current, int total) {
-        QVERIFY(current >= 0 && current <= total && current >= last);
-        last = current;
-        ++steps;
-    };
-    QVERIFY(burn(drive(image()), video, name));
-    QCOMPARE(extract(name), contentOf(video));
-    QVERIFY(size < kMegabyte || steps > 0);
-
-    const DiscMedia media = m_writer.media(drive(image()));
-    QVERIFY(!media.blank);
-    QVERIFY(media.appendable);
-    QVERIFY(media.erasable);
-    QCOMPARE(media.volumeName, QStringLiteral("Sommer 2026"));
-    QVERIFY(media.freeBytes > 0 && media.freeBytes <= media.erasedBytes);
-}
-
-void DiscWriterTest::secondSessionKeepsTheFirst()
-{
-    QVERIFY(burn(drive(image()), m_video, QStringLiteral("first.mp4")));
-    const QString second = makeVideo("second", kMegabyte + 1);
-    QVERIFY(burn(drive(image()), second, QStringLiteral("second.mp4")));
-    const QString third = makeVideo("third", 17);
-    QVERIFY(burn(drive(image()), third, QStringLiteral("third.mp4")));
-    QCOMPARE(extract(QStringLiteral("first.mp4")), m_bytes);
-    QCOMPARE(extract(QStringLiteral("second.mp4")), contentOf(second));
-    QCOMPARE(extract(QStringLiteral("third.mp4")), contentOf(third));
-}
-
-void DiscWriterTest::takenNameIsNumbered()
-{
-    QVERIFY(burn(drive(image()), m_video, QStringLiteral("film.mp4")));
-    const QString second = makeVideo("second", 1000);
-    QVERIFY(burn(drive(image()), second, QStringLiteral("film.mp4")));
-    QCOMPARE(extract(QStringLiteral("film.mp4")), m_bytes);
-    QCOMPARE(extract(QStringLiteral("film (2).mp4")), contentOf(second));
-}
-
-void DiscWriterTest::finaliseCloses()
-{
-    QVERIFY(burn(drive(image()), m_video, QStringLiteral("film.mp4"), true));
-    const DiscMedia media = m_writer.media(drive(image()));
-    QVERIFY(media.present);
-    QVERIFY(!media.blank);
-    QVERIFY(!media.appendable);
-    QCOMPARE(media.freeBytes, 0);
-    const QByteArray disc = contentOf(image());
-    LogCapture log;
-    QVERIFY(!burn(drive(image()), m_video, QStringLiteral("more.mp4")));
-    QVERIFY(log.lines().contains(QStringLiteral("Invalid media type")));
-    QVERIFY(contentOf(image()) == disc);
-    QCOMPARE(extract(QStringLiteral("film.mp4")), m_bytes);
-    // Only erasing opens it again.
-    QVERIFY(burn(drive(image()), m_video, QStringLiteral("more.mp4"), false, true));
-    QVERIFY(m_writer.media(drive(image())).appendable);
-}
-
-void DiscWriterTest::eraseForgets()
-{
-    QVERIFY(burn(drive(image()), m_video, QStringLiteral("old.mp4")));
-    const QString second = makeVideo("second", 5000);
-    QVERIFY(burn(drive(image()), second, QStringLiteral("new.mp4"), false, true));
-    QCOMPARE(extract(QStringLiteral("new.mp4")), contentOf(second));
-    QCOMPARE(extract(QStringLiteral("old.mp4")), QByteArray());
-}
-
-void DiscWriterTest::foreignDataNeedsErasing_data()
-{
-    QTest::addColumn<qint64>("offset");
-    QTest::newRow("at the start") << qint64(1024);
-    QTest::newRow("descriptors") << qint64(20 * 2048);
-    QTest::newRow("UDF") << qint64(256 * 2048);
-}
-
-void DiscWriterTest::foreignDataNeedsErasing()
-{
-    QFETCH(qint64, offset);
-    QFile file(image());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QVERIFY(file.resize(4 * kMegabyte) && file.seek(offset));
-    file.write("something that is not ISO 9660");
-    file.close();
-    const DiscMedia media = m_writer.media(drive(image()));
-    QVERIFY(!media.blank && !media.appendable && media.erasable);
-    QVERIFY(!burn(drive(image()), m_video, QStringLiteral("film.mp4")));
-    QVERIFY(burn(drive(image()), m_video, QStringLiteral("film.mp4"), false, true));
-    QCOMPARE(extract(QStringLiteral("film.mp4")), m_bytes);
-}
-
-void DiscWriterTest::closedDiscIsRefused()
-{
-    // A null-drive is one without a disc that could be written.
-    QVERIFY(!m_writer.media(QStringLiteral("stdio:")).present);
-    LogCapture log;
-    QVERIFY(!burn(QStringLiteral("stdio:"), m_video, QStringLiteral("film.mp4")));
-    QVERIFY(log.lines().contains(QStringLiteral("Invalid media type")));
-}
-
-void DiscWriterTest::tooSmallDisc()
-{
-    QFile huge(path("huge"));
-    QVERIFY(huge.open(QIODevice::WriteOnly));
-    const qint64 size = m_writer.media(drive(image())).freeBytes + kMegabyte;
-    if (!huge.resize(size))
-        QSKIP("This file system has no files with holes.");
-    LogCapture log;
-    QVERIFY(!burn(drive(image()), huge.fileName(), QStringLiteral("film.mp4")));
-    QVERIFY(!log.lines(QtWarningMsg).filter(QStringLiteral("do not fit into")).isEmpty());
-    QVERIFY(QFileInfo(image()).size() == 0);
-}
-
-void DiscWriterTest::fullDisc()
-{
-    QVERIFY(burn(drive(image()), m_video, QStringLiteral("first.mp4")));
-    const QByteArray disc = contentOf(image());
-    QFile huge(path("huge"));
-    QVERIFY(huge.open(QIODevice::WriteOnly));
-    if (!huge.resize(m_writer.media(drive(image())).freeBytes + 1))
-        QSKIP("This file system has no files with holes.");
-    QVERIFY(!burn(drive(image()), huge.fileName(), QStringLiteral("film.mp4")));
-    QVERIFY(contentOf(image()) == disc);
-    QCOMPARE(extract(QStringLiteral("first.mp4")), m_bytes);
-}
-
-void DiscWriterTest::discFillsUpWhileWriting()
-{
-    LogCapture log;
-    QVERIFY(!burn(QStringLiteral("stdio:/dev/full"), m_video, QStringLiteral("film.mp4")));
-    QVERIFY(!log.lines(QtWarningMsg).filter(QStringLiteral("Write failed, result:")).isEmpty());
-}
-
-/// A pipe is a drive that can only be written from start to end; the reader's end of it.
-int DiscWriterTest::startPipe(const QString &name) const
-{
-    const QByteArray file = QFile::encodeName(name);
-    return ::mkfifo(file.constData(), 0600) == 0
-               ? ::open(file.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC)
-               : -1;
-}
-
-namespace
-{
-
 /// Reads at most @p bytes from a pipe that may have no writer yet.
 QByteArray readPipe(int pipe, qint64 bytes, const std::atomic_bool &ended)
 {
@@ -328,93 +64,300 @@ QByteArray readPipe(int pipe, qint64 bytes, const std::atomic_bool &ended)
 
 } // namespace
 
-void DiscWriterTest::driveVanishesWhileWriting()
+/// Burns to files and pipes that stand for drives, and looks at the result with xorriso.
+class DiscWriterTest : public QObject
 {
-    const QString pipe = path("pipe");
-    const int reader = startPipe(pipe);
-    QVERIFY(reader >= 0);
-    std::atomic_bool ended{false};
-    std::thread drain([&] {
-        readPipe(reader, kMegabyte, ended);
-        ::close(reader);
-    });
-    const bool succeeded = burn(drive(pipe), m_video, QStringLiteral("film.mp4"));
-    ended = true;
-    drain.join();
-    QVERIFY(!succeeded);
-}
+    Q_OBJECT
 
-void DiscWriterTest::videoShrinksWhileWriting()
-{
-    const QString video = makeVideo("shrinking", 40 * kMegabyte);
-    const QString pipe = path("pipe");
-    const int reader = startPipe(pipe);
-    QVERIFY(reader >= 0);
-    std::atomic_bool ended{false};
-    std::thread drain([&] {
-        readPipe(reader, kMegabyte, ended);
-        QFile::resize(video, kMegabyte);
-        readPipe(reader, 1LL << 40, ended);
-        ::close(reader);
-    });
-    const bool succeeded = burn(drive(pipe), video, QStringLiteral("film.mp4"));
-    ended = true;
-    drain.join();
-    QVERIFY(!succeeded);
-}
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_video = makeVideo("holiday.mp4", 3 * kMegabyte + 12345);
+        m_bytes = contentOf(m_video);
+        m_cancelled = false;
+        m_progress = [](int, int) {};
+    }
 
-void DiscWriterTest::cancelStops()
-{
-    const QString video = makeVideo("long", 64 * kMegabyte);
-    const QString pipe = path("pipe");
-    const int reader = startPipe(pipe);
-    QVERIFY(reader >= 0);
-    std::atomic_bool ended{false};
-    QByteArray received;
-    std::thread drain([&] {
-        readPipe(reader, kMegabyte, ended);
-        m_cancelled = true;
-        received = readPipe(reader, 1LL << 40, ended);
-        ::close(reader);
-    });
-    const bool succeeded = burn(drive(pipe), video, QStringLiteral("film.mp4"));
-    ended = true;
-    drain.join();
-    QVERIFY(!succeeded);
-}
+    void cleanup()
+    {
+        QCOMPARE(contentOf(m_video), m_bytes); // Whatever happened.
+    }
 
-void DiscWriterTest::driveIsGone()
-{
-    const QString gone = drive(path("no/such/folder/disc.img"));
-    QVERIFY(!m_writer.media(gone).present);
-    LogCapture log;
-    QVERIFY(!m_writer.openSession(gone));
-    QVERIFY(!log.lines(QtWarningMsg)
-                 .filter(QStringLiteral("'InitializeDiscRecorder' failed, result:"))
-                 .isEmpty());
-    QVERIFY(!burn(drive(image()), path("no video"), QStringLiteral("film.mp4")));
-    QVERIFY(!log.lines(QtWarningMsg).filter(QStringLiteral("AddFile failed, result:")).isEmpty());
-}
+    void listsImages()
+    {
+        DiscWriterLinux writer({image()});
+        const auto recorders = writer.recorders();
+        QVERIFY(!recorders.isEmpty());
+        QCOMPARE(recorders.last().id, drive(image()));
+        QCOMPARE(recorders.last().volumes, QStringList{image()});
+        LogCapture log;
+        const bool real = recorders.size() > 1;
+        QCOMPARE(DiscWriterLinux().recorders().isEmpty(), !real);
+        QCOMPARE(log.lines().contains(QStringLiteral("There were no writable devices detected!")),
+                 !real);
+    }
 
-void DiscWriterTest::sequentialDrive()
-{
-    const QString pipe = path("pipe");
-    const int reader = startPipe(pipe);
-    QVERIFY(reader >= 0);
-    std::atomic_bool ended{false};
-    QByteArray disc;
-    std::thread drain([&] { disc = readPipe(reader, 1LL << 40, ended); });
-    const bool succeeded = burn(drive(pipe), m_video, QStringLiteral("film.mp4"), true);
-    ended = true;
-    drain.join();
-    ::close(reader);
-    QVERIFY(succeeded);
-    QFile file(image());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(disc), disc.size());
-    file.close();
-    QCOMPARE(extract(QStringLiteral("film.mp4")), m_bytes);
-}
+    void blankDisc_data()
+    {
+        QTest::addColumn<qint64>("size");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("plain") << 3 * kMegabyte << QStringLiteral("holiday.mp4");
+        QTest::newRow("empty") << qint64(0) << QStringLiteral("empty.mp4");
+        QTest::newRow("one byte more than a block") << qint64(2049) << QStringLiteral("a");
+        QTest::newRow("odd name") << kMegabyte << QStringLiteral("Öl & Żółw - 日本 'x'.webm");
+    }
+
+    void blankDisc()
+    {
+        QFETCH(qint64, size);
+        QFETCH(QString, name);
+        const QString video = makeVideo("video", size);
+        QVERIFY(m_writer.media(drive(image())).blank);
+        QVERIFY(m_writer.media(drive(image())).present);
+        int last = -1;
+        int steps = 0;
+        m_progress = [&](int current, int total) {
+            QVERIFY(current >= 0 && current <= total && current >= last);
+            last = current;
+            ++steps;
+        };
+        QVERIFY(burn(drive(image()), video, name));
+        QCOMPARE(extract(name), contentOf(video));
+        QVERIFY(size < kMegabyte || steps > 0);
+
+        const DiscMedia media = m_writer.media(drive(image()));
+        QVERIFY(!media.blank);
+        QVERIFY(media.appendable);
+        QVERIFY(media.erasable);
+        QCOMPARE(media.volumeName, QStringLiteral("Sommer 2026"));
+        QVERIFY(media.freeBytes > 0 && media.freeBytes <= media.erasedBytes);
+    }
+
+    void secondSessionKeepsTheFirst()
+    {
+        QVERIFY(burn(drive(image()), m_video, QStringLiteral("first.mp4")));
+        const QString second = makeVideo("second", kMegabyte + 1);
+        QVERIFY(burn(drive(image()), second, QStringLiteral("second.mp4")));
+        const QString third = makeVideo("third", 17);
+        QVERIFY(burn(drive(image()), third, QStringLiteral("third.mp4")));
+        QCOMPARE(extract(QStringLiteral("first.mp4")), m_bytes);
+        QCOMPARE(extract(QStringLiteral("second.mp4")), contentOf(second));
+        QCOMPARE(extract(QStringLiteral("third.mp4")), contentOf(third));
+    }
+
+    void takenNameIsNumbered()
+    {
+        QVERIFY(burn(drive(image()), m_video, QStringLiteral("film.mp4")));
+        const QString second = makeVideo("second", 1000);
+        QVERIFY(burn(drive(image()), second, QStringLiteral("film.mp4")));
+        QCOMPARE(extract(QStringLiteral("film.mp4")), m_bytes);
+        QCOMPARE(extract(QStringLiteral("film (2).mp4")), contentOf(second));
+    }
+
+    void finaliseCloses()
+    {
+        QVERIFY(burn(drive(image()), m_video, QStringLiteral("film.mp4"), true));
+        const DiscMedia media = m_writer.media(drive(image()));
+        QVERIFY(media.present);
+        QVERIFY(!media.blank);
+        QVERIFY(!media.appendable);
+        QCOMPARE(media.freeBytes, 0);
+        const QByteArray disc = contentOf(image());
+        LogCapture log;
+        QVERIFY(!burn(drive(image()), m_video, QStringLiteral("more.mp4")));
+        QVERIFY(log.lines().contains(QStringLiteral("Invalid media type")));
+        QVERIFY(contentOf(image()) == disc);
+        QCOMPARE(extract(QStringLiteral("film.mp4")), m_bytes);
+        // Only erasing opens it again.
+        QVERIFY(burn(drive(image()), m_video, QStringLiteral("more.mp4"), false, true));
+        QVERIFY(m_writer.media(drive(image())).appendable);
+    }
+
+    void eraseForgets()
+    {
+        QVERIFY(burn(drive(image()), m_video, QStringLiteral("old.mp4")));
+        const QString second = makeVideo("second", 5000);
+        QVERIFY(burn(drive(image()), second, QStringLiteral("new.mp4"), false, true));
+        QCOMPARE(extract(QStringLiteral("new.mp4")), contentOf(second));
+        QCOMPARE(extract(QStringLiteral("old.mp4")), QByteArray());
+    }
+
+    void foreignDataNeedsErasing_data()
+    {
+        QTest::addColumn<qint64>("offset");
+        QTest::newRow("at the start") << qint64(1024);
+        QTest::newRow("descriptors") << qint64(20 * 2048);
+        QTest::newRow("UDF") << qint64(256 * 2048);
+    }
+
+    void foreignDataNeedsErasing()
+    {
+        QFETCH(qint64, offset);
+        QFile file(image());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.resize(4 * kMegabyte) && file.seek(offset));
+        file.write("something that is not ISO 9660");
+        file.close();
+        const DiscMedia media = m_writer.media(drive(image()));
+        QVERIFY(!media.blank && !media.appendable && media.erasable);
+        QVERIFY(!burn(drive(image()), m_video, QStringLiteral("film.mp4")));
+        QVERIFY(burn(drive(image()), m_video, QStringLiteral("film.mp4"), false, true));
+        QCOMPARE(extract(QStringLiteral("film.mp4")), m_bytes);
+    }
+
+    void closedDiscIsRefused()
+    {
+        // A null-drive is one without a disc that could be written.
+        QVERIFY(!m_writer.media(QStringLiteral("stdio:")).present);
+        LogCapture log;
+        QVERIFY(!burn(QStringLiteral("stdio:"), m_video, QStringLiteral("film.mp4")));
+        QVERIFY(log.lines().contains(QStringLiteral("Invalid media type")));
+    }
+
+    void tooSmallDisc_data()
+    {
+        QTest::addColumn<bool>("used");
+        QTest::newRow("blank") << false;
+        QTest::newRow("with a session") << true;
+    }
+
+    void tooSmallDisc()
+    {
+        QFETCH(bool, used);
+        QVERIFY(!used || burn(drive(image()), m_video, QStringLiteral("first.mp4")));
+        const qint64 size = m_writer.media(drive(image())).freeBytes + 1;
+        const QByteArray disc = contentOf(image());
+        QFile huge(path("huge"));
+        QVERIFY(huge.open(QIODevice::WriteOnly));
+        if (!huge.resize(size))
+            QSKIP("This file system has no files with holes.");
+        LogCapture log;
+        QVERIFY(!burn(drive(image()), huge.fileName(), QStringLiteral("film.mp4")));
+        QVERIFY(warned(log, "do not fit into"));
+        QVERIFY(contentOf(image()) == disc);
+    }
+
+    void discFillsUpWhileWriting()
+    {
+        LogCapture log;
+        QVERIFY(!burn(QStringLiteral("stdio:/dev/full"), m_video, QStringLiteral("film.mp4")));
+        QVERIFY(warned(log, "Write failed, result:"));
+    }
+
+    void troubleWhileWriting_data()
+    {
+        QTest::addColumn<int>("megabytes");
+        QTest::newRow("drive vanishes") << 3;
+        QTest::newRow("video shrinks") << 40;
+        QTest::newRow("cancelled") << 64;
+    }
+
+    void troubleWhileWriting()
+    {
+        QFETCH(int, megabytes);
+        const QByteArray trouble = QTest::currentDataTag();
+        const QString video = makeVideo("film", megabytes * kMegabyte);
+        QVERIFY(!burnToPipe(video, [&] {
+            if (trouble == "video shrinks")
+                QFile::resize(video, kMegabyte);
+            m_cancelled = trouble == "cancelled";
+            return trouble != "drive vanishes";
+        }));
+    }
+
+    void sequentialDrive()
+    {
+        QByteArray disc;
+        const auto always = [] { return true; };
+        QVERIFY(burnToPipe(m_video, always, &disc));
+        QFile file(image());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(disc), disc.size());
+        file.close();
+        QCOMPARE(extract(QStringLiteral("film.mp4")), m_bytes);
+    }
+
+    void driveIsGone()
+    {
+        const QString gone = drive(path("no/such/folder/disc.img"));
+        QVERIFY(!m_writer.media(gone).present);
+        LogCapture log;
+        QVERIFY(!m_writer.openSession(gone));
+        QVERIFY(warned(log, "'InitializeDiscRecorder' failed, result:"));
+        QVERIFY(!burn(drive(image()), path("no video"), QStringLiteral("film.mp4")));
+        QVERIFY(warned(log, "AddFile failed, result:"));
+    }
+
+private:
+    QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
+    QString image() const { return path("disc.img"); }
+    static QString drive(const QString &file) { return QStringLiteral("stdio:") + file; }
+    static bool warned(const LogCapture &log, const char *text)
+    {
+        return !log.lines(QtWarningMsg).filter(QLatin1String(text)).isEmpty();
+    }
+
+    QString makeVideo(const char *name, qint64 size)
+    {
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(randomBytes(size)) != size)
+            return {};
+        return file.fileName();
+    }
+
+    bool burn(const QString &driveId, const QString &video, const QString &name,
+              bool finalize = false, bool erase = false)
+    {
+        const auto session = m_writer.openSession(driveId);
+        return session && (!erase || session->erase(m_progress)) && session->checkMedia() &&
+               session->createImage(video, name, QStringLiteral("Sommer 2026")) &&
+               session->finishImage(finalize) && session->write(m_progress, m_cancelled);
+    }
+
+    QByteArray extract(const QString &name) const
+    {
+        const QString target = path("extracted");
+        QFile::remove(target);
+        xorriso({QStringLiteral("-osirrox"), QStringLiteral("on"), QStringLiteral("-indev"),
+                 drive(image()), QStringLiteral("-extract"), QLatin1Char('/') + name, target});
+        return contentOf(target);
+    }
+
+    /// A pipe is a drive that can only be written from start to end. Its reader goes away after the
+    /// first megabyte if @p readsOn returns false.
+    bool burnToPipe(const QString &video, const std::function<bool()> &readsOn,
+                    QByteArray *disc = nullptr)
+    {
+        const QString pipe = path("pipe");
+        const QByteArray file = QFile::encodeName(pipe);
+        if (::mkfifo(file.constData(), 0600) != 0)
+            qFatal("Cannot make a pipe");
+        const int reader = ::open(file.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+        std::atomic_bool ended{false};
+        QByteArray received;
+        std::thread drain([&] {
+            received = readPipe(reader, kMegabyte, ended);
+            if (readsOn())
+                received += readPipe(reader, 1LL << 40, ended);
+            ::close(reader);
+        });
+        const bool succeeded =
+            burn(drive(pipe), video, QStringLiteral("film.mp4"), disc != nullptr);
+        ended = true;
+        drain.join();
+        if (disc)
+            *disc = received;
+        return succeeded;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_video;
+    QByteArray m_bytes; ///< Of m_video.
+    DiscWriterLinux m_writer;
+    std::atomic_bool m_cancelled{false};
+    DiscProgress m_progress = [](int, int) {};
+};
 
 QTEST_GUILESS_MAIN(DiscWriterTest)
 #include "DiscWriterTest.moc"

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QThread>
 
+#include <atomic>
 #include <mutex>
 
 namespace velmora
@@ -22,6 +23,9 @@ public:
         bool hold = false;   ///< A write waits until it is cancelled.
         QSemaphore writing;  ///< Gets one per write that began.
         QString hindrance;   ///< Why nothing can be burned.
+        std::atomic_bool slow{false}; ///< Nobody is told yet which drives there are.
+        QSemaphore asked;             ///< Gets one whenever somebody wants to know them.
+        QSemaphore gone;              ///< Gets one when the writer is destroyed.
 
         void note(const QString &step)
         {
@@ -39,9 +43,14 @@ public:
 
     explicit FakeDiscWriter(State &state, int drives = 2) : m_state(state), m_drives(drives) {}
 
+    ~FakeDiscWriter() override { m_state.gone.release(); }
+
     QString hindrance() const override { return m_state.hindrance; }
     QVector<DiscRecorder> recorders() override
     {
+        m_state.asked.release();
+        while (m_state.slow)
+            QThread::yieldCurrentThread();
         QVector<DiscRecorder> all;
         for (int i = 0; i < m_drives; ++i)
             all.append({QString::number(i), QStringLiteral("DVDRAM GH%1").arg(i),

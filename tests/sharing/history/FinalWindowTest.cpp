@@ -30,102 +30,91 @@ class FinalWindowTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void choicesCloseAndReport_data();
-    void choicesCloseAndReport();
-    void uploadsAreRefused();
-    void folderIsOpened();
-    void missingFile();
+    void initTestCase()
+    {
+        Theme::install(*qApp);
+        m_video = m_folder.filePath(QStringLiteral("a video.mp4"));
+        QFile file(m_video);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+
+    void choicesCloseAndReport_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("service");
+        const char *rows[][3] = {{"btnUploadYoutube", "YOUTUBE", "youtube"},
+                                 {"btnUploadGoogleDrive", "GOOGLE DRIVE", "googledrive"},
+                                 {"btnUploadDropBox", "DROPBOX", "dropbox"},
+                                 {"btnBurnDvd", "BURN DVD", ""},
+                                 {"btnClose", "CLOSE", ""}};
+        for (const auto &row : rows)
+            QTest::newRow(row[0]) << row[1] << row[2];
+    }
+
+    void choicesCloseAndReport()
+    {
+        const QString button = QString::fromLatin1(QTest::currentDataTag());
+        QFETCH(QString, text);
+        QFETCH(QString, service);
+        NotingFileManager manager;
+        FinalWindow window(m_video, manager);
+        QSignalSpy uploads(&window, &FinalWindow::uploadService);
+        QSignalSpy burn(&window, &FinalWindow::burnDvd);
+        window.show();
+        auto *pressed = window.findChild<QPushButton *>(button);
+        QCOMPARE(pressed->text(), text);
+        QTest::mouseClick(pressed, Qt::LeftButton);
+        QVERIFY(window.isHidden());
+        QCOMPARE(uploads.isEmpty() ? QString() : uploads.first().first().toString(), service);
+        QCOMPARE(burn.size(), button == QLatin1String("btnBurnDvd") ? 1 : 0);
+        QVERIFY(manager.shown.isEmpty());
+    }
+
+    void uploadsAreRefused()
+    {
+        NotingFileManager manager;
+        FinalWindow window(m_video, manager);
+        window.refuseUploads(QStringLiteral("Not now."));
+        for (const char *name : {"btnUploadYoutube", "btnUploadGoogleDrive", "btnUploadDropBox"}) {
+            const auto *button = window.findChild<QPushButton *>(QLatin1String(name));
+            QVERIFY2(!button->isEnabled(), name);
+            QCOMPARE(button->toolTip(), QStringLiteral("Not now."));
+        }
+        QVERIFY(window.findChild<QPushButton *>(QStringLiteral("btnBurnDvd"))->isEnabled());
+    }
+
+    void folderIsOpened()
+    {
+        NotingFileManager manager;
+        FinalWindow window(m_video, manager);
+        window.show();
+        QTest::mouseClick(window.findChild<QPushButton *>(QStringLiteral("btnOpen")),
+                          Qt::LeftButton);
+        QCOMPARE(manager.shown, QStringList{m_video});
+        QVERIFY(window.isHidden());
+    }
+
+    void missingFile()
+    {
+        const QString gone = m_folder.filePath(QStringLiteral("gone.mp4"));
+        NotingFileManager manager;
+        FinalWindow window(gone, manager);
+        window.show();
+        DialogDriver driver;
+        driver.press(QStringLiteral("CLOSE"));
+        QTest::mouseClick(window.findChild<QPushButton *>(QStringLiteral("btnOpen")),
+                          Qt::LeftButton);
+        QCOMPARE(driver.title(), QStringLiteral("Open file Error"));
+        QCOMPARE(driver.text(),
+                 QStringLiteral("File '%1' not found").arg(QDir::toNativeSeparators(gone)));
+        QVERIFY(manager.shown.isEmpty());
+        QVERIFY(window.isVisible());
+    }
 
 private:
     QTemporaryDir m_folder;
     QString m_video;
 };
-
-void FinalWindowTest::initTestCase()
-{
-    Theme::install(*qApp);
-    m_video = m_folder.filePath(QStringLiteral("a video.mp4"));
-    QFile file(m_video);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-}
-
-void FinalWindowTest::choicesCloseAndReport_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("service");
-    QTest::addColumn<int>("burns");
-    QTest::newRow("video") << QStringLiteral("btnUploadYoutube") << QStringLiteral("YOUTUBE")
-                           << QStringLiteral("youtube") << 0;
-    QTest::newRow("drive") << QStringLiteral("btnUploadGoogleDrive")
-                           << QStringLiteral("GOOGLE DRIVE") << QStringLiteral("googledrive") << 0;
-    QTest::newRow("box") << QStringLiteral("btnUploadDropBox") << QStringLiteral("DROPBOX")
-                         << QStringLiteral("dropbox") << 0;
-    QTest::newRow("burn") << QStringLiteral("btnBurnDvd") << QStringLiteral("BURN DVD") << QString()
-                          << 1;
-    QTest::newRow("close") << QStringLiteral("btnClose") << QStringLiteral("CLOSE") << QString()
-                           << 0;
-}
-
-void FinalWindowTest::choicesCloseAndReport()
-{
-    QFETCH(QString, button);
-    QFETCH(QString, text);
-    QFETCH(QString, service);
-    QFETCH(int, burns);
-    NotingFileManager manager;
-    FinalWindow window(m_video, manager);
-    QSignalSpy uploads(&window, &FinalWindow::uploadService);
-    QSignalSpy burn(&window, &FinalWindow::burnDvd);
-    window.show();
-    auto *pressed = window.findChild<QPushButton *>(button);
-    QCOMPARE(pressed->text(), text);
-    QTest::mouseClick(pressed, Qt::LeftButton);
-    QVERIFY(window.isHidden());
-    QCOMPARE(uploads.isEmpty() ? QString() : uploads.first().first().toString(), service);
-    QCOMPARE(burn.size(), burns);
-    QVERIFY(manager.shown.isEmpty());
-}
-
-void FinalWindowTest::uploadsAreRefused()
-{
-    NotingFileManager manager;
-    FinalWindow window(m_video, manager);
-    window.refuseUploads(QStringLiteral("Not now."));
-    for (const char *name : {"btnUploadYoutube", "btnUploadGoogleDrive", "btnUploadDropBox"}) {
-        const auto *button = window.findChild<QPushButton *>(QLatin1String(name));
-        QVERIFY2(!button->isEnabled(), name);
-        QCOMPARE(button->toolTip(), QStringLiteral("Not now."));
-    }
-    QVERIFY(window.findChild<QPushButton *>(QStringLiteral("btnBurnDvd"))->isEnabled());
-}
-
-void FinalWindowTest::folderIsOpened()
-{
-    NotingFileManager manager;
-    FinalWindow window(m_video, manager);
-    window.show();
-    QTest::mouseClick(window.findChild<QPushButton *>(QStringLiteral("btnOpen")), Qt::LeftButton);
-    QCOMPARE(manager.shown, QStringList{m_video});
-    QVERIFY(window.isHidden());
-}
-
-void FinalWindowTest::missingFile()
-{
-    const QString gone = m_folder.filePath(QStringLiteral("gone.mp4"));
-    NotingFileManager manager;
-    FinalWindow window(gone, manager);
-    window.show();
-    DialogDriver driver;
-    driver.press(QStringLiteral("CLOSE"));
-    QTest::mouseClick(window.findChild<QPushButton *>(QStringLiteral("btnOpen")), Qt::LeftButton);
-    QCOMPARE(driver.title(), QStringLiteral("Open file Error"));
-    QCOMPARE(driver.text(),
-             QStringLiteral("File '%1' not found").arg(QDir::toNativeSeparators(gone)));
-    QVERIFY(manager.shown.isEmpty());
-    QVERIFY(window.isVisible());
-}
 
 QTEST_MAIN(FinalWindowTest)
 #include "FinalWindowTest.moc"

@@ -10,19 +10,6 @@
 
 using namespace velmora;
 
-class HistoryModelTest : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void sorting_data();
-    void sorting();
-    void factsFollow();
-    void removedVideosKeepTheirPlace();
-    void durationComesFromTheVideo();
-    void sameFileTwice();
-};
-
 namespace
 {
 
@@ -41,102 +28,108 @@ bool isKnown(const HistoryModel &model)
 
 } // namespace
 
-void HistoryModelTest::sorting_data()
+class HistoryModelTest : public QObject
 {
-    QTest::addColumn<QVector<int>>("clicks"); // 0: date, 1: file name
-    QTest::addColumn<QString>("order");
-    QTest::newRow("at first the newest")
-        << QVector<int>{} << QStringLiteral("c.mp4 B10.mp4 b9.mp4");
-    QTest::newRow("date twice") << QVector<int>{0} << QStringLiteral("b9.mp4 B10.mp4 c.mp4");
-    QTest::newRow("name") << QVector<int>{1} << QStringLiteral("b9.mp4 B10.mp4 c.mp4");
-    QTest::newRow("name twice") << QVector<int>{1, 1} << QStringLiteral("c.mp4 B10.mp4 b9.mp4");
-    QTest::newRow("name, then date")
-        << QVector<int>{1, 0} << QStringLiteral("c.mp4 B10.mp4 b9.mp4");
-}
+    Q_OBJECT
 
-void HistoryModelTest::sorting()
-{
-    QFETCH(QVector<int>, clicks);
-    QFETCH(QString, order);
-    HistoryFixture history;
-    // The file times decide, not the order in the history.
-    history.add("c.mp4", 10, QDate(2026, 3, 1));
-    history.add("b9.mp4", 10, QDate(2026, 1, 1));
-    history.add("B10.mp4", 10, QDate(2026, 2, 1));
-    HistoryModel model(history.store, history.settings);
-    const QAbstractItemModelTester tester(&model);
-    model.reload();
-    QTRY_VERIFY(isKnown(model));
-    for (const int click : clicks)
-        model.sortBy(click == 0 ? HistoryModel::Key::Date : HistoryModel::Key::FileName);
-    QCOMPARE(names(model), order);
-    model.reload();
-    QCOMPARE(names(model), order);
-}
+private slots:
+    void sorting_data()
+    {
+        QTest::addColumn<QVector<int>>("clicks"); // 0: date, 1: file name
+        QTest::addColumn<QString>("order");
+        QTest::newRow("at first the newest")
+            << QVector<int>{} << QStringLiteral("c.mp4 B10.mp4 b9.mp4");
+        QTest::newRow("date twice") << QVector<int>{0} << QStringLiteral("b9.mp4 B10.mp4 c.mp4");
+        QTest::newRow("name") << QVector<int>{1} << QStringLiteral("b9.mp4 B10.mp4 c.mp4");
+        QTest::newRow("name twice") << QVector<int>{1, 1} << QStringLiteral("c.mp4 B10.mp4 b9.mp4");
+        QTest::newRow("name, then date")
+            << QVector<int>{1, 0} << QStringLiteral("c.mp4 B10.mp4 b9.mp4");
+    }
 
-void HistoryModelTest::factsFollow()
-{
-    HistoryFixture history;
-    history.add("a.mp4", 5 * 1048576, QDate(2026, 5, 17));
-    history.add("gone.mp4", -1, {});
-    HistoryModel model(history.store, history.settings);
-    model.reload();
-    QVERIFY(!isKnown(model));
-    QTRY_VERIFY(isKnown(model));
-    const HistoryEntry entry = model.entry(model.rowOf(history.path("a.mp4")));
-    QVERIFY(entry.facts.exists);
-    QCOMPARE(entry.facts.size, 5 * 1048576);
-    QCOMPARE(entry.facts.date.date(), QDate(2026, 5, 17));
-    QVERIFY(!model.entry(model.rowOf(history.path("gone.mp4"))).facts.exists);
-    // A video that goes later is noticed with the next reload.
-    QVERIFY(QFile::remove(history.path("a.mp4")));
-    QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
-    model.reload();
-    QVERIFY(changed.wait());
-    QVERIFY(!model.entry(model.rowOf(history.path("a.mp4"))).facts.exists);
-}
+    void sorting()
+    {
+        QFETCH(QVector<int>, clicks);
+        QFETCH(QString, order);
+        HistoryFixture history;
+        // The file times decide, not the order in the history.
+        history.add("c.mp4", 10, QDate(2026, 3, 1));
+        history.add("b9.mp4", 10, QDate(2026, 1, 1));
+        history.add("B10.mp4", 10, QDate(2026, 2, 1));
+        HistoryModel model(history.store, history.settings);
+        const QAbstractItemModelTester tester(&model);
+        model.reload();
+        QTRY_VERIFY(isKnown(model));
+        for (const int click : clicks)
+            model.sortBy(click == 0 ? HistoryModel::Key::Date : HistoryModel::Key::FileName);
+        QCOMPARE(names(model), order);
+        model.reload();
+        QCOMPARE(names(model), order);
+    }
 
-void HistoryModelTest::removedVideosKeepTheirPlace()
-{
-    HistoryFixture history;
-    history.add("first.mp4", 10, QDate(2026, 1, 1));
-    history.add("gone.mp4", -1, {});
-    history.add("last.mp4", 10, QDate(2026, 2, 1));
-    HistoryModel model(history.store, history.settings);
-    model.reload();
-    QTRY_VERIFY(isKnown(model));
-    QCOMPARE(names(model), QStringLiteral("last.mp4 gone.mp4 first.mp4"));
-}
+    void factsFollow()
+    {
+        HistoryFixture history;
+        history.add("a.mp4", 5 * 1048576, QDate(2026, 5, 17));
+        history.add("gone.mp4", -1, {});
+        HistoryModel model(history.store, history.settings);
+        model.reload();
+        QVERIFY(!isKnown(model));
+        QTRY_VERIFY(isKnown(model));
+        const HistoryEntry entry = model.entry(model.rowOf(history.path("a.mp4")));
+        QVERIFY(entry.facts.exists);
+        QCOMPARE(entry.facts.size, 5 * 1048576);
+        QCOMPARE(entry.facts.date.date(), QDate(2026, 5, 17));
+        QVERIFY(!model.entry(model.rowOf(history.path("gone.mp4"))).facts.exists);
+        // A video that goes later is noticed with the next reload.
+        QVERIFY(QFile::remove(history.path("a.mp4")));
+        QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+        model.reload();
+        QVERIFY(changed.wait());
+        QVERIFY(!model.entry(model.rowOf(history.path("a.mp4"))).facts.exists);
+    }
 
-void HistoryModelTest::durationComesFromTheVideo()
-{
-    HistoryFixture history;
-    const ProjectFile *project = history.add("tone.wav", -1, {});
-    MediaSamples::Tone tone;
-    tone.seconds = 3;
-    QVERIFY(MediaSamples::makeTone(history.path("tone.wav"), tone));
-    HistoryModel model(history.store, history.settings);
-    model.reload();
-    QTRY_VERIFY(isKnown(model));
-    const qint64 planned =
-        Timeline::ofProject(*project, history.settings.transitionTime).totalLength();
-    QVERIFY(planned != 3000);
-    QCOMPARE(model.entry(0).facts.duration, planned);
-    model.probe(0);
-    QTRY_COMPARE(model.entry(0).facts.duration, 3000);
-}
+    void removedVideosKeepTheirPlace()
+    {
+        HistoryFixture history;
+        history.add("first.mp4", 10, QDate(2026, 1, 1));
+        history.add("gone.mp4", -1, {});
+        history.add("last.mp4", 10, QDate(2026, 2, 1));
+        HistoryModel model(history.store, history.settings);
+        model.reload();
+        QTRY_VERIFY(isKnown(model));
+        QCOMPARE(names(model), QStringLiteral("last.mp4 gone.mp4 first.mp4"));
+    }
 
-void HistoryModelTest::sameFileTwice()
-{
-    HistoryFixture history;
-    const ProjectFile *old = history.add("a.mp4", 10, QDate(2026, 1, 1));
-    const ProjectFile *fresh = history.add("a.mp4", 10, QDate(2026, 1, 1));
-    HistoryModel model(history.store, history.settings);
-    model.reload();
-    QCOMPARE(model.entry(model.rowOf(history.path("a.mp4"))).project, fresh);
-    QVERIFY(model.rowOf(old) != model.rowOf(fresh));
-    QCOMPARE(model.rowOf(QStringLiteral("/nowhere")), -1);
-}
+    void durationComesFromTheVideo()
+    {
+        HistoryFixture history;
+        const ProjectFile *project = history.add("tone.wav", -1, {});
+        MediaSamples::Tone tone;
+        tone.seconds = 3;
+        QVERIFY(MediaSamples::makeTone(history.path("tone.wav"), tone));
+        HistoryModel model(history.store, history.settings);
+        model.reload();
+        QTRY_VERIFY(isKnown(model));
+        const qint64 planned =
+            Timeline::ofProject(*project, history.settings.transitionTime).totalLength();
+        QVERIFY(planned != 3000);
+        QCOMPARE(model.entry(0).facts.duration, planned);
+        model.probe(0);
+        QTRY_COMPARE(model.entry(0).facts.duration, 3000);
+    }
+
+    void sameFileTwice()
+    {
+        HistoryFixture history;
+        const ProjectFile *old = history.add("a.mp4", 10, QDate(2026, 1, 1));
+        const ProjectFile *fresh = history.add("a.mp4", 10, QDate(2026, 1, 1));
+        HistoryModel model(history.store, history.settings);
+        model.reload();
+        QCOMPARE(model.entry(model.rowOf(history.path("a.mp4"))).project, fresh);
+        QVERIFY(model.rowOf(old) != model.rowOf(fresh));
+        QCOMPARE(model.rowOf(QStringLiteral("/nowhere")), -1);
+    }
+};
 
 QTEST_GUILESS_MAIN(HistoryModelTest)
 #include "HistoryModelTest.moc"

@@ -4,6 +4,7 @@
 #include "helpers/DialogDriver.h"
 #include "helpers/LogCapture.h"
 #include "sharing/history/HistoryFixture.h"
+#include "sharing/history/HistoryHeader.h"
 #include "sharing/history/HistoryListView.h"
 #include "sharing/history/HistoryRowWidget.h"
 #include "sharing/upload/UploadController.h"
@@ -63,6 +64,39 @@ private slots:
         QCOMPARE(text(old, "lblDuration").size(), 8);
         QCOMPARE(text(old, "lblSize"), QStringLiteral("3.0 MB"));
         QCOMPARE(text(row("new.mp4"), "lblSize"), QStringLiteral("250 MB"));
+    }
+
+    /// With and without a scroll bar, whatever page was visible when it came or went.
+    void headerStandsAboveTheRows()
+    {
+        QStackedWidget stack;
+        auto *other = new QWidget;
+        stack.addWidget(other);
+        auto *widget = new HistoryWidget(m_history->store, m_history->settings);
+        stack.addWidget(widget);
+        stack.show();
+        for (const int height : {300, 600, 300}) {
+            for (QWidget *first : {other, static_cast<QWidget *>(widget)}) {
+                stack.setCurrentWidget(first);
+                stack.resize(2000 - height, 900 - height);
+                QCoreApplication::processEvents();
+                stack.resize(1000, height);
+                QCoreApplication::processEvents();
+                stack.setCurrentWidget(widget);
+                widget->reload();
+                const auto left = [widget](const QLabel *label) {
+                    return label->mapTo(widget, {}).x();
+                };
+                const auto *header =
+                    widget->findChild<HistoryHeader *>()->findChildren<QLabel *>().first();
+                QCOMPARE(header->text(), QStringLiteral("Resolution"));
+                const auto inRow = [widget] {
+                    return widget->findChild<QLabel *>(QStringLiteral("lblResolution"));
+                };
+                QTRY_VERIFY(inRow());
+                QTRY_COMPARE(left(header), left(inRow()));
+            }
+        }
     }
 
     void removedVideo()
@@ -162,60 +196,43 @@ private slots:
         QCOMPARE(list->currentIndex().row(), 1);
     }
 
-    void deletingAsks_data()
+    void removalAsksAndCanBeUndone_data()
     {
-        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("answer");
         QTest::addColumn<int>("left");
-        QTest::newRow("remove") << QStringLiteral("REMOVE") << 2;
-        QTest::newRow("cancel") << QStringLiteral("CANCEL") << 3;
+        QTest::newRow("remove") << "REMOVE" << 2;
+        QTest::newRow("cancel") << "CANCEL" << 3;
+        QTest::newRow("clear") << "REMOVE ALL" << 0;
     }
 
-    void deletingAsks()
+    void removalAsksAndCanBeUndone()
     {
-        QFETCH(QString, button);
+        QFETCH(QString, answer);
         QFETCH(int, left);
         show();
         QVERIFY(m_widget->select(m_history->path("old.mp4")));
+        const QStringList before = m_history->saved();
         DialogDriver driver;
-        driver.press(button);
-        QTest::keyClick(find<HistoryListView>("listHistory"), Qt::Key_Delete);
+        driver.press(answer);
+        if (left == 0)
+            click("btnClearHistory");
+        else
+            QTest::keyClick(find<HistoryListView>("listHistory"), Qt::Key_Delete);
         QCOMPARE(driver.failure(), QString());
         QCOMPARE(count(), left);
         QCOMPARE(m_history->saved().size(), left);
         QVERIFY(QFile::exists(m_history->path("old.mp4")));
-        QCOMPARE(find<QFrame>("undoBar")->isVisible(), left == 2);
-        QVERIFY(!m_widget->selectedFile().isEmpty());
-    }
-
-    void undoBringsEverythingBack()
-    {
-        show();
-        const QStringList before = m_history->saved();
-        DialogDriver driver;
-        driver.press(QStringLiteral("REMOVE"));
-        clickIn(row("old.mp4"), "btnDelete");
-        QCOMPARE(count(), 2);
-        QTest::keyClick(m_widget.get(), Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(QFile::exists(m_history->path("new.mp4")));
+        QCOMPARE(find<QFrame>("undoBar")->isVisible(), left < 3);
+        QCOMPARE(find<QPushButton>("btnClearHistory")->isEnabled(), left > 0);
+        QCOMPARE(m_widget->selectedFile().isEmpty(), left == 0);
+        if (left == 0)
+            click("btnUndo");
+        else
+            QTest::keyClick(m_widget.get(), Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(m_history->saved(), before);
         QCOMPARE(count(), 3);
         QVERIFY(!find<QFrame>("undoBar")->isVisible());
-    }
-
-    void clearingCanBeUndone()
-    {
-        show();
-        const QStringList before = m_history->saved();
-        DialogDriver driver;
-        driver.press(QStringLiteral("REMOVE ALL"));
-        click("btnClearHistory");
-        QCOMPARE(driver.failure(), QString());
-        QCOMPARE(count(), 0);
-        QCOMPARE(m_history->saved(), QStringList());
-        QVERIFY(!find<QPushButton>("btnClearHistory")->isEnabled());
-        QVERIFY(QFile::exists(m_history->path("new.mp4")));
-        click("btnUndo");
-        QCOMPARE(m_history->saved(), before);
-        QCOMPARE(count(), 3);
     }
 
     void videosGoToTheTrashOnlyWhenTicked()

@@ -58,8 +58,7 @@ private slots:
         QCOMPARE(m_services.problems().join(QLatin1Char('\n')), QString());
         QCOMPARE(m_services.steps().join(QLatin1Char(' ')), steps);
         QCOMPARE(lengths(), pieces);
-        QCOMPARE(m_services.files().at(0).toObject().value(QLatin1String("sha256")).toString(),
-                 user.hash());
+        QVERIFY(user.hasArrived());
         QVERIFY(size == 0 || course.progress.last() == 100);
         QVERIFY(std::is_sorted(course.progress.begin(), course.progress.end()));
     }
@@ -126,9 +125,7 @@ private slots:
         const UploadCourse course = user.run(kService, user.video(kLarge));
         QCOMPARE(course.failed.join(QString()), QString());
         QCOMPARE(m_services.problems().join(QLatin1Char('\n')), QString());
-        QCOMPARE(m_services.files().size(), 1);
-        QCOMPARE(m_services.files().at(0).toObject().value(QLatin1String("sha256")).toString(),
-                 user.hash());
+        QVERIFY(user.hasArrived());
         // Only the piece in trouble was sent again.
         if (step != QLatin1String("start"))
             QCOMPARE(lengths(QStringLiteral("start")).size(), 1);
@@ -273,8 +270,7 @@ void ChunkedUploadTest::expiredTokenIsRenewed()
     QCOMPARE(course.starts, 1);
     QCOMPARE(m_services.problems().join(QLatin1Char('\n')), QString());
     QCOMPARE(lengths(QStringLiteral("start")).size(), step == QLatin1String("start") ? 2 : 1);
-    QCOMPARE(m_services.files().at(0).toObject().value(QLatin1String("sha256")).toString(),
-             user.hash());
+    QVERIFY(user.hasArrived());
     // The fresh tokens are the stored ones.
     const QString stored = user.load(QStringLiteral("db"));
     QVERIFY(stored.contains(QLatin1String("refresh_token")));

@@ -36,10 +36,49 @@ class UnavailableUploadTest : public QObject
 
 private slots:
     void initTestCase() { Theme::install(*qApp); }
-    void uploadSaysWhy_data();
-    void uploadSaysWhy();
-    void cancelEndsIt();
-    void buttonsSayWhy();
+    void uploadSaysWhy_data()
+    {
+        QTest::addColumn<QString>("service");
+        for (const char *service : {"youtube", "googledrive", "dropbox"})
+            QTest::newRow(service) << QString::fromLatin1(service);
+    }
+
+    // Nothing is configured either, but that is not what the user should try to change.
+    void uploadSaysWhy()
+    {
+        QFETCH(QString, service);
+        const QSignalSpy failed(&m_uploads, &UploadController::failed);
+        m_uploads.upload(service, QStringLiteral("a.mp4"), QStringLiteral("A"), nullptr);
+        QCOMPARE(failed.size(), 0);
+        QTRY_COMPARE(failed.size(), 1);
+        QCOMPARE(failed.at(0).at(0).toString(), kText);
+        QVERIFY(!m_uploads.isRunning());
+    }
+
+    void cancelEndsIt()
+    {
+        const QSignalSpy failed(&m_uploads, &UploadController::failed);
+        const QSignalSpy canceled(&m_uploads, &UploadController::canceled);
+        m_uploads.upload(QStringLiteral("youtube"), QStringLiteral("a.mp4"), QStringLiteral("A"),
+                         nullptr);
+        m_uploads.cancel();
+        QCoreApplication::processEvents();
+        QCOMPARE(canceled.size(), 1);
+        QCOMPARE(failed.size(), 0);
+    }
+
+    void buttonsSayWhy()
+    {
+        UnusedFileManager fileManager;
+        const FinalWindow window(m_folder.filePath(QStringLiteral("a.mp4")), fileManager);
+        for (const char *name : {"btnUploadYoutube", "btnUploadGoogleDrive", "btnUploadDropBox"})
+            QCOMPARE(window.findChild<QPushButton *>(QLatin1String(name))->toolTip(), kText);
+        const UploadServiceMenu menu;
+        const auto buttons = menu.findChildren<QPushButton *>();
+        QCOMPARE(buttons.size(), 3);
+        for (const QPushButton *button : buttons)
+            QCOMPARE(button->toolTip(), kText);
+    }
 
 private:
     QTemporaryDir m_folder;
@@ -47,50 +86,6 @@ private:
     UploadController m_uploads{ServicesConfig(), m_store,
                                createSecrets(m_folder.path(), SecretKeyPlace::File)};
 };
-
-void UnavailableUploadTest::uploadSaysWhy_data()
-{
-    QTest::addColumn<QString>("service");
-    for (const char *service : {"youtube", "googledrive", "dropbox"})
-        QTest::newRow(service) << QString::fromLatin1(service);
-}
-
-// Nothing is configured either, but that is not what the user should try to change.
-void UnavailableUploadTest::uploadSaysWhy()
-{
-    QFETCH(QString, service);
-    const QSignalSpy failed(&m_uploads, &UploadController::failed);
-    m_uploads.upload(service, QStringLiteral("a.mp4"), QStringLiteral("A"), nullptr);
-    QCOMPARE(failed.size(), 0);
-    QTRY_COMPARE(failed.size(), 1);
-    QCOMPARE(failed.at(0).at(0).toString(), kText);
-    QVERIFY(!m_uploads.isRunning());
-}
-
-void UnavailableUploadTest::cancelEndsIt()
-{
-    const QSignalSpy failed(&m_uploads, &UploadController::failed);
-    const QSignalSpy canceled(&m_uploads, &UploadController::canceled);
-    m_uploads.upload(QStringLiteral("youtube"), QStringLiteral("a.mp4"), QStringLiteral("A"),
-                     nullptr);
-    m_uploads.cancel();
-    QCoreApplication::processEvents();
-    QCOMPARE(canceled.size(), 1);
-    QCOMPARE(failed.size(), 0);
-}
-
-void UnavailableUploadTest::buttonsSayWhy()
-{
-    UnusedFileManager fileManager;
-    const FinalWindow window(m_folder.filePath(QStringLiteral("a.mp4")), fileManager);
-    for (const char *name : {"btnUploadYoutube", "btnUploadGoogleDrive", "btnUploadDropBox"})
-        QCOMPARE(window.findChild<QPushButton *>(QLatin1String(name))->toolTip(), kText);
-    const UploadServiceMenu menu;
-    const auto buttons = menu.findChildren<QPushButton *>();
-    QCOMPARE(buttons.size(), 3);
-    for (const QPushButton *button : buttons)
-        QCOMPARE(button->toolTip(), kText);
-}
 
 QTEST_MAIN(UnavailableUploadTest)
 #include "UnavailableUploadTest.moc"

@@ -29,14 +29,6 @@ template <typename Widget> Widget *child(QWidget &parent, const char *name)
     return parent.findChild<Widget *>(QLatin1String(name));
 }
 
-/// VELMORA_SCREENSHOTS names a folder for pictures of the dialogs.
-void keepPicture(QWidget &dialog, const QString &name)
-{
-    const QString folder = qEnvironmentVariable("VELMORA_SCREENSHOTS");
-    if (!folder.isEmpty())
-        dialog.grab().save(folder + QLatin1Char('/') + name + QStringLiteral(".png"));
-}
-
 } // namespace
 
 class UploadDialogsTest : public QObject
@@ -54,135 +46,121 @@ private slots:
             QDesktopServices::setUrlHandler(QLatin1String(scheme), this, "open");
     }
     void init() { m_opened.clear(); }
-    void successOpensThePage_data();
-    void successOpensThePage();
-    void onlyWebPagesAreOpened_data();
-    void onlyWebPagesAreOpened();
-    void failureShowsPlainText();
-    void signInEndsWithTheCode_data();
-    void signInEndsWithTheCode();
-    void closedSignInFails();
+    void successOpensThePage_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("youtube") << "Youtube";
+        QTest::newRow("googledrive") << "Google Drive";
+        QTest::newRow("dropbox") << "Dropbox";
+    }
+
+    void successOpensThePage()
+    {
+        QFETCH(QString, name);
+        const QString key = QString::fromLatin1(QTest::currentDataTag());
+        UploadSuccessWindow dialog(key, QStringLiteral("https://a.test/watch?v=a%20b"));
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("Uploading has been completed"));
+        QCOMPARE(
+            child<QLabel>(dialog, "lblText")->text(),
+            QStringLiteral("Congratulations! Your file upload to %1 was successful!").arg(name));
+        QCOMPARE(child<QPushButton>(dialog, "btnOpen")->text(), QStringLiteral("OPEN"));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+        QCOMPARE(m_opened, QStringList{QStringLiteral("https://a.test/watch?v=a%20b")});
+        QVERIFY(!dialog.isVisible());
+    }
+
+    void onlyWebPagesAreOpened_data()
+    {
+        QTest::addColumn<QString>("address");
+        for (const char *address :
+             {"", "file:///etc/passwd", "javascript:alert(1)", "https://", "nonsense"})
+            QTest::newRow(address) << QString::fromLatin1(address);
+    }
+
+    void onlyWebPagesAreOpened()
+    {
+        QFETCH(QString, address);
+        UploadSuccessWindow dialog(QStringLiteral("dropbox"), address);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QVERIFY(!child<QPushButton>(dialog, "btnOpen")->isVisible());
+        QTest::keyClick(&dialog, Qt::Key_Return);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(m_opened, QStringList());
+    }
+
+    void failureShowsPlainText()
+    {
+        const QString error = QStringLiteral("Error uploading video:<b>The user has exceeded the "
+                                             "number of videos they may upload.</b>");
+        UploadFailWindow dialog(error);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QCOMPARE(child<QLabel>(dialog, "lblTitle")->text(),
+                 QStringLiteral("Upload stopped with error"));
+        auto *label = child<QLabel>(dialog, "lblError");
+        QCOMPARE(label->text(), error);
+        QCOMPARE(label->textFormat(), Qt::PlainText);
+        QTest::mouseClick(child<QPushButton>(dialog, "btnClose"), Qt::LeftButton);
+        QVERIFY(!dialog.isVisible());
+    }
+
+    void signInEndsWithTheCode_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("address");
+        QTest::addColumn<QString>("code");
+        const char *rows[][3] = {{"Success code=4/abc", "", "4/abc"},
+                                 {"Account - Success code=x=y z", "", "x=y z"},
+                                 {"", "https://a.test/authorize_submit?x=1", ""}};
+        for (const auto &row : rows)
+            QTest::addRow("%s%s", row[0], row[1]) << row[0] << row[1] << row[2];
+    }
+
+    void signInEndsWithTheCode()
+    {
+        QFETCH(QString, title);
+        QFETCH(QString, address);
+        QFETCH(QString, code);
+        auto page = std::make_unique<FakePage>();
+        FakePage *shown = page.get();
+        WebLoginDialog dialog(std::move(page));
+        QSignalSpy authenticated(&dialog, &WebLoginDialog::authenticated);
+        QSignalSpy failed(&dialog, &WebLoginDialog::failed);
+        dialog.navigate(QUrl(QStringLiteral("https://a.test/sign-in")));
+        QCOMPARE(shown->visited, QUrl(QStringLiteral("https://a.test/sign-in")));
+        dialog.show();
+        emit shown->titleChanged(QStringLiteral("Sign in"));
+        emit shown->urlChanged(QStringLiteral("https://a.test/sign-in"));
+        QVERIFY(dialog.isVisible());
+        if (!title.isEmpty())
+            emit shown->titleChanged(title);
+        if (!address.isEmpty())
+            emit shown->urlChanged(address);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(authenticated.size(), 1);
+        QCOMPARE(authenticated.at(0).at(0).toString(), code);
+        QCOMPARE(failed.size(), 0);
+    }
+
+    void closedSignInFails()
+    {
+        WebLoginDialog dialog(std::make_unique<FakePage>());
+        QSignalSpy authenticated(&dialog, &WebLoginDialog::authenticated);
+        QSignalSpy failed(&dialog, &WebLoginDialog::failed);
+        dialog.show();
+        QTest::mouseClick(child<QToolButton>(dialog, "btnCloseTop"), Qt::LeftButton);
+        dialog.on_webView_titleChanged(QStringLiteral("Success code=late"));
+        QCOMPARE(failed.size(), 1);
+        QCOMPARE(failed.at(0).at(0).toString(), QStringLiteral("Authorization error"));
+        QCOMPARE(authenticated.size(), 0);
+    }
 
 private:
     QStringList m_opened;
 };
-
-void UploadDialogsTest::successOpensThePage_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("youtube") << "Youtube";
-    QTest::newRow("googledrive") << "Google Drive";
-    QTest::newRow("dropbox") << "Dropbox";
-}
-
-void UploadDialogsTest::successOpensThePage()
-{
-    QFETCH(QString, name);
-    const QString key = QString::fromLatin1(QTest::currentDataTag());
-    UploadSuccessWindow dialog(key, QStringLiteral("https://a.test/watch?v=a%20b"));
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    keepPicture(dialog, QStringLiteral("upload-success-") + key);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Uploading has been completed"));
-    QCOMPARE(child<QLabel>(dialog, "lblText")->text(),
-             QStringLiteral("Congratulations! Your file upload to %1 was successful!").arg(name));
-    QCOMPARE(child<QPushButton>(dialog, "btnOpen")->text(), QStringLiteral("OPEN"));
-    QTest::keyClick(&dialog, Qt::Key_Return);
-    QCOMPARE(m_opened, QStringList{QStringLiteral("https://a.test/watch?v=a%20b")});
-    QVERIFY(!dialog.isVisible());
-}
-
-void UploadDialogsTest::onlyWebPagesAreOpened_data()
-{
-    QTest::addColumn<QString>("address");
-    for (const char *address :
-         {"", "file:///etc/passwd", "javascript:alert(1)", "https://", "nonsense"})
-        QTest::newRow(address) << QString::fromLatin1(address);
-}
-
-void UploadDialogsTest::onlyWebPagesAreOpened()
-{
-    QFETCH(QString, address);
-    UploadSuccessWindow dialog(QStringLiteral("dropbox"), address);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    QVERIFY(!child<QPushButton>(dialog, "btnOpen")->isVisible());
-    QTest::keyClick(&dialog, Qt::Key_Return);
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(m_opened, QStringList());
-}
-
-void UploadDialogsTest::failureShowsPlainText()
-{
-    const QString error = QStringLiteral(
-        "Error uploading video:<b>The user has exceeded the number of videos they may upload.</b>");
-    UploadFailWindow dialog(error);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    keepPicture(dialog, QStringLiteral("upload-fail"));
-    QCOMPARE(child<QLabel>(dialog, "lblTitle")->text(),
-             QStringLiteral("Upload stopped with error"));
-    auto *label = child<QLabel>(dialog, "lblError");
-    QCOMPARE(label->text(), error);
-    QCOMPARE(label->textFormat(), Qt::PlainText);
-    QTest::mouseClick(child<QPushButton>(dialog, "btnClose"), Qt::LeftButton);
-    QVERIFY(!dialog.isVisible());
-}
-
-void UploadDialogsTest::signInEndsWithTheCode_data()
-{
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("address");
-    QTest::addColumn<QString>("code");
-    QTest::newRow("title") << "Success code=4/abc"
-                           << ""
-                           << "4/abc";
-    QTest::newRow("title with more before") << "Account - Success code=x=y z"
-                                            << ""
-                                            << "x=y z";
-    QTest::newRow("address") << ""
-                             << "https://a.test/authorize_submit?x=1"
-                             << "";
-}
-
-void UploadDialogsTest::signInEndsWithTheCode()
-{
-    QFETCH(QString, title);
-    QFETCH(QString, address);
-    QFETCH(QString, code);
-    auto page = std::make_unique<FakePage>();
-    FakePage *shown = page.get();
-    WebLoginDialog dialog(std::move(page));
-    QSignalSpy authenticated(&dialog, &WebLoginDialog::authenticated);
-    QSignalSpy failed(&dialog, &WebLoginDialog::failed);
-    dialog.navigate(QUrl(QStringLiteral("https://a.test/sign-in")));
-    QCOMPARE(shown->visited, QUrl(QStringLiteral("https://a.test/sign-in")));
-    dialog.show();
-    emit shown->titleChanged(QStringLiteral("Sign in"));
-    emit shown->urlChanged(QStringLiteral("https://a.test/sign-in"));
-    QVERIFY(dialog.isVisible());
-    if (!title.isEmpty())
-        emit shown->titleChanged(title);
-    if (!address.isEmpty())
-        emit shown->urlChanged(address);
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(authenticated.size(), 1);
-    QCOMPARE(authenticated.at(0).at(0).toString(), code);
-    QCOMPARE(failed.size(), 0);
-}
-
-void UploadDialogsTest::closedSignInFails()
-{
-    WebLoginDialog dialog(std::make_unique<FakePage>());
-    QSignalSpy authenticated(&dialog, &WebLoginDialog::authenticated);
-    QSignalSpy failed(&dialog, &WebLoginDialog::failed);
-    dialog.show();
-    QTest::mouseClick(child<QToolButton>(dialog, "btnCloseTop"), Qt::LeftButton);
-    dialog.on_webView_titleChanged(QStringLiteral("Success code=late"));
-    QCOMPARE(failed.size(), 1);
-    QCOMPARE(failed.at(0).at(0).toString(), QStringLiteral("Authorization error"));
-    QCOMPARE(authenticated.size(), 0);
-}
 
 QTEST_MAIN(UploadDialogsTest)
 #include "UploadDialogsTest.moc"

@@ -64,8 +64,13 @@ public:
             qFatal("Cannot write the test's video");
         return file.fileName();
     }
-    /// SHA-256 of the last video().
-    QString hash() const { return QString::fromLatin1(m_hash); }
+    /// Whether the services have the last video(), whole and once.
+    bool hasArrived() const
+    {
+        const QJsonArray files = m_services.files();
+        return files.size() == 1 &&
+               files.at(0).toObject().value(QLatin1String("sha256")) == QString::fromLatin1(m_hash);
+    }
 
     /// As if the user had signed in before.
     void grant(const QString &service, const QString &key)

@@ -40,12 +40,20 @@ LoopbackServer::Reply LoopbackReplyHandler::onRequest(const CallbackRequest &req
     // A browser may ask for the page again, and a code is good for one exchange only.
     if (!m_decided) {
         m_decided = true;
-        if (granted)
-            emit callbackReceived(request.values);
-        else
-            emit denied();
+        // Later, since a dialog that tells the user of it would hold up the browser's answer.
+        QMetaObject::invokeMethod(
+            this, [this, granted, values = request.values] { tell(granted, values); },
+            Qt::QueuedConnection);
     }
     return {200, callbackText()};
+}
+
+void LoopbackReplyHandler::tell(bool granted, const QVariantMap &values)
+{
+    if (granted)
+        emit callbackReceived(values);
+    else
+        emit denied();
 }
 
 void LoopbackReplyHandler::acceptCode(const QString &code)

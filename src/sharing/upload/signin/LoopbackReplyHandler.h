@@ -46,6 +46,7 @@ protected:
 
 private:
     LoopbackServer::Reply onRequest(const CallbackRequest &request);
+    void tell(bool granted, const QVariantMap &values);
 
     const quint16 m_port;
     QString m_state;
