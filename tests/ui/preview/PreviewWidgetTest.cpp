@@ -363,7 +363,8 @@ void PreviewWidgetTest::endsWhilePlaying()
     m_widget->playFull();
     QTRY_VERIFY(player()->position() > 0);
     m_widget.reset();
-    QTRY_COMPARE(threads(), before);
+    // Threads of pools may have ended besides.
+    QTRY_VERIFY(threads() <= before);
 }
 
 QTEST_MAIN(PreviewWidgetTest)
