@@ -2,6 +2,7 @@
 #include "ui/main/ProjectDocument.h"
 
 #include "app/AppSettings.h"
+#include "generator/pipeline/OutputTarget.h"
 #include "project/documents/ProjectFile.h"
 #include "ui/editor/MainWindowWidget.h"
 
@@ -52,6 +53,9 @@ void ProjectDocument::begin()
 void ProjectDocument::replace(std::unique_ptr<ProjectFile> project, const QString &path,
                               bool modified)
 {
+    // The render would take another container than the name that the user is asked about.
+    if (project && !OutputTarget::knownSuffixes().contains(project->format()))
+        project->setFormat(QStringLiteral("mkv"));
     m_page.setProject(project.get());
     m_project.swap(project);
     m_path = path;

@@ -4,6 +4,7 @@
 #include "platform/ShortcutResolver.h"
 #include "project/documents/MediaSuffixes.h"
 #include "project/images/ImageLoader.h"
+#include "ui/UiLog.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -53,6 +54,8 @@ void PhotoImporter::search(const QStringList &paths)
         if (m_cancelled)
             return;
         const QString target = resolveShortcut(path);
+        if (target != path)
+            qCDebug(lcUi) << "File" << path << "is shortcut";
         if (target.isEmpty() || !QFileInfo::exists(target))
             m_import.refused.append({path, tr("does not exist")});
         else if (QFileInfo(target).isDir())

@@ -5,6 +5,7 @@
 #include "project/documents/ProjectFile.h"
 #include "project/slides/ProjectItemFirst.h"
 #include "project/slides/ProjectItemSimple.h"
+#include "ui/UiLog.h"
 #include "ui/model/ProjectStateCommand.h"
 #include "ui/model/SlideListCommand.h"
 #include "ui/model/SlideStatesCommand.h"
@@ -178,6 +179,10 @@ void ProjectEditor::moveSlides(const Slides &slides, int row)
         else
             (i < row ? head : tail).append(slide);
     }
+    for (ProjectItem *slide : qAsConst(moved))
+        qCDebug(lcUi) << "move item" << slide->title() << "from" << before.indexOf(slide) << "after"
+                      << before.indexOf(head.isEmpty() ? nullptr : head.constLast()) << "before"
+                      << before.indexOf(tail.isEmpty() ? nullptr : tail.constFirst());
     d->setSlides(head + moved + tail, QT_TR_NOOP("Move slides"));
 }
 

@@ -78,6 +78,7 @@ private slots:
     {
         ProjectFile document(m->settings, ProjectFile::TitleSlide::Create);
         document.addFiles({m->makePhoto(QStringLiteral("a.png"))}, 3, 1);
+        document.setFormat(QStringLiteral("mpg")); // which no render makes
         const QString path = m->folder.filePath(QStringLiteral("Holiday 2026.json"));
         QVERIFY(document.saveToFile(path));
         m->chooseFiles({path});
@@ -85,6 +86,7 @@ private slots:
         QCOMPARE(m->view->page(), MainView::Editor);
         QCOMPARE(m->view->windowTitle(), QStringLiteral("Holiday 2026[*] \u2013 Corvel Velmora"));
         QVERIFY(!m->view->isWindowModified());
+        QCOMPARE(m->view->document().project()->format(), QStringLiteral("mkv"));
         m->view->editorPage().editor().addPhotos({m->makePhoto(QStringLiteral("b.png"))}, -1);
         QVERIFY(m->view->isWindowModified());
         m->press(Qt::Key_S, Qt::ControlModifier);
