@@ -15,15 +15,24 @@ set -Eeuo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
 format=no asan=no tsan=no fuzz=0 windows=no only=.
-# The whole under Wine takes too long for every change: these show what differs on Windows.
+# The whole under Wine takes too long for every change: these show what differs on Windows, or are
+# quick. Known to fail under Wine: DocumentsTest, for which Qt's own window for saving stays open,
+# and LanguagesTest, as texts are some pixels wider there.
 windows_tests=(
-    AppSettingsTest CacheSweeperTest ComposerTest ConcatListTest CrashDumpTest
-    CrashReporterTest CreateVideoTest DiscSessionTest DiscWriterTest EncoderLocatorTest ExifReaderTest
-    FrameWriterTest HistoryStoreTest ImageCheckTest ImageLoaderTest LogTest
-    MakeProjectTest OutputTargetTest ProcessTreeTest ProjectFileTest ProjectSlidesTest
-    SecretsTest ServicesConfigTest SessionKeyTest SessionValuesTest ShortcutResolverTest
-    SingleInstanceTest StandardOutputTest SystemInfoTest TerminationWatcherTest
-    ToolRunnerTest VelmoraStartTest VelmoratoolTest WindowsBurnTest WorkerTest
+    AppSettingsTest AudioCommandsTest AudioFilesControllerTest BrowserPageTest CacheSweeperTest
+    CaptionPainterTest CardTest ComposerTest ConcatListTest CrashDumpTest CrashReporterTest
+    CreateVideoTest DiscSessionTest DiscWriterTest DropAreaTest EncoderCommandsTest
+    EncoderLocatorTest EncoderOptionsTest EncoderProgressTest ExifReaderTest FadeComposerTest
+    FileManagerTest FirstRunTest FrameFitterTest FrameWriterTest HistoryStoreTest ImageCheckTest
+    ImageLoaderTest InputCheckTest LogTest MakeOptionsTest MakeProjectTest MediaSuffixesTest
+    OutputTargetTest ProcessTreeTest ProgressTest ProgressTextTest ProjectFileTest
+    ProjectSlidesTest RemainingTimeTest RenderPlanTest SecretMaskTest SecretsTest
+    ServicesConfigTest SessionKeyTest SessionValuesTest ShortcutResolverTest SingleInstanceTest
+    SlideRendererTest SlideTableModelTest SlideTransitionTest SlidesTest SoundCheckerTest
+    SoundPlanTest StandardOutputTest StartMessageTest SystemInfoTest TerminationWatcherTest
+    ThubnailProviderTest TileGridTest TimelineTest TitleBackgroundTest ToolRunnerTest
+    TransitionTest TransitionTypeTest TranslationsTest VelmoraStartTest VelmoratoolTest
+    WavWriterTest WindowsBurnTest WorkerProtocolTest WorkerTest
 )
 sdk=${VELMORA_WINDOWS_SDK_ARCHIVE:-../shared/windows/velmora-windows-sdk.tar.xz}
 usage() { sed -n 's/^#   //p' "$0"; }

@@ -70,6 +70,7 @@ private:
     std::unique_ptr<EditorPage> m;
 
 private slots:
+    void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     void init()
     {
         m = std::make_unique<EditorPage>();

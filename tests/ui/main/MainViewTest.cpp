@@ -79,8 +79,9 @@ private slots:
     void droppedFilesBecomeOneBatch()
     {
         const QStringList files = {m->makePhoto(QStringLiteral("b.png")),
-                                   m->makePhoto(QStringLiteral("a.tif")),
+                                   m->folder.filePath(QStringLiteral("a.tif")),
                                    m->makePhoto(QStringLiteral("c.jpg"))};
+        QVERIFY(QFile::copy(files.at(0), files.at(1))); // Not every Qt writes TIFF.
         dropOnStartPage(files);
         QCOMPARE(m->view->page(), MainView::Editor);
         QTRY_COMPARE(m->photos(), QStringList({QStringLiteral("b.png"), QStringLiteral("a.tif"),
@@ -105,7 +106,8 @@ private slots:
     {
         QFETCH(bool, fromHistory);
         QFETCH(bool, cancelled);
-        m->store->setValue(QStringLiteral("last_open_folder"), QStringLiteral("/usr"));
+        const QString last = QDir::rootPath();
+        m->store->setValue(QStringLiteral("last_open_folder"), last);
         QStringList files;
         if (!cancelled)
             files = QStringList{m->makePhoto(QStringLiteral("a.png")),
@@ -117,10 +119,10 @@ private slots:
         QCOMPARE(m->dialogs.title(), QStringLiteral("Open File"));
         QCOMPARE(m->dialogFilters,
                  QStringList(QStringLiteral("Images (*.png *.jpg *.jpeg *.bmp *.gif)")));
-        QCOMPARE(m->dialogFolder, QStringLiteral("/usr"));
+        QCOMPARE(m->dialogFolder, last);
         QCOMPARE(m->view->page(), fromHistory || !cancelled ? MainView::Editor : MainView::Start);
         QCOMPARE(m->store->value(QStringLiteral("last_open_folder")).toString(),
-                 cancelled ? QStringLiteral("/usr") : m->folder.path());
+                 cancelled ? last : m->folder.path());
         if (!cancelled)
             QTRY_COMPARE(m->photos().size(), 2);
     }
