@@ -21,6 +21,7 @@ build_packages=(
     libsodium-dev
     libswresample-dev
     libturbojpeg0-dev
+    libxcb1-dev
     ninja-build
     pkg-config
     qtbase5-dev
@@ -47,8 +48,10 @@ run_packages=(
 test_packages=(
     dbus
     groff-base
+    openbox
     openssl
     python3
+    xdotool
     xorriso
     xvfb
 )

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/ResizeHandle.h"
 
+#include "chrome/SystemDrag.h"
+
 #include <QMouseEvent>
 #include <QPair>
-#include <QWindow>
 
 namespace velmora
 {
@@ -72,9 +73,8 @@ Qt::CursorShape ResizeHandle::cursorShape(Qt::Edges edges)
 
 void ResizeHandle::mousePressEvent(QMouseEvent *event)
 {
-    QWindow *handle = window()->windowHandle();
-    if (event->button() == Qt::LeftButton && handle)
-        handle->startSystemResize(m_edges);
+    if (event->button() == Qt::LeftButton)
+        SystemDrag::resize(*window(), m_edges);
 }
 
 } // namespace velmora

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/TitleBar.h"
 
+#include "chrome/SystemDrag.h"
 #include "chrome/Theme.h"
 
 #include <QApplication>
@@ -9,7 +10,6 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QToolButton>
-#include <QWindow>
 
 namespace velmora
 {
@@ -152,18 +152,21 @@ bool TitleBar::eventFilter(QObject *watched, QEvent *event)
 void TitleBar::mousePressEvent(QMouseEvent *event)
 {
     m_dragging = event->button() == Qt::LeftButton;
-    m_pressed = event->pos();
+    m_pressed = event->globalPos();
+    m_windowStart = window()->pos();
 }
 
 void TitleBar::mouseMoveEvent(QMouseEvent *event)
 {
+    const QPoint way = event->globalPos() - m_pressed;
+    m_dragging = m_dragging && event->buttons().testFlag(Qt::LeftButton);
     // Only a real movement starts the move, or the window system would swallow double clicks.
-    if (!m_dragging ||
-        (event->pos() - m_pressed).manhattanLength() < QApplication::startDragDistance())
+    if (!m_dragging || way.manhattanLength() < QApplication::startDragDistance())
         return;
-    m_dragging = false;
-    if (QWindow *handle = window()->windowHandle())
-        handle->startSystemMove();
+    if (SystemDrag::move(*window()))
+        m_dragging = false;
+    else if (!window()->isMaximized())
+        window()->move(m_windowStart + way);
 }
 
 void TitleBar::mouseReleaseEvent(QMouseEvent *)

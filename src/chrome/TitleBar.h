@@ -55,7 +55,8 @@ private:
     QToolButton *m_minimise = nullptr;
     QToolButton *m_maximise = nullptr;
     QToolButton *m_close = nullptr;
-    QPoint m_pressed;
+    QPoint m_pressed; ///< On the screen.
+    QPoint m_windowStart;
     bool m_dragging = false;
 };
 

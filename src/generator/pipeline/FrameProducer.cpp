@@ -126,7 +126,7 @@ bool FrameProducer::paint(FramePainter &painter, const Picture &picture)
         slideDone = --m_unpainted[order] == 0;
         m_changed.notify_all();
     }
-    m_reports.painted();
+    m_reports.painted(m_plan.slides().at(order).stages.at(stage).paintingWork());
     if (slideDone) {
         m_frames.paintingDone(order);
         m_reports.slidePainted(order);

@@ -29,7 +29,7 @@ public:
 
     /// Called from any painting thread.
     struct Reports {
-        std::function<void()> painted;               ///< One picture.
+        std::function<void(qint64 work)> painted;    ///< One picture.
         std::function<void(int order)> slidePainted; ///< The last picture of a slide.
         std::function<void(const RenderError &error)> failed;
     };

@@ -32,10 +32,7 @@ constexpr unsigned long kPollInterval = 100; // ms
 constexpr unsigned long kSoundPoll = 300;    // ms
 constexpr qint64 kStallWarning = 60000;      // ms
 
-// The work besides painting and encoding, as parts of the frame count.
-constexpr int kJoinPart = 50;
-constexpr int kSoundPart = 50;
-constexpr int kMultiplexPart = 20;
+constexpr int kEndPart = 100; // Joining, sound and multiplexing take such a part of the rest each.
 
 } // namespace
 
@@ -95,8 +92,7 @@ bool GeneratorThread::render()
     m_plan = RenderPlan::make(m_project, m_settings.timeline, std::rand);
     m_frames = std::make_unique<SlideFrames>(
         m_plan, FrameFormat{m_context.size, m_project.origRatio(), m_project.scaleToFit()});
-    m_progress.reset(m_plan.totalPictures() + m_plan.totalFrames() + shareOfFrames(kJoinPart) +
-                     shareOfFrames(kSoundPart) + shareOfFrames(kMultiplexPart));
+    m_progress.reset(m_plan.totalWork() + 3 * workOfEndStep());
     recordStart();
     enterStep(FrameRendering);
     startSound();
@@ -114,7 +110,7 @@ void GeneratorThread::startSound()
 bool GeneratorThread::encodeSlides()
 {
     FrameProducer producer(m_plan, *m_frames, m_context, m_paused,
-                           {[this] { reportProgress(1); },
+                           {[this](qint64 work) { reportProgress(work); },
                             [this](int order) { reportSlidePainted(order); },
                             [this](const RenderError &error) { fail(error); }});
     producer.start();
@@ -160,7 +156,7 @@ bool GeneratorThread::joinSlides()
     }
     for (const QString &segment : qAsConst(segments))
         QFile::remove(segment);
-    reportProgress(shareOfFrames(kJoinPart));
+    reportProgress(workOfEndStep());
     return true;
 }
 
@@ -169,7 +165,7 @@ bool GeneratorThread::waitForSound()
     enterStep(Sound);
     while (m_soundThread && m_soundThread->isRunning())
         m_soundThread->wait(kSoundPoll);
-    reportProgress(shareOfFrames(kSoundPart));
+    reportProgress(workOfEndStep());
     return !m_context.cancelled;
 }
 
@@ -178,7 +174,7 @@ bool GeneratorThread::multiplex()
     waitWhilePaused();
     enterStep(Multiplexing);
     m_cache.noteOutput(m_target.temporaryFile());
-    const qint64 share = shareOfFrames(kMultiplexPart);
+    const qint64 share = workOfEndStep();
     const QString total = videoFile(QStringLiteral("vid_c_total"));
     VideoUtil util(m_context);
     m_progress.beginRun(share, m_plan.totalLength());
@@ -250,9 +246,9 @@ void GeneratorThread::recordStart() const
     });
 }
 
-qint64 GeneratorThread::shareOfFrames(int part) const
+qint64 GeneratorThread::workOfEndStep() const
 {
-    return m_plan.totalFrames() / part + 1;
+    return m_plan.totalWork() / kEndPart + 1;
 }
 
 QString GeneratorThread::videoFile(const QString &name) const

@@ -93,7 +93,7 @@ private:
     bool multiplex();
     void conclude(bool done);
     void recordStart() const;
-    qint64 shareOfFrames(int part) const;
+    qint64 workOfEndStep() const; ///< Of joining, sound and multiplexing each.
 
     // For the tasks, from their threads.
     QString videoFile(const QString &name) const;

@@ -8,8 +8,8 @@
 namespace velmora
 {
 
-/// Counts the work of a render: every frame painted and every frame encoded is one unit, joins,
-/// sound and multiplexing weigh a share of the frames. Never goes back. Thread-safe.
+/// Counts the work of a render, in the unit of RenderPlan::totalWork(). Never goes back.
+/// Thread-safe.
 class Progress
 {
 public:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/RenderPlan.h"
 
+#include "generator/transitions/Fade.h"
 #include "project/documents/ProjectFile.h"
 #include "project/slides/ProjectItemSimple.h"
 
@@ -9,6 +10,14 @@ namespace velmora
 
 namespace
 {
+
+// Measured in both profiles at 640x360 and at 1920x1080.
+constexpr int kStillPicture = 20; // Reading and fitting a photo.
+constexpr int kFadePicture = 2;
+constexpr int kOtherPicture = 4;
+constexpr int kEncoderStart = 20;
+constexpr int kStillFrame = 1;
+constexpr int kMovingFrame = 3;
 
 /// A title slide further on in the video has no transition of its own.
 int storedTransition(const ProjectItem &item)
@@ -30,6 +39,18 @@ TransitionType resolve(int stored, TransitionType previous, const RenderPlan::Ra
 }
 
 } // namespace
+
+qint64 PlannedStage::paintingWork() const
+{
+    if (pictures == 1)
+        return kStillPicture;
+    return fadeAt(effect, {1, stage.frameCount}) ? kFadePicture : kOtherPicture;
+}
+
+qint64 PlannedStage::encodingWork() const
+{
+    return kEncoderStart + stage.frameCount * (pictures == 1 ? kStillFrame : kMovingFrame);
+}
 
 QString PlannedStage::prefix() const
 {
@@ -113,11 +134,13 @@ RenderPlan RenderPlan::make(const ProjectFile &project, const Timeline &timeline
     return plan;
 }
 
-qint64 RenderPlan::totalPictures() const
+qint64 RenderPlan::totalWork() const
 {
     qint64 sum = 0;
-    for (const PlannedSlide &slide : m_slides)
-        sum += slide.pictures();
+    for (const PlannedSlide &slide : m_slides) {
+        for (const PlannedStage &stage : slide.stages)
+            sum += stage.pictures * stage.paintingWork() + stage.encodingWork();
+    }
     return sum;
 }
 

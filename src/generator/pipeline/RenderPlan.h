@@ -21,9 +21,12 @@ struct PlannedStage {
     TransitionType effect = TransitionType::None; ///< Never Random; None for stills.
     int pictures = 1; ///< Frame files of the stage: one where all its frames are alike.
 
-    QString prefix() const;     ///< "_p3": names the stage's frame files.
-    QString paintText() const;  ///< Logged when its frames are begun.
-    QString encodeText() const; ///< Logged when its segment is begun.
+    /// The work of painting one of its pictures, in the unit of RenderPlan::totalWork().
+    qint64 paintingWork() const;
+    qint64 encodingWork() const; ///< The same for encoding the whole stage.
+    QString prefix() const;      ///< "_p3": names the stage's frame files.
+    QString paintText() const;   ///< Logged when its frames are begun.
+    QString encodeText() const;  ///< Logged when its segment is begun.
 };
 
 /// One shown slide: its stages in order and how its transition was chosen.
@@ -57,7 +60,9 @@ public:
     const QVector<PlannedSlide> &slides() const { return m_slides; }
     qint64 totalLength() const { return m_totalLength; } ///< ms
     qint64 totalFrames() const { return m_totalFrames; }
-    qint64 totalPictures() const;
+    /// The work of painting and encoding all stages; one unit takes about as long as encoding one
+    /// frame of a still.
+    qint64 totalWork() const;
 
 private:
     QVector<PlannedSlide> m_slides;

@@ -53,13 +53,13 @@ bool GeneratorThread::VideoConverterTask::encodeStage(int stage, VideoUtil &util
 {
     const PlannedStage &planned = m_slide.stages.at(stage);
     const qint64 length = planned.stage.length;
-    const int frames = planned.stage.frameCount;
+    const qint64 work = planned.encodingWork();
     qCInfo(generatorLog).noquote() << planned.encodeText();
     m_generator.enterStep(SegmentEncoding);
-    m_generator.m_progress.beginRun(frames, length);
+    m_generator.m_progress.beginRun(work, length);
     const bool done = util.encodeSegment(planned.prefix(), planned.pictures, length,
                                          segmentFile(planned.stage.prefix()));
-    m_generator.m_progress.endRun(frames);
+    m_generator.m_progress.endRun(work);
     util.removeFrames(planned.prefix(), planned.pictures);
     if (!done) {
         m_generator.failWithTool(util);

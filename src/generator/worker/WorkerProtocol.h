@@ -13,8 +13,8 @@ namespace velmora
 struct WorkerMessage {
     enum class Kind { Invalid, Progress, Stage, Finished, Failed, Cancelled };
     Kind kind = Kind::Invalid;
-    qint64 frame = 0; ///< Progress: frames done ...
-    qint64 count = 0; ///< ... of all frames.
+    qint64 frame = 0; ///< Progress: work done, weighed in frames ...
+    qint64 count = 0; ///< ... of all work.
     QString stage;    ///< Stage: its name.
     QString fileName; ///< Finished: the video.
     RenderError error;
