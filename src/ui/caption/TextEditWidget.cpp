@@ -274,6 +274,27 @@ ProjectEditor::Slides TextEditWidget::styledSlides() const
     return slides;
 }
 
+TextEditWidget::Edits TextEditWidget::edits() const
+{
+    if (!isEdited())
+        return {};
+    Edits edits;
+    const bool allPhotos = m_item == m_sharedStyle && !isTitle();
+    const ProjectEditor::Slides slides = allPhotos ? styledSlides() : ProjectEditor::Slides{m_item};
+    for (ProjectItem *slide : slides) {
+        SlideState state = SlideState::of(*slide);
+        const QString text = state.caption.text;
+        state.caption = caption();
+        state.caption.changed = true;
+        if (allPhotos)
+            state.caption.text = text;
+        else if (isTitle() && m_ui->frameStarterBg->background() >= 0)
+            state.backgroundIndex = m_ui->frameStarterBg->background();
+        edits.append({slide, state});
+    }
+    return edits;
+}
+
 void TextEditWidget::save()
 {
     if (!m_item || !m_editor.project())

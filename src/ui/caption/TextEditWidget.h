@@ -3,7 +3,9 @@
 
 #include "project/slides/CaptionStyle.h"
 #include "ui/model/ProjectEditor.h"
+#include "ui/model/SlideState.h"
 
+#include <QPair>
 #include <QWidget>
 
 #include <memory>
@@ -34,6 +36,9 @@ public:
     ProjectItem *item() const { return m_item; }
     /// Whether there are changes that save() would write.
     bool isEdited() const;
+    using Edits = QVector<QPair<ProjectItem *, SlideState>>;
+    /// What save() would make of slides; empty without changes.
+    Edits edits() const;
 
 signals:
     void editedChanged(bool edited); ///< isEdited() has changed.

@@ -215,6 +215,20 @@ void MainWindowWidget::saveText()
         m_text->save();
 }
 
+void MainWindowWidget::toJson(QJsonObject &document) const
+{
+    // The slides have it for this moment only, so that nobody needs to be told.
+    const TextEditWidget::Edits edits = m_text->edits();
+    QVector<SlideState> before;
+    for (const auto &edit : edits) {
+        before.append(SlideState::of(*edit.first));
+        edit.second.applyTo(*edit.first);
+    }
+    m_editor.project()->toJson(document);
+    for (int i = 0; i < edits.size(); ++i)
+        before.at(i).applyTo(*edits.at(i).first);
+}
+
 void MainWindowWidget::editCaption(ProjectItem *slide)
 {
     if (!slide || isGenerating())

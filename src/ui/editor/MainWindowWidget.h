@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class QAction;
+class QJsonObject;
 class QStackedWidget;
 
 namespace velmora
@@ -47,6 +48,8 @@ public:
     void focusSlides();
     /// Takes these changes over into the project and leaves the caption.
     void saveText();
+    /// The open project as saveText() would leave it.
+    void toJson(QJsonObject &document) const;
 
 signals:
     void progressStarted();

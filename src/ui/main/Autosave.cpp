@@ -94,11 +94,13 @@ Autosave::Found Autosave::find(const AppSettings &settings) const
 
 void Autosave::saveNow()
 {
-    if (!m_changed || !m_lock.isLocked() || !m_document.isModified())
+    // What is typed into a caption is not told.
+    const bool changed = m_changed || m_document.hasUnsavedText();
+    if (!changed || !m_lock.isLocked() || !m_document.isModified())
         return;
     m_changed = false;
     QJsonObject project;
-    m_document.project()->toJson(project);
+    m_document.toJson(project);
     const QJsonObject content = {{kPath, m_document.path()}, {kProject, project}};
     QtConcurrent::run(&m_writer, [this, content] {
         // The next look tries again.

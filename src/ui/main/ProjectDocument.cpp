@@ -32,6 +32,16 @@ bool ProjectDocument::isModified() const
     return m_project && (m_fileDiffers || m_page.editor().isModified() || m_page.hasUnsavedText());
 }
 
+bool ProjectDocument::hasUnsavedText() const
+{
+    return m_page.hasUnsavedText();
+}
+
+void ProjectDocument::toJson(QJsonObject &document) const
+{
+    m_page.toJson(document);
+}
+
 QString ProjectDocument::displayName() const
 {
     if (!m_project)

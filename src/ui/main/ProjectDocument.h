@@ -6,6 +6,8 @@
 
 #include <memory>
 
+class QJsonObject;
+
 namespace velmora
 {
 
@@ -27,6 +29,9 @@ public:
     const QString &path() const { return m_path; }           ///< Empty: never saved.
     /// Whether closing it would lose something, be it only a caption that is being edited.
     bool isModified() const;
+    bool hasUnsavedText() const; ///< Whether a caption is being edited and differs.
+    /// The open project, with such a caption.
+    void toJson(QJsonObject &document) const;
     /// What the window calls it: its file's name, otherwise the project's. Empty without one.
     QString displayName() const;
 

@@ -2,6 +2,10 @@
 #include "ui/main/Autosave.h"
 #include "ui/main/MainViewFixture.h"
 
+#include <QAction>
+#include <QStackedWidget>
+#include <QTextEdit>
+
 #include <atomic>
 
 using namespace velmora;
@@ -108,6 +112,24 @@ private slots:
         m->view->offerRestore();
         QCOMPARE(m->view->page(), MainView::Start);
         QTRY_VERIFY(!QFile::exists(fileName()));
+    }
+
+    void editedCaptionIsKept()
+    {
+        m->show();
+        m->view->document().begin();
+        m->child<QStackedWidget>("pages")->setCurrentIndex(MainView::Editor);
+        m->child<QAction>("actCaptionOfAll")->trigger();
+        QTest::keyClicks(m->child<QTextEdit>("teProjectItemText"), QStringLiteral("Sylt"));
+        QTRY_VERIFY(QFile::exists(fileName()));
+        const auto caption = [this] {
+            return m->view->document().project()->items().first()->caption().text;
+        };
+        QVERIFY(!caption().endsWith(QLatin1String("Sylt")));
+        m->show();
+        m->dialogs.press(QStringLiteral("RESTORE"));
+        m->view->offerRestore();
+        QVERIFY(caption().endsWith(QLatin1String("Sylt")));
     }
 
     void failedWriteIsTriedAgain()

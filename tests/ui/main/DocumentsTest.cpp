@@ -150,6 +150,7 @@ private slots:
         QVERIFY(document.saveToFile(path));
         m->dialogs.expect([this, path](QDialog *dialog) {
             m->view->openFiles({path});
+            QCOMPARE(m->view->document().path(), QString());
             dialog->findChild<QLineEdit *>()->setText(QStringLiteral("Old"));
             dialog->accept();
         });
