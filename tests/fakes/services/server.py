@@ -76,10 +76,11 @@ class Handler(BaseHTTPRequestHandler):
             answer = self.answer_step()
         except Wrong as wrong:
             model.problem("%s: %s" % (self.step, wrong))
-            for _ in self.body.pieces():
-                pass
             answer = as_json(400, {"error": {"message": "The request is wrong: %s" % wrong},
                                    "error_summary": str(wrong)})
+        # A client that still sends would lose the answer with the connection.
+        for _ in self.body.pieces():
+            pass
         if action and action.get("drop") == "answer":
             self.cut()
             return

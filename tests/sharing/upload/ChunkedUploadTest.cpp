@@ -261,9 +261,13 @@ void ChunkedUploadTest::expiredTokenIsRenewed()
             {QStringLiteral("access_token"), tokens.value(QLatin1String("access_token"))}};
         user.save(QStringLiteral("db"), QString::fromUtf8(QJsonDocument(access).toJson()));
     }
-    m_services.fail(
-        step, FakeServices::action(
-                  R"({"status": 401, "body": "{\"error_summary\": \"expired_access_token/\"}"})"));
+    if (step == QLatin1String("start"))
+        m_services.control({{QStringLiteral("expire"), true}});
+    else
+        m_services.fail(
+            step,
+            FakeServices::action(
+                R"({"status": 401, "body": "{\"error_summary\": \"expired_access_token/\"}"})"));
     const UploadCourse course = user.run(kService, user.video(kLarge));
     QCOMPARE(course.failed.join(QString()), QString());
     QCOMPARE(course.signIns, refreshes ? 0 : 1);
