@@ -3,6 +3,8 @@
 #include "ui/editor/BusyNote.h"
 #include "ui/editor/EditorPage.h"
 
+#include "helpers/OrdinaryUser.h"
+
 #include <QElapsedTimer>
 #include <QUndoStack>
 
@@ -76,17 +78,37 @@ private slots:
     {
         write(QStringLiteral("broken.png"), "broken");
         write(QStringLiteral("notes.txt"), "text");
+        QFile cut(m->makePhoto(QStringLiteral("drop/cut.jpg")));
+        QVERIFY(cut.resize(cut.size() * 9 / 10));
         const QString good = m->makePhoto(QStringLiteral("good.png"));
-        m->page->onFilesDropped({m->path("drop/broken.png")}, -1);
+        m->page->onFilesDropped({m->path("drop/broken.png"), cut.fileName()}, -1);
         m->page->onFilesDropped({m->path("drop/notes.txt"), good}, 0);
         m->page->onFilesDropped({m->path("drop/gone.png")}, -1);
         QTRY_VERIFY(report());
         const QString text = report()->findChild<QPlainTextEdit *>()->toPlainText();
         QVERIFY(text.contains(QStringLiteral("broken.png")));
+        QVERIFY(text.contains(QStringLiteral("cut.jpg: is damaged or incomplete")));
         QVERIFY(text.contains(QStringLiteral("notes.txt")));
         QVERIFY(text.contains(QStringLiteral("gone.png")));
         QCOMPARE(m->page->findChildren<MessageDialog *>().size(), 1);
         QCOMPARE(m->names().mid(1), QStringList(QStringLiteral("good.png")));
+    }
+
+    void photoWithoutPermissionIsListed()
+    {
+        const QString secret = m->makePhoto(QStringLiteral("secret.png"));
+        QVERIFY(QFile::setPermissions(secret, QFile::WriteOwner));
+        QVERIFY(QFile::setPermissions(m->path(""), QFile::ReadOwner | QFile::WriteOwner |
+                                                       QFile::ExeOwner | QFile::ExeGroup |
+                                                       QFile::ExeOther));
+        const OrdinaryUser user;
+        if (!user.isOne())
+            QSKIP("This user may read every file.");
+        m->page->onFilesDropped({secret}, -1);
+        QTRY_VERIFY(report());
+        const QString text = report()->findChild<QPlainTextEdit *>()->toPlainText();
+        QVERIFY2(text.contains(QStringLiteral("secret.png: cannot be opened")), qPrintable(text));
+        QCOMPARE(m->items().size(), 1);
     }
 
     void anotherProjectEndsTheImport()
