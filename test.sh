@@ -19,20 +19,22 @@ format=no asan=no tsan=no fuzz=0 windows=no only=.
 # quick. Known to fail under Wine: DocumentsTest, for which Qt's own window for saving stays open,
 # and LanguagesTest, as texts are some pixels wider there.
 windows_tests=(
-    AppSettingsTest AudioCommandsTest AudioFilesControllerTest BrowserPageTest CacheSweeperTest
-    CaptionPainterTest CardTest ComposerTest ConcatListTest CrashDumpTest CrashReporterTest
-    CreateVideoTest DiscSessionTest DiscWriterTest DropAreaTest EncoderCommandsTest
-    EncoderLocatorTest EncoderOptionsTest EncoderProgressTest ExifReaderTest FadeComposerTest
-    FileManagerTest FirstRunTest FrameFitterTest FrameWriterTest HistoryStoreTest ImageCheckTest
-    ImageLoaderTest InputCheckTest LogTest MakeOptionsTest MakeProjectTest MediaSuffixesTest
+    AnswersTest AppSettingsTest AudioCommandsTest AudioFilesControllerTest BrowserPageTest
+    BurnDialogTest CacheSweeperTest CaptionPainterTest CardTest ComposerTest ConcatListTest
+    CrashDumpTest CrashReporterTest CreateVideoTest DiscSessionTest DiscWriterTest DropAreaTest
+    EncoderCommandsTest EncoderLocatorTest EncoderOptionsTest EncoderProgressTest ExifReaderTest
+    FadeComposerTest FileManagerTest FirstRunTest FrameFitterTest FrameWriterTest
+    HistoryModelTest HistoryStoreTest HistoryWidgetTest ImageCheckTest ImageLoaderTest
+    InputCheckTest LogTest MakeOptionsTest MakeProjectTest MediaSuffixesTest MetricSenderTest
     OutputTargetTest ProcessTreeTest ProgressTest ProgressTextTest ProjectFileTest
-    ProjectSlidesTest RemainingTimeTest RenderPlanTest SecretMaskTest SecretsTest
-    ServicesConfigTest SessionKeyTest SessionValuesTest ShortcutResolverTest SingleInstanceTest
-    SlideRendererTest SlideTableModelTest SlideTransitionTest SlidesTest SoundCheckerTest
-    SoundPlanTest StandardOutputTest StartMessageTest SystemInfoTest TerminationWatcherTest
-    ThubnailProviderTest TileGridTest TimelineTest TitleBackgroundTest ToolRunnerTest
-    TransitionTest TransitionTypeTest TranslationsTest VelmoraStartTest VelmoratoolTest
-    WavWriterTest WindowsBurnTest WorkerProtocolTest WorkerTest
+    ProjectNameTest ProjectSlidesTest RemainingTimeTest RenderPlanTest SecretMaskTest
+    SecretsTest ServicesConfigTest SessionKeyTest SessionValuesTest ShortcutResolverTest
+    SingleInstanceTest SlideRendererTest SlideTableModelTest SlideTransitionTest SlidesTest
+    SoundCheckerTest SoundPlanTest StandardOutputTest StartMessageTest SystemInfoTest
+    TerminationWatcherTest ThubnailProviderTest TileGridTest TimelineTest TitleBackgroundTest
+    ToolRunnerTest TransitionTest TransitionTypeTest TranslationsTest UnavailableUploadTest
+    UpdateCheckerTest VelmoraStartTest VelmoratoolTest WavWriterTest WindowsBurnTest
+    WorkerProtocolTest WorkerTest
 )
 sdk=${VELMORA_WINDOWS_SDK_ARCHIVE:-../shared/windows/velmora-windows-sdk.tar.xz}
 usage() { sed -n 's/^#   //p' "$0"; }
