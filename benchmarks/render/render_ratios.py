@@ -5,7 +5,8 @@
 Every figure is a ratio of wall times measured in one run, because machines differ and are noisy:
 
   floor       one ffmpeg process encoding the very frames of the finished video, with the options
-              of the profile, from raw video in the page cache
+              of the profile, from raw video in the page cache. "Plays everywhere" spares the search
+              for motion in stills and fades, which the floor and melt do only with --motionless
   sequential  velmoratool make                      / floor
   parallel    velmoratool make --parallel           / floor
   melt        melt with dissolves and the same x264 options, same length / floor
@@ -32,6 +33,9 @@ OPTIONS = {
     "everywhere": None,  # read from the log of the render that was measured
 }
 
+# What the renderer adds where nothing moves, as all through this show, which has fades only.
+MOTIONLESS = {"-subq", "-me_method", "-chromaoffset"}
+
 
 def timed(command, **kwargs):
     start = time.monotonic()
@@ -49,7 +53,7 @@ def make(tool, photos, output, profile, parallel, data_dir):
     return timed(command, env=environment, stdout=subprocess.DEVNULL)
 
 
-def options_from_log(data_dir):
+def options_from_log(data_dir, motionless):
     """The picture options of the newest sequence segment in the tool's log."""
     folder = os.path.join(data_dir, "log")
     newest = max((os.path.join(folder, name) for name in os.listdir(folder)), key=os.path.getmtime)
@@ -62,7 +66,7 @@ def options_from_log(data_dir):
                   "-video_track_timescale"}
     index = 0
     while index < len(tail) - 1:
-        if tail[index] in skip_value:
+        if tail[index] in skip_value or (tail[index] in MOTIONLESS and not motionless):
             index += 2
         elif tail[index] in {"-y", "-an"}:
             index += 1
@@ -100,7 +104,8 @@ def melt_command(photos, options, output):
     pairs = dict(zip(options[::2], options[1::2]))
     for key, value in pairs.items():
         name = key.lstrip("-").split(":v")[0]
-        if name in {"crf", "threads", "preset", "maxrate", "bufsize"}:
+        if name in {"crf", "threads", "preset", "maxrate", "bufsize", "subq", "me_method",
+                    "chromaoffset"}:
             consumer[name] = value
     if pairs.get("-crf") == "0":
         # The frames that the table's options encode have the full range of JPEG pictures; with the
@@ -124,6 +129,8 @@ def main():
     parser.add_argument("--slides", type=int, default=8)
     parser.add_argument("--rounds", type=int, default=3)
     parser.add_argument("--profiles", nargs="+", default=["original", "everywhere"])
+    parser.add_argument("--motionless", action="store_true",
+                        help="floor and melt spare the search for motion too")
     parser.add_argument("photos", nargs="+")
     arguments = parser.parse_args()
     photos = [os.path.abspath(photo) for photo in arguments.photos[:arguments.slides]]
@@ -139,7 +146,7 @@ def measure(arguments, photos, profile, work):
     video = os.path.join(work, "ours.mp4")
     melted = os.path.join(work, "melt.mp4")
     make(arguments.tool, photos, video, profile, True, data_dir)
-    options = OPTIONS[profile] or options_from_log(data_dir)
+    options = OPTIONS[profile] or options_from_log(data_dir, arguments.motionless)
     encode_only = floor(video, options, work)
     runs = {
         "floor": encode_only,

@@ -49,7 +49,7 @@ QString EncoderCommands::frameFile(const QString &imagesFolder, const QString &p
 }
 
 QStringList EncoderCommands::segment(const QString &imagesFolder, const QString &prefix, int frames,
-                                     qint64 duration, const OutputFormat &format)
+                                     qint64 duration, const OutputFormat &format, Motion motion)
 {
     // One decoder thread: the encoder's threads use the time that a frame takes to decode, and each
     // further decoder would only want memory for frames of its own.
@@ -63,8 +63,8 @@ QStringList EncoderCommands::segment(const QString &imagesFolder, const QString 
               << QString::number(EncoderOptions::frameCount(duration))
               << EncoderOptions::videoOptions(format.extension, format.size.height(),
                                               format.profile);
-    if (frames == 1)
-        arguments += EncoderOptions::stillOptions(format.extension, format.profile);
+    if (frames == 1 || motion == Motion::None)
+        arguments += EncoderOptions::motionlessOptions(format.extension, format.profile);
     arguments << QStringLiteral("-y") << QStringLiteral("-s")
               << QStringLiteral("%1x%2").arg(format.size.width()).arg(format.size.height());
     return arguments;

@@ -22,9 +22,9 @@ struct OutputFormat {
 namespace EncoderCommands
 {
 
-/// @p prefix as "_p3"; @p frames is 1 for a still.
+/// @p prefix as "_p3"; @p frames is 1 for a still, in which nothing moves in any case.
 QStringList segment(const QString &imagesFolder, const QString &prefix, int frames, qint64 duration,
-                    const OutputFormat &format);
+                    const OutputFormat &format, Motion motion = Motion::Any);
 QStringList join(const QString &listFile);
 QStringList multiplex(const QString &videoFile, const QString &soundFile, qint64 length,
                       const OutputFormat &format);

@@ -38,7 +38,7 @@ constexpr char kBuffer[] = "%buffer";
 struct FormatRow {
     Arguments extensions; // none: every other extension
     Arguments video;
-    Arguments still; // added for a picture that stands still
+    Arguments motionless; // added where nothing moves: stills and fades
     Arguments sound;
     Arguments container;
     const char *pixels; // filters before the frame rate is fixed
@@ -76,7 +76,7 @@ constexpr Arguments kEverywhereVideo{
     "-color_primaries", "bt709", "-color_trc", "bt709",   "-color_range", "tv"};
 // Without a fine search the encoder drops its psycho-visual part, and with it two steps of the
 // chroma quantizer, which stand in the headers that all segments share.
-constexpr Arguments kEverywhereStill{"-subq", "1", "-me_method", "dia", "-chromaoffset", "-2"};
+constexpr Arguments kEverywhereMotionless{"-subq", "1", "-me_method", "dia", "-chromaoffset", "-2"};
 constexpr Arguments kAacSound{"-acodec", "aac", "-b:a", "192k", "-ac", "2", "-ar", "44100"};
 constexpr Arguments kFastStart{"-movflags", "+faststart"};
 // JPEG frames are full-range BT.601; the primaries are named only because the filter insists.
@@ -91,7 +91,7 @@ const std::array<FormatRow, 5> kOriginalRows{{
     {kNothing, kOtherVideo, kNothing, kOtherSound, kNothing, ""},
 }};
 
-const FormatRow kEverywhereRow{kEverywhere, kEverywhereVideo, kEverywhereStill,
+const FormatRow kEverywhereRow{kEverywhere, kEverywhereVideo, kEverywhereMotionless,
                                kAacSound,   kFastStart,       kToBt709};
 
 bool serves(const FormatRow &row, const QString &extension)
@@ -185,9 +185,9 @@ QStringList EncoderOptions::videoOptions(const QString &extension, int height,
         .replaceInStrings(QLatin1String(kBuffer), QLatin1String(rates.doubled));
 }
 
-QStringList EncoderOptions::stillOptions(const QString &extension, OutputProfile profile)
+QStringList EncoderOptions::motionlessOptions(const QString &extension, OutputProfile profile)
 {
-    return toList(rowOf(extension, profile).still);
+    return toList(rowOf(extension, profile).motionless);
 }
 
 QStringList EncoderOptions::soundOptions(const QString &extension, OutputProfile profile)

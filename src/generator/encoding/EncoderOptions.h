@@ -18,6 +18,12 @@ enum class OutputProfile {
 OutputProfile outputProfileFromKey(const QString &key);
 QString outputProfileKey(OutputProfile profile);
 
+/// What the pictures of a segment do.
+enum class Motion {
+    None, ///< Every part stays at its place; brightness and colour may change, as in a fade.
+    Any,
+};
+
 /// Pure functions from settings to argument lists. Extensions are given without a dot.
 namespace EncoderOptions
 {
@@ -36,10 +42,9 @@ QString seconds(qint64 milliseconds);
 QString videoFilter(const QString &extension, OutputProfile profile);
 /// Options appended to every command that produces a picture.
 QStringList videoOptions(const QString &extension, int height, OutputProfile profile);
-/// Further options for a segment that shows one still picture all the time, which spare the encoder
-/// a search for motion. The stream keeps the parameters of the other segments, with which it is
-/// joined as it is.
-QStringList stillOptions(const QString &extension, OutputProfile profile);
+/// Further options for a segment in which nothing moves, which spare the encoder a search for
+/// motion. The stream keeps the parameters of the other segments, with which it is joined as it is.
+QStringList motionlessOptions(const QString &extension, OutputProfile profile);
 /// The sound codec and its options for the multiplex.
 QStringList soundOptions(const QString &extension, OutputProfile profile);
 /// Container options of the final file, such as fast start.

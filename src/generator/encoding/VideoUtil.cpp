@@ -115,14 +115,14 @@ bool VideoUtil::acceptOutput(const ToolResult &result, const QString &temporaryF
 }
 
 bool VideoUtil::encodeSegment(const QString &prefix, int frameCount, qint64 duration,
-                              const QString &outputFile)
+                              const QString &outputFile, Motion motion)
 {
     if (frameCount < 1 || duration < 1)
         return fail(
             QCoreApplication::translate("velmora::VideoUtil", "There are no frames to encode."));
     const QString images = m_context.cachePath + QStringLiteral("/images/");
     return executeUtility(
-        EncoderCommands::segment(images, prefix, frameCount, duration, formatOf(m_context)),
+        EncoderCommands::segment(images, prefix, frameCount, duration, formatOf(m_context), motion),
         outputFile, true);
 }
 

@@ -62,7 +62,7 @@ public:
     /// Encodes frames 1 to @p frameCount, or the one still, into exactly 25 frames per second of
     /// @p duration.
     bool encodeSegment(const QString &prefix, int frameCount, qint64 duration,
-                       const QString &outputFile);
+                       const QString &outputFile, Motion motion = Motion::Any);
     /// Copies @p files one after another; @p listFile is the concat list that is written for it.
     bool join(const QStringList &files, const QString &listFile, const QString &outputFile);
     /// Copies the picture and encodes the sound, both to end with the picture at @p length ms.

@@ -40,11 +40,16 @@ TransitionType resolve(int stored, TransitionType previous, const RenderPlan::Ra
 
 } // namespace
 
+bool PlannedStage::isFade() const
+{
+    return fadeAt(effect, {1, stage.frameCount}).has_value();
+}
+
 qint64 PlannedStage::paintingWork() const
 {
     if (pictures == 1)
         return kStillPicture;
-    return fadeAt(effect, {1, stage.frameCount}) ? kFadePicture : kOtherPicture;
+    return isFade() ? kFadePicture : kOtherPicture;
 }
 
 qint64 PlannedStage::encodingWork() const

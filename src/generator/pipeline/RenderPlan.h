@@ -21,6 +21,7 @@ struct PlannedStage {
     TransitionType effect = TransitionType::None; ///< Never Random; None for stills.
     int pictures = 1; ///< Frame files of the stage: one where all its frames are alike.
 
+    bool isFade() const; ///< Its pictures mix the colours of two, and nothing in them moves.
     /// The work of painting one of its pictures, in the unit of RenderPlan::totalWork().
     qint64 paintingWork() const;
     qint64 encodingWork() const; ///< The same for encoding the whole stage.

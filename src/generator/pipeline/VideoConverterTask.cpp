@@ -58,7 +58,8 @@ bool GeneratorThread::VideoConverterTask::encodeStage(int stage, VideoUtil &util
     m_generator.enterStep(SegmentEncoding);
     m_generator.m_progress.beginRun(work, length);
     const bool done = util.encodeSegment(planned.prefix(), planned.pictures, length,
-                                         segmentFile(planned.stage.prefix()));
+                                         segmentFile(planned.stage.prefix()),
+                                         planned.isFade() ? Motion::None : Motion::Any);
     m_generator.m_progress.endRun(work);
     util.removeFrames(planned.prefix(), planned.pictures);
     if (!done) {

@@ -2,6 +2,7 @@
 #include "generator/transitions/CardSampler.h"
 
 #include "generator/transitions/PixelLanes.h"
+#include "generator/transitions/PixelRows.h"
 
 #include <algorithm>
 #include <array>
@@ -27,11 +28,20 @@ inline qint32 heldPosition(float position, float last)
     return static_cast<qint32>(positive < last ? positive : last);
 }
 
+/// The most picture pixels that a pixel of a level card may cover.
+constexpr double kLevelStep = 2;
+
+bool isLevel(const QTransform &toPicture)
+{
+    return toPicture.type() <= QTransform::TxScale && toPicture.m11() > 0 && toPicture.m22() > 0 &&
+           toPicture.m11() <= kLevelStep + 1e-6;
+}
+
 } // namespace
 
 CardSampler::CardSampler(const SourceArea &picture, const QTransform &toPicture)
     : m_picture(picture), m_toPicture(toPicture), m_lastAcross(lastPosition(picture.width)),
-      m_lastDown(lastPosition(picture.height))
+      m_lastDown(lastPosition(picture.height)), m_level(isLevel(toPicture))
 {
     if (picture.width > 1)
         return;
@@ -67,8 +77,34 @@ void CardSampler::locate(int column, int row, int count, qint32 *across, qint32 
     }
 }
 
+// All pixels lie between the same two rows of the picture: these are mixed first, at once.
+void CardSampler::sampleLevel(QRgb *target, int column, int row, int count) const
+{
+    std::array<qint32, kRun> across;
+    std::array<qint32, kRun> down;
+    locate(column, row, count, across.data(), down.data());
+    const int first = across[0] >> 8;
+    const int covered = (across[static_cast<size_t>(count) - 1] >> 8) + 2 - first;
+    const QRgb *above = m_picture.row(down[0] >> 8) + first;
+    const QRgb *below = m_picture.height > 1 ? above + m_picture.stride : above;
+    std::array<QRgb, static_cast<size_t>(kLevelStep * kRun) + 4> line;
+    mixRow(line.data(), above, below, covered, down[0] & 0xff);
+    const lanes::Factors &factors = lanes::factors();
+    std::array<quint16, 4 * kRun> mixed;
+    for (size_t i = 0; i < static_cast<size_t>(count); ++i) {
+        const auto u = static_cast<quint32>(across[i]);
+        lanes::mixWithin(lanes::loadPair(&line[(u >> 8) - static_cast<quint32>(first)]),
+                         factors.within[u & 0xff], &mixed[4 * i]);
+    }
+    lanes::storePixels(target, mixed.data(), count);
+}
+
 void CardSampler::sample(QRgb *target, int column, int row, int count) const
 {
+    if (m_level) {
+        sampleLevel(target, column, row, count);
+        return;
+    }
     std::array<qint32, kRun> across;
     std::array<qint32, kRun> down;
     locate(column, row, count, across.data(), down.data());

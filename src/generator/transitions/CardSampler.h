@@ -32,12 +32,15 @@ public:
 
 private:
     void locate(int column, int row, int count, qint32 *across, qint32 *down) const;
+    void sampleLevel(QRgb *target, int column, int row, int count) const;
 
     std::vector<QRgb> m_doubled; ///< a picture of one column shown twice: pixels are read in pairs
     SourceArea m_picture;
     QTransform m_toPicture;
     float m_lastAcross;
     float m_lastDown;
+    bool m_level; ///< neither turned nor mirrored nor much smaller: rows of the frame are the
+                  ///< picture's
 };
 
 } // namespace velmora

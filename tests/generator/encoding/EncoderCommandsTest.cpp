@@ -68,6 +68,21 @@ private slots:
         QTEST(joined(EncoderCommands::segment(folder, prefix, frames, duration, kMkv)), "expected");
     }
 
+    /// What moves is searched for, whatever the profile; what does not only where the table allows.
+    void searchesForMotionWhereThereIsSome()
+    {
+        const auto searches = [](int frames, Motion motion, OutputProfile profile) {
+            return !EncoderCommands::segment(kImages, QStringLiteral("_p1"), frames, 1000,
+                                             {QSize(640, 360), QStringLiteral("mp4"), profile},
+                                             motion)
+                        .contains(QStringLiteral("-subq"));
+        };
+        QVERIFY(searches(25, Motion::Any, OutputProfile::PlaysEverywhere));
+        QVERIFY(!searches(25, Motion::None, OutputProfile::PlaysEverywhere));
+        QVERIFY(!searches(1, Motion::Any, OutputProfile::PlaysEverywhere));
+        QVERIFY(searches(1, Motion::None, OutputProfile::OriginalQuality));
+    }
+
     void frameFileIsNumberedWithFiveDigits()
     {
         QCOMPARE(EncoderCommands::frameFile(kImages, QStringLiteral("_p3"), 1),

@@ -96,9 +96,10 @@ private slots:
         makeFrames(util, QStringLiteral("_t1"), 25);
         makeFrames(util, QStringLiteral("_i1"), 1);
         const QString p = encode(util, QStringLiteral("_p1"), 50, 2000);
-        const QString t = encode(util, QStringLiteral("_t1"), 25, 1000);
+        const QString t = encode(util, QStringLiteral("_t1"), 25, 1000, Motion::None);
         const QString still = encode(util, QStringLiteral("_i1"), 1, 1000);
         QCOMPARE(streamHeader(still), streamHeader(p));
+        QCOMPARE(streamHeader(t), streamHeader(p));
         const QString slide = joinOf(util, {p, t, still}, "c1");
         const QString total = joinOf(util, {still, slide, slide, t, slide}, "total");
         checkPicture(total);
@@ -264,10 +265,11 @@ private:
                      qPrintable(util.errorText()));
     }
 
-    QString encode(VideoUtil &util, const QString &prefix, int frames, qint64 duration) const
+    QString encode(VideoUtil &util, const QString &prefix, int frames, qint64 duration,
+                   Motion motion = Motion::Any) const
     {
         const QString output = video(("vid" + prefix.toLatin1()).constData());
-        if (!util.encodeSegment(prefix, frames, duration, output))
+        if (!util.encodeSegment(prefix, frames, duration, output, motion))
             QTest::qFail(qPrintable(util.errorText()), __FILE__, __LINE__);
         return output;
     }
