@@ -201,7 +201,7 @@ void paintCard(const TargetArea &target, const Card &card, const QuadShape *hidd
     const int yLevel = reduction(card.picture.height, down);
     const ReducedPicture reduced(card.picture, xLevel, yLevel);
     const QTransform enlarge = QTransform::fromScale(1 << xLevel, 1 << yLevel);
-    const CardSampler sampler(reduced.area(), (enlarge * card.placement).inverted());
+    const CardSampler sampler(reduced.area(), (enlarge * card.placement).inverted(), target.width);
     const CardPainter painter(target, card, shape, sampler);
     const ColumnSpan rows = shape.rows(1, target.height);
     std::vector<RowSpans> spans;

@@ -15,6 +15,8 @@ namespace
 
 /// Positions in the picture are counted in 1/256 pixel.
 constexpr float kUnit = 256.0f;
+/// A pixel's value belongs to its centre; half a unit rounds.
+constexpr float kHalf = kUnit / 2 - 0.5f;
 
 /// The largest position whose next neighbour still exists.
 float lastPosition(int pixels)
@@ -39,15 +41,31 @@ bool isLevel(const QTransform &toPicture)
 
 } // namespace
 
-CardSampler::CardSampler(const SourceArea &picture, const QTransform &toPicture)
+CardSampler::CardSampler(const SourceArea &picture, const QTransform &toPicture, int columns)
     : m_picture(picture), m_toPicture(toPicture), m_lastAcross(lastPosition(picture.width)),
       m_lastDown(lastPosition(picture.height)), m_level(isLevel(toPicture))
 {
+    if (qFuzzyIsNull(toPicture.m21()) && qFuzzyIsNull(toPicture.m23()))
+        locateColumns(columns);
     if (picture.width > 1)
         return;
     for (int y = 0; y < picture.height; ++y)
         m_doubled.insert(m_doubled.end(), 2, *picture.row(y));
     m_picture = {m_doubled.data(), 2, 2, picture.height};
+}
+
+void CardSampler::locateColumns(int columns)
+{
+    m_across.resize(static_cast<size_t>(columns));
+    m_scale.resize(m_across.size());
+    for (size_t i = 0; i < m_across.size(); ++i) {
+        const double x = static_cast<double>(i) + 0.5;
+        const double scale =
+            m_toPicture.isAffine() ? 1 : 1 / (m_toPicture.m13() * x + m_toPicture.m33());
+        const double u = (m_toPicture.m11() * x + m_toPicture.m31()) * scale;
+        m_across[i] = heldPosition(static_cast<float>(u * kUnit) - kHalf, m_lastAcross);
+        m_scale[i] = static_cast<float>(scale);
+    }
 }
 
 void CardSampler::locate(int column, int row, int count, qint32 *across, qint32 *down) const
@@ -59,11 +77,19 @@ void CardSampler::locate(int column, int row, int count, qint32 *across, qint32 
     const auto v = static_cast<float>((t.m12() * x + t.m22() * y + t.m32()) * kUnit);
     const auto uStep = static_cast<float>(t.m11() * kUnit);
     const auto vStep = static_cast<float>(t.m12() * kUnit);
-    const float half = kUnit / 2 - 0.5f; // a pixel's value belongs to its centre; 0.5 rounds
+    if (!m_across.empty()) {
+        const auto begin = static_cast<size_t>(column);
+        std::copy_n(m_across.data() + begin, count, across);
+        const float *scale = m_scale.data() + begin;
+        for (int i = 0; i < count; ++i)
+            down[i] =
+                heldPosition((v + vStep * static_cast<float>(i)) * scale[i] - kHalf, m_lastDown);
+        return;
+    }
     if (t.isAffine()) {
         for (int i = 0; i < count; ++i) {
-            across[i] = heldPosition(u - half + uStep * static_cast<float>(i), m_lastAcross);
-            down[i] = heldPosition(v - half + vStep * static_cast<float>(i), m_lastDown);
+            across[i] = heldPosition(u - kHalf + uStep * static_cast<float>(i), m_lastAcross);
+            down[i] = heldPosition(v - kHalf + vStep * static_cast<float>(i), m_lastDown);
         }
         return;
     }
@@ -72,8 +98,8 @@ void CardSampler::locate(int column, int row, int count, qint32 *across, qint32 
     for (int i = 0; i < count; ++i) {
         const auto step = static_cast<float>(i);
         const float scale = 1.0f / (w + wStep * step);
-        across[i] = heldPosition((u + uStep * step) * scale - half, m_lastAcross);
-        down[i] = heldPosition((v + vStep * step) * scale - half, m_lastDown);
+        across[i] = heldPosition((u + uStep * step) * scale - kHalf, m_lastAcross);
+        down[i] = heldPosition((v + vStep * step) * scale - kHalf, m_lastDown);
     }
 }
 

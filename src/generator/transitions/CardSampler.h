@@ -19,8 +19,8 @@ public:
     /// The most pixels that one call of sample() gives.
     static constexpr int kRun = 256;
 
-    /// @p toPicture maps the frame's coordinates to the picture's.
-    CardSampler(const SourceArea &picture, const QTransform &toPicture);
+    /// @p toPicture maps the coordinates of a frame @p columns wide to the picture's.
+    CardSampler(const SourceArea &picture, const QTransform &toPicture, int columns);
     CardSampler(const CardSampler &) = delete;
     CardSampler &operator=(const CardSampler &) = delete;
 
@@ -32,6 +32,7 @@ public:
 
 private:
     void locate(int column, int row, int count, qint32 *across, qint32 *down) const;
+    void locateColumns(int columns);
     void sampleLevel(QRgb *target, int column, int row, int count) const;
 
     std::vector<QRgb> m_doubled; ///< a picture of one column shown twice: pixels are read in pairs
@@ -39,8 +40,11 @@ private:
     QTransform m_toPicture;
     float m_lastAcross;
     float m_lastDown;
-    bool m_level; ///< neither turned nor mirrored nor much smaller: rows of the frame are the
-                  ///< picture's
+    /// Neither turned nor mirrored nor much smaller: the rows of the frame are rows of the picture.
+    bool m_level;
+    // Of an upright card, where they are the same in all rows of the frame; empty for others.
+    std::vector<qint32> m_across; ///< of each column
+    std::vector<float> m_scale;   ///< by which each column is divided for the perspective
 };
 
 } // namespace velmora
