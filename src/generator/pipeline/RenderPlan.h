@@ -61,7 +61,7 @@ public:
     const QVector<PlannedSlide> &slides() const { return m_slides; }
     qint64 totalLength() const { return m_totalLength; } ///< ms
     qint64 totalFrames() const { return m_totalFrames; }
-    /// The work of painting and encoding all stages; one unit takes about as long as encoding one
+    /// The work of painting and encoding all stages; four units take about as long as encoding one
     /// frame of a still.
     qint64 totalWork() const;
 
