@@ -1486,9 +1486,71 @@ Press "Cancel" to cancel the operation.</source>
         <translation>スライドショー全体を再生</translation>
     </message>
     <message>
+        <source>The video cannot be made</source>
+        <translation>動画を作成できません</translation>
+    </message>
+    <message>
+        <source>CLOSE</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>The video is ready, but it could not be entered in the history: %1</source>
+        <translation>動画は完成しましたが、履歴に追加できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ProgressPage</name>
+    <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Time Elapsed: %1</source>
+        <translation>経過時間: %1</translation>
+    </message>
+    <message>
+        <source>Time Remaining: %1</source>
+        <translation>残り時間: %1</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message>
+        <source>Finishing the video</source>
+        <translation>動画を仕上げています</translation>
+    </message>
+    <message>
+        <source>Preparing</source>
+        <translation>準備中</translation>
+    </message>
+    <message>
+        <source>Making the video (%1x)</source>
+        <translation>動画を作成中 (%1x)</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>再開</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::OutputCheck</name>
     <message>
         <source>Filename</source>
         <translation>ファイル名</translation>
@@ -1529,65 +1591,12 @@ Press "Cancel" to cancel the operation.</source>
         <source>REPLACE</source>
         <translation>置き換える</translation>
     </message>
+</context>
+<context>
+    <name>velmora::RenderedProject</name>
     <message>
         <source>The folder %1 cannot be made.</source>
         <translation>フォルダー %1 を作成できません。</translation>
-    </message>
-    <message>
-        <source>The video cannot be made</source>
-        <translation>動画を作成できません</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Time Elapsed: %1</source>
-        <translation>経過時間: %1</translation>
-    </message>
-    <message>
-        <source>Time Remaining: %1</source>
-        <translation>残り時間: %1</translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation>不明</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>一時停止中</translation>
-    </message>
-    <message>
-        <source>Finishing the video</source>
-        <translation>動画を仕上げています</translation>
-    </message>
-    <message>
-        <source>Making the video (%1x)</source>
-        <translation>動画を作成中 (%1x)</translation>
-    </message>
-    <message>
-        <source>Preparing</source>
-        <translation>準備中</translation>
-    </message>
-    <message>
-        <source>Resume</source>
-        <translation>再開</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>一時停止</translation>
-    </message>
-    <message>
-        <source>CLOSE</source>
-        <translation>閉じる</translation>
-    </message>
-    <message>
-        <source>The video is ready, but it could not be entered in the history: %1</source>
-        <translation>動画は完成しましたが、履歴に追加できませんでした: %1</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>履歴</translation>
     </message>
 </context>
 <context>
