@@ -1191,7 +1191,7 @@
     </message>
     <message>
         <source>track</source>
-        <translation>pista</translation>
+        <translation>pistas</translation>
     </message>
     <message>
         <source>tracks</source>

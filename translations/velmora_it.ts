@@ -1191,7 +1191,7 @@
     </message>
     <message>
         <source>track</source>
-        <translation>brano</translation>
+        <translation>brani</translation>
     </message>
     <message>
         <source>tracks</source>

@@ -1159,7 +1159,7 @@
     </message>
     <message>
         <source>Drag &amp; drop audio files to create a playlist</source>
-        <translation>音声ファイルをドラッグ＆ドロップしてプレイリストを作成</translation>
+        <translation>ここに音声ファイルをドロップ</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -2768,7 +2768,7 @@ Press "Cancel" to cancel the operation.</source>
     <name>velmora::SlideTable</name>
     <message>
         <source>Drag &amp; drop photos and folders to add them here</source>
-        <translation>写真やフォルダーをここにドラッグ＆ドロップして追加</translation>
+        <translation>ここに写真やフォルダーをドロップ</translation>
     </message>
 </context>
 <context>
@@ -2833,7 +2833,7 @@ Press "Cancel" to cancel the operation.</source>
     <name>velmora::SlidesPage</name>
     <message>
         <source>Drag &amp; drop photos and folders to add them here</source>
-        <translation>写真やフォルダーをここにドラッグ＆ドロップして追加</translation>
+        <translation>ここに写真やフォルダーをドロップ</translation>
     </message>
     <message>
         <source>Sort photos</source>

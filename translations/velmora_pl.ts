@@ -1191,11 +1191,11 @@
     </message>
     <message>
         <source>track</source>
-        <translation>utwór</translation>
+        <translation>utworów</translation>
     </message>
     <message>
         <source>tracks</source>
-        <translation>utwory</translation>
+        <translation>utworów</translation>
     </message>
     <message>
         <source>Open File</source>

@@ -1191,7 +1191,7 @@
     </message>
     <message>
         <source>track</source>
-        <translation>дорожка</translation>
+        <translation>дорожек</translation>
     </message>
     <message>
         <source>tracks</source>

@@ -3,6 +3,7 @@
 
 #include "ui/main/MainViewFixture.h"
 
+#include <QAction>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTableView>
@@ -27,6 +28,8 @@ public:
         m_fixture.show();
         m_fixture.view->resize(m_size);
         look("start");
+        m_fixture.child<QAction>("actNew")->trigger();
+        look("editor-empty");
         m_fixture.view->openFiles(photos);
         QTRY_COMPARE(m_fixture.photos().size(), photos.size());
         lookAtEditor();
