@@ -165,6 +165,7 @@ void SlidesPage::setUpButtons()
     for (QPushButton *button : {m_ui->btnTotal, m_ui->btnClear}) {
         button->setProperty("flat", true);
         button->setProperty("compact", true);
+        button->setFocusPolicy(Qt::TabFocus);
     }
     connect(m_ui->btnDefaultTime, &QPopupButton::valueSelected, this,
             &SlidesPage::onDefTimeChanged);
@@ -175,7 +176,7 @@ void SlidesPage::setUpButtons()
         tool->setFixedSize(kToolSize, kToolSize);
         tool->setIconSize({kToolIcon, kToolIcon});
         tool->setToolButtonStyle(Qt::ToolButtonIconOnly);
-        tool->setFocusPolicy(Qt::StrongFocus);
+        tool->setFocusPolicy(Qt::TabFocus);
     }
     for (QFrame *line : {m_ui->lineUndo, m_ui->lineOrder}) {
         line->setFrameShape(QFrame::NoFrame);
