@@ -3,7 +3,6 @@
 
 #include "ui/main/MainViewFixture.h"
 
-#include <QAction>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTableView>
@@ -28,7 +27,8 @@ public:
         m_fixture.show();
         m_fixture.view->resize(m_size);
         look("start");
-        m_fixture.child<QAction>("actNew")->trigger();
+        m_fixture.view->document().begin();
+        m_fixture.child<QStackedWidget>("pages")->setCurrentIndex(MainView::Editor);
         look("editor-empty");
         m_fixture.view->openFiles(photos);
         QTRY_COMPARE(m_fixture.photos().size(), photos.size());
