@@ -10,8 +10,8 @@ folder=docs/screenshots
 mkdir -p "$folder"
 export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 screen=(xvfb-run -a -s "-screen 0 1600x1000x24")
-"${screen[@]}" "$bin/editorgallery" "$folder" en examples/photos/*.jpg
-"${screen[@]}" "$bin/sharinggallery" "$folder" examples/photos/*.jpg
+"${screen[@]}" "$bin/editorgallery" "$folder" en 1280x800 examples/photos/*.jpg
+"${screen[@]}" "$bin/sharinggallery" "$folder" en examples/photos/*.jpg
 if [ -x "$bin/EmbeddedSignInTest" ]; then # Built with VELMORA_WITH_WEBENGINE.
     VELMORA_SCREENSHOTS=$folder "${screen[@]}" "$bin/EmbeddedSignInTest" >/dev/null 2>&1
 fi

@@ -1486,9 +1486,71 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <translation>Die ganze Diashow abspielen</translation>
     </message>
     <message>
+        <source>The video cannot be made</source>
+        <translation>Das Video kann nicht erstellt werden</translation>
+    </message>
+    <message>
+        <source>CLOSE</source>
+        <translation>SCHLIESSEN</translation>
+    </message>
+    <message>
+        <source>The video is ready, but it could not be entered in the history: %1</source>
+        <translation>Das Video ist fertig, konnte aber nicht in den Verlauf eingetragen werden: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ProgressPage</name>
+    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Time Elapsed: %1</source>
+        <translation>Vergangene Zeit: %1</translation>
+    </message>
+    <message>
+        <source>Time Remaining: %1</source>
+        <translation>Verbleibende Zeit: %1</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Finishing the video</source>
+        <translation>Das Video wird fertiggestellt</translation>
+    </message>
+    <message>
+        <source>Preparing</source>
+        <translation>Vorbereitung</translation>
+    </message>
+    <message>
+        <source>Making the video (%1x)</source>
+        <translation>Das Video wird erstellt (%1x)</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Anhalten</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::OutputCheck</name>
     <message>
         <source>Filename</source>
         <translation>Dateiname</translation>
@@ -1529,65 +1591,12 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <source>REPLACE</source>
         <translation>ERSETZEN</translation>
     </message>
+</context>
+<context>
+    <name>velmora::RenderedProject</name>
     <message>
         <source>The folder %1 cannot be made.</source>
         <translation>Der Ordner %1 kann nicht angelegt werden.</translation>
-    </message>
-    <message>
-        <source>The video cannot be made</source>
-        <translation>Das Video kann nicht erstellt werden</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Time Elapsed: %1</source>
-        <translation>Vergangene Zeit: %1</translation>
-    </message>
-    <message>
-        <source>Time Remaining: %1</source>
-        <translation>Verbleibende Zeit: %1</translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation>unbekannt</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>Angehalten</translation>
-    </message>
-    <message>
-        <source>Finishing the video</source>
-        <translation>Das Video wird fertiggestellt</translation>
-    </message>
-    <message>
-        <source>Making the video (%1x)</source>
-        <translation>Das Video wird erstellt (%1x)</translation>
-    </message>
-    <message>
-        <source>Preparing</source>
-        <translation>Vorbereitung</translation>
-    </message>
-    <message>
-        <source>Resume</source>
-        <translation>Fortsetzen</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>Anhalten</translation>
-    </message>
-    <message>
-        <source>CLOSE</source>
-        <translation>SCHLIESSEN</translation>
-    </message>
-    <message>
-        <source>The video is ready, but it could not be entered in the history: %1</source>
-        <translation>Das Video ist fertig, konnte aber nicht in den Verlauf eingetragen werden: %1</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>Verlauf</translation>
     </message>
 </context>
 <context>

@@ -1191,7 +1191,7 @@
     </message>
     <message>
         <source>track</source>
-        <translation>pista</translation>
+        <translation>pistas</translation>
     </message>
     <message>
         <source>tracks</source>
@@ -1486,9 +1486,71 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <translation>Reproducir toda la presentación</translation>
     </message>
     <message>
+        <source>The video cannot be made</source>
+        <translation>No se puede crear el vídeo</translation>
+    </message>
+    <message>
+        <source>CLOSE</source>
+        <translation>CERRAR</translation>
+    </message>
+    <message>
+        <source>The video is ready, but it could not be entered in the history: %1</source>
+        <translation>El vídeo está listo, pero no se ha podido añadir al historial: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ProgressPage</name>
+    <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Time Elapsed: %1</source>
+        <translation>Tiempo transcurrido: %1</translation>
+    </message>
+    <message>
+        <source>Time Remaining: %1</source>
+        <translation>Tiempo restante: %1</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pausa</translation>
+    </message>
+    <message>
+        <source>Finishing the video</source>
+        <translation>Terminando el vídeo</translation>
+    </message>
+    <message>
+        <source>Preparing</source>
+        <translation>Preparando</translation>
+    </message>
+    <message>
+        <source>Making the video (%1x)</source>
+        <translation>Creando el vídeo (%1x)</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Reanudar</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::OutputCheck</name>
     <message>
         <source>Filename</source>
         <translation>Nombre</translation>
@@ -1529,65 +1591,12 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <source>REPLACE</source>
         <translation>REEMPLAZAR</translation>
     </message>
+</context>
+<context>
+    <name>velmora::RenderedProject</name>
     <message>
         <source>The folder %1 cannot be made.</source>
         <translation>No se puede crear la carpeta %1.</translation>
-    </message>
-    <message>
-        <source>The video cannot be made</source>
-        <translation>No se puede crear el vídeo</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Time Elapsed: %1</source>
-        <translation>Tiempo transcurrido: %1</translation>
-    </message>
-    <message>
-        <source>Time Remaining: %1</source>
-        <translation>Tiempo restante: %1</translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation>desconocido</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>En pausa</translation>
-    </message>
-    <message>
-        <source>Finishing the video</source>
-        <translation>Terminando el vídeo</translation>
-    </message>
-    <message>
-        <source>Making the video (%1x)</source>
-        <translation>Creando el vídeo (%1x)</translation>
-    </message>
-    <message>
-        <source>Preparing</source>
-        <translation>Preparando</translation>
-    </message>
-    <message>
-        <source>Resume</source>
-        <translation>Reanudar</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>Pausa</translation>
-    </message>
-    <message>
-        <source>CLOSE</source>
-        <translation>CERRAR</translation>
-    </message>
-    <message>
-        <source>The video is ready, but it could not be entered in the history: %1</source>
-        <translation>El vídeo está listo, pero no se ha podido añadir al historial: %1</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>Historial</translation>
     </message>
 </context>
 <context>

@@ -1486,9 +1486,71 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Lire tout le diaporama</translation>
     </message>
     <message>
+        <source>The video cannot be made</source>
+        <translation>La vidéo ne peut pas être créée</translation>
+    </message>
+    <message>
+        <source>CLOSE</source>
+        <translation>FERMER</translation>
+    </message>
+    <message>
+        <source>The video is ready, but it could not be entered in the history: %1</source>
+        <translation>La vidéo est prête, mais elle n'a pas pu être inscrite dans l'historique : %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ProgressPage</name>
+    <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Time Elapsed: %1</source>
+        <translation>Temps écoulé : %1</translation>
+    </message>
+    <message>
+        <source>Time Remaining: %1</source>
+        <translation>Temps restant : %1</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
+    <message>
+        <source>Finishing the video</source>
+        <translation>Finalisation de la vidéo</translation>
+    </message>
+    <message>
+        <source>Preparing</source>
+        <translation>Préparation</translation>
+    </message>
+    <message>
+        <source>Making the video (%1x)</source>
+        <translation>Création de la vidéo (%1x)</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::OutputCheck</name>
     <message>
         <source>Filename</source>
         <translation>Nom du fichier</translation>
@@ -1529,65 +1591,12 @@ Press "Cancel" to cancel the operation.</source>
         <source>REPLACE</source>
         <translation>REMPLACER</translation>
     </message>
+</context>
+<context>
+    <name>velmora::RenderedProject</name>
     <message>
         <source>The folder %1 cannot be made.</source>
         <translation>Le dossier %1 ne peut pas être créé.</translation>
-    </message>
-    <message>
-        <source>The video cannot be made</source>
-        <translation>La vidéo ne peut pas être créée</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Time Elapsed: %1</source>
-        <translation>Temps écoulé : %1</translation>
-    </message>
-    <message>
-        <source>Time Remaining: %1</source>
-        <translation>Temps restant : %1</translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation>inconnu</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>En pause</translation>
-    </message>
-    <message>
-        <source>Finishing the video</source>
-        <translation>Finalisation de la vidéo</translation>
-    </message>
-    <message>
-        <source>Making the video (%1x)</source>
-        <translation>Création de la vidéo (%1x)</translation>
-    </message>
-    <message>
-        <source>Preparing</source>
-        <translation>Préparation</translation>
-    </message>
-    <message>
-        <source>Resume</source>
-        <translation>Reprendre</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>Pause</translation>
-    </message>
-    <message>
-        <source>CLOSE</source>
-        <translation>FERMER</translation>
-    </message>
-    <message>
-        <source>The video is ready, but it could not be entered in the history: %1</source>
-        <translation>La vidéo est prête, mais elle n'a pas pu être inscrite dans l'historique : %1</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>Historique</translation>
     </message>
 </context>
 <context>

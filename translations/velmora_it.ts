@@ -1191,7 +1191,7 @@
     </message>
     <message>
         <source>track</source>
-        <translation>brano</translation>
+        <translation>brani</translation>
     </message>
     <message>
         <source>tracks</source>
@@ -1486,9 +1486,71 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <translation>Riproduci tutta la presentazione</translation>
     </message>
     <message>
+        <source>The video cannot be made</source>
+        <translation>Il video non può essere creato</translation>
+    </message>
+    <message>
+        <source>CLOSE</source>
+        <translation>CHIUDI</translation>
+    </message>
+    <message>
+        <source>The video is ready, but it could not be entered in the history: %1</source>
+        <translation>Il video è pronto, ma non è stato possibile aggiungerlo alla cronologia: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Cronologia</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ProgressPage</name>
+    <message>
         <source>Cancel</source>
         <translation>Annulla</translation>
     </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Time Elapsed: %1</source>
+        <translation>Tempo trascorso: %1</translation>
+    </message>
+    <message>
+        <source>Time Remaining: %1</source>
+        <translation>Tempo rimanente: %1</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>sconosciuto</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>In pausa</translation>
+    </message>
+    <message>
+        <source>Finishing the video</source>
+        <translation>Completamento del video</translation>
+    </message>
+    <message>
+        <source>Preparing</source>
+        <translation>Preparazione</translation>
+    </message>
+    <message>
+        <source>Making the video (%1x)</source>
+        <translation>Creazione del video (%1x)</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Riprendi</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::OutputCheck</name>
     <message>
         <source>Filename</source>
         <translation>Nome file</translation>
@@ -1529,65 +1591,12 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <source>REPLACE</source>
         <translation>SOSTITUISCI</translation>
     </message>
+</context>
+<context>
+    <name>velmora::RenderedProject</name>
     <message>
         <source>The folder %1 cannot be made.</source>
         <translation>La cartella %1 non può essere creata.</translation>
-    </message>
-    <message>
-        <source>The video cannot be made</source>
-        <translation>Il video non può essere creato</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Time Elapsed: %1</source>
-        <translation>Tempo trascorso: %1</translation>
-    </message>
-    <message>
-        <source>Time Remaining: %1</source>
-        <translation>Tempo rimanente: %1</translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation>sconosciuto</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>In pausa</translation>
-    </message>
-    <message>
-        <source>Finishing the video</source>
-        <translation>Completamento del video</translation>
-    </message>
-    <message>
-        <source>Making the video (%1x)</source>
-        <translation>Creazione del video (%1x)</translation>
-    </message>
-    <message>
-        <source>Preparing</source>
-        <translation>Preparazione</translation>
-    </message>
-    <message>
-        <source>Resume</source>
-        <translation>Riprendi</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>Pausa</translation>
-    </message>
-    <message>
-        <source>CLOSE</source>
-        <translation>CHIUDI</translation>
-    </message>
-    <message>
-        <source>The video is ready, but it could not be entered in the history: %1</source>
-        <translation>Il video è pronto, ma non è stato possibile aggiungerlo alla cronologia: %1</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>Cronologia</translation>
     </message>
 </context>
 <context>

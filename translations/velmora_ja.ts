@@ -1159,7 +1159,7 @@
     </message>
     <message>
         <source>Drag &amp; drop audio files to create a playlist</source>
-        <translation>音声ファイルをドラッグ＆ドロップしてプレイリストを作成</translation>
+        <translation>ここに音声ファイルをドロップ</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -1486,9 +1486,71 @@ Press "Cancel" to cancel the operation.</source>
         <translation>スライドショー全体を再生</translation>
     </message>
     <message>
+        <source>The video cannot be made</source>
+        <translation>動画を作成できません</translation>
+    </message>
+    <message>
+        <source>CLOSE</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>The video is ready, but it could not be entered in the history: %1</source>
+        <translation>動画は完成しましたが、履歴に追加できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ProgressPage</name>
+    <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Time Elapsed: %1</source>
+        <translation>経過時間: %1</translation>
+    </message>
+    <message>
+        <source>Time Remaining: %1</source>
+        <translation>残り時間: %1</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message>
+        <source>Finishing the video</source>
+        <translation>動画を仕上げています</translation>
+    </message>
+    <message>
+        <source>Preparing</source>
+        <translation>準備中</translation>
+    </message>
+    <message>
+        <source>Making the video (%1x)</source>
+        <translation>動画を作成中 (%1x)</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>再開</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::OutputCheck</name>
     <message>
         <source>Filename</source>
         <translation>ファイル名</translation>
@@ -1529,65 +1591,12 @@ Press "Cancel" to cancel the operation.</source>
         <source>REPLACE</source>
         <translation>置き換える</translation>
     </message>
+</context>
+<context>
+    <name>velmora::RenderedProject</name>
     <message>
         <source>The folder %1 cannot be made.</source>
         <translation>フォルダー %1 を作成できません。</translation>
-    </message>
-    <message>
-        <source>The video cannot be made</source>
-        <translation>動画を作成できません</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Time Elapsed: %1</source>
-        <translation>経過時間: %1</translation>
-    </message>
-    <message>
-        <source>Time Remaining: %1</source>
-        <translation>残り時間: %1</translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation>不明</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>一時停止中</translation>
-    </message>
-    <message>
-        <source>Finishing the video</source>
-        <translation>動画を仕上げています</translation>
-    </message>
-    <message>
-        <source>Making the video (%1x)</source>
-        <translation>動画を作成中 (%1x)</translation>
-    </message>
-    <message>
-        <source>Preparing</source>
-        <translation>準備中</translation>
-    </message>
-    <message>
-        <source>Resume</source>
-        <translation>再開</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>一時停止</translation>
-    </message>
-    <message>
-        <source>CLOSE</source>
-        <translation>閉じる</translation>
-    </message>
-    <message>
-        <source>The video is ready, but it could not be entered in the history: %1</source>
-        <translation>動画は完成しましたが、履歴に追加できませんでした: %1</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>履歴</translation>
     </message>
 </context>
 <context>
@@ -2759,7 +2768,7 @@ Press "Cancel" to cancel the operation.</source>
     <name>velmora::SlideTable</name>
     <message>
         <source>Drag &amp; drop photos and folders to add them here</source>
-        <translation>写真やフォルダーをここにドラッグ＆ドロップして追加</translation>
+        <translation>ここに写真やフォルダーをドロップ</translation>
     </message>
 </context>
 <context>
@@ -2824,7 +2833,7 @@ Press "Cancel" to cancel the operation.</source>
     <name>velmora::SlidesPage</name>
     <message>
         <source>Drag &amp; drop photos and folders to add them here</source>
-        <translation>写真やフォルダーをここにドラッグ＆ドロップして追加</translation>
+        <translation>ここに写真やフォルダーをドロップ</translation>
     </message>
     <message>
         <source>Sort photos</source>

@@ -1191,11 +1191,11 @@
     </message>
     <message>
         <source>track</source>
-        <translation>utwór</translation>
+        <translation>utworów</translation>
     </message>
     <message>
         <source>tracks</source>
-        <translation>utwory</translation>
+        <translation>utworów</translation>
     </message>
     <message>
         <source>Open File</source>
@@ -1486,9 +1486,71 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Odtwórz cały pokaz</translation>
     </message>
     <message>
+        <source>The video cannot be made</source>
+        <translation>Nie można utworzyć filmu</translation>
+    </message>
+    <message>
+        <source>CLOSE</source>
+        <translation>ZAMKNIJ</translation>
+    </message>
+    <message>
+        <source>The video is ready, but it could not be entered in the history: %1</source>
+        <translation>Film jest gotowy, ale nie można było dodać go do historii: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historia</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ProgressPage</name>
+    <message>
         <source>Cancel</source>
         <translation>Anuluj</translation>
     </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Time Elapsed: %1</source>
+        <translation>Upłynęło: %1</translation>
+    </message>
+    <message>
+        <source>Time Remaining: %1</source>
+        <translation>Pozostało: %1</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>nieznany</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Wstrzymano</translation>
+    </message>
+    <message>
+        <source>Finishing the video</source>
+        <translation>Kończenie filmu</translation>
+    </message>
+    <message>
+        <source>Preparing</source>
+        <translation>Przygotowanie</translation>
+    </message>
+    <message>
+        <source>Making the video (%1x)</source>
+        <translation>Tworzenie filmu (%1x)</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Wznów</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Wstrzymaj</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::OutputCheck</name>
     <message>
         <source>Filename</source>
         <translation>Nazwa pliku</translation>
@@ -1529,65 +1591,12 @@ Press "Cancel" to cancel the operation.</source>
         <source>REPLACE</source>
         <translation>ZASTĄP</translation>
     </message>
+</context>
+<context>
+    <name>velmora::RenderedProject</name>
     <message>
         <source>The folder %1 cannot be made.</source>
         <translation>Nie można utworzyć folderu %1.</translation>
-    </message>
-    <message>
-        <source>The video cannot be made</source>
-        <translation>Nie można utworzyć filmu</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Time Elapsed: %1</source>
-        <translation>Upłynęło: %1</translation>
-    </message>
-    <message>
-        <source>Time Remaining: %1</source>
-        <translation>Pozostało: %1</translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation>nieznany</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>Wstrzymano</translation>
-    </message>
-    <message>
-        <source>Finishing the video</source>
-        <translation>Kończenie filmu</translation>
-    </message>
-    <message>
-        <source>Making the video (%1x)</source>
-        <translation>Tworzenie filmu (%1x)</translation>
-    </message>
-    <message>
-        <source>Preparing</source>
-        <translation>Przygotowanie</translation>
-    </message>
-    <message>
-        <source>Resume</source>
-        <translation>Wznów</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>Wstrzymaj</translation>
-    </message>
-    <message>
-        <source>CLOSE</source>
-        <translation>ZAMKNIJ</translation>
-    </message>
-    <message>
-        <source>The video is ready, but it could not be entered in the history: %1</source>
-        <translation>Film jest gotowy, ale nie można było dodać go do historii: %1</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>Historia</translation>
     </message>
 </context>
 <context>

@@ -1191,7 +1191,7 @@
     </message>
     <message>
         <source>track</source>
-        <translation>дорожка</translation>
+        <translation>дорожек</translation>
     </message>
     <message>
         <source>tracks</source>
@@ -1486,9 +1486,71 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Играть всё слайд-шоу</translation>
     </message>
     <message>
+        <source>The video cannot be made</source>
+        <translation>Видео не может быть создано</translation>
+    </message>
+    <message>
+        <source>CLOSE</source>
+        <translation>ЗАКРЫТЬ</translation>
+    </message>
+    <message>
+        <source>The video is ready, but it could not be entered in the history: %1</source>
+        <translation>Видео готово, но его не удалось занести в историю: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>История</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ProgressPage</name>
+    <message>
         <source>Cancel</source>
         <translation>Отмена</translation>
     </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Time Elapsed: %1</source>
+        <translation>Прошло: %1</translation>
+    </message>
+    <message>
+        <source>Time Remaining: %1</source>
+        <translation>Осталось: %1</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>неизвестно</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Приостановлено</translation>
+    </message>
+    <message>
+        <source>Finishing the video</source>
+        <translation>Завершение видео</translation>
+    </message>
+    <message>
+        <source>Preparing</source>
+        <translation>Подготовка</translation>
+    </message>
+    <message>
+        <source>Making the video (%1x)</source>
+        <translation>Создание видео (%1x)</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Продолжить</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Пауза</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::OutputCheck</name>
     <message>
         <source>Filename</source>
         <translation>Имя файла</translation>
@@ -1529,65 +1591,12 @@ Press "Cancel" to cancel the operation.</source>
         <source>REPLACE</source>
         <translation>ЗАМЕНИТЬ</translation>
     </message>
+</context>
+<context>
+    <name>velmora::RenderedProject</name>
     <message>
         <source>The folder %1 cannot be made.</source>
         <translation>Папка %1 не может быть создана.</translation>
-    </message>
-    <message>
-        <source>The video cannot be made</source>
-        <translation>Видео не может быть создано</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Time Elapsed: %1</source>
-        <translation>Прошло: %1</translation>
-    </message>
-    <message>
-        <source>Time Remaining: %1</source>
-        <translation>Осталось: %1</translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation>неизвестно</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>Приостановлено</translation>
-    </message>
-    <message>
-        <source>Finishing the video</source>
-        <translation>Завершение видео</translation>
-    </message>
-    <message>
-        <source>Making the video (%1x)</source>
-        <translation>Создание видео (%1x)</translation>
-    </message>
-    <message>
-        <source>Preparing</source>
-        <translation>Подготовка</translation>
-    </message>
-    <message>
-        <source>Resume</source>
-        <translation>Продолжить</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>Пауза</translation>
-    </message>
-    <message>
-        <source>CLOSE</source>
-        <translation>ЗАКРЫТЬ</translation>
-    </message>
-    <message>
-        <source>The video is ready, but it could not be entered in the history: %1</source>
-        <translation>Видео готово, но его не удалось занести в историю: %1</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>История</translation>
     </message>
 </context>
 <context>

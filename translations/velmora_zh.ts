@@ -1486,9 +1486,71 @@ Press "Cancel" to cancel the operation.</source>
         <translation>播放整个幻灯片放映</translation>
     </message>
     <message>
+        <source>The video cannot be made</source>
+        <translation>无法创建视频</translation>
+    </message>
+    <message>
+        <source>CLOSE</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>The video is ready, but it could not be entered in the history: %1</source>
+        <translation>视频已完成，但无法加入历史记录: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>历史记录</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ProgressPage</name>
+    <message>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Time Elapsed: %1</source>
+        <translation>已用时间: %1</translation>
+    </message>
+    <message>
+        <source>Time Remaining: %1</source>
+        <translation>剩余时间: %1</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>已暂停</translation>
+    </message>
+    <message>
+        <source>Finishing the video</source>
+        <translation>正在完成视频</translation>
+    </message>
+    <message>
+        <source>Preparing</source>
+        <translation>正在准备</translation>
+    </message>
+    <message>
+        <source>Making the video (%1x)</source>
+        <translation>正在创建视频 (%1x)</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::OutputCheck</name>
     <message>
         <source>Filename</source>
         <translation>文件名</translation>
@@ -1529,65 +1591,12 @@ Press "Cancel" to cancel the operation.</source>
         <source>REPLACE</source>
         <translation>替换</translation>
     </message>
+</context>
+<context>
+    <name>velmora::RenderedProject</name>
     <message>
         <source>The folder %1 cannot be made.</source>
         <translation>无法创建文件夹 %1。</translation>
-    </message>
-    <message>
-        <source>The video cannot be made</source>
-        <translation>无法创建视频</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Time Elapsed: %1</source>
-        <translation>已用时间: %1</translation>
-    </message>
-    <message>
-        <source>Time Remaining: %1</source>
-        <translation>剩余时间: %1</translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation>未知</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>已暂停</translation>
-    </message>
-    <message>
-        <source>Finishing the video</source>
-        <translation>正在完成视频</translation>
-    </message>
-    <message>
-        <source>Making the video (%1x)</source>
-        <translation>正在创建视频 (%1x)</translation>
-    </message>
-    <message>
-        <source>Preparing</source>
-        <translation>正在准备</translation>
-    </message>
-    <message>
-        <source>Resume</source>
-        <translation>继续</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>暂停</translation>
-    </message>
-    <message>
-        <source>CLOSE</source>
-        <translation>关闭</translation>
-    </message>
-    <message>
-        <source>The video is ready, but it could not be entered in the history: %1</source>
-        <translation>视频已完成，但无法加入历史记录: %1</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>历史记录</translation>
     </message>
 </context>
 <context>

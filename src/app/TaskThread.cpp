@@ -24,6 +24,12 @@ void TaskThread::add(Work work)
     m_wake.notify_one();
 }
 
+void TaskThread::finish()
+{
+    std::unique_lock<std::mutex> locker(m_mutex);
+    m_idle.wait(locker, [this] { return m_waiting.empty() && !m_working; });
+}
+
 void TaskThread::retire()
 {
     connect(this, &TaskThread::ended, this, &QObject::deleteLater);
@@ -54,6 +60,7 @@ void TaskThread::run()
         work = nullptr; // What it holds may take its time to go.
         locker.lock();
         m_working = false;
+        m_idle.notify_all();
         m_reports.push_back(std::move(report));
         emit worked();
     }

@@ -27,6 +27,8 @@ public:
     ~TaskThread() override;
 
     void add(Work work);
+    /// Waits until everything that was added is done. The reports come later, as always.
+    void finish();
     /// Deletes the object without waiting: at once, or when the work in progress has ended. Only
     /// the end of the program waits for that.
     void retire();
@@ -42,6 +44,7 @@ private:
 
     std::mutex m_mutex;
     std::condition_variable m_wake;
+    std::condition_variable m_idle;
     // Guarded by m_mutex:
     std::deque<Work> m_waiting;
     std::deque<Report> m_reports;

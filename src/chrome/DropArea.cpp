@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/DropArea.h"
 
+#include "chrome/HintLabel.h"
 #include "chrome/LocalFiles.h"
 #include "chrome/Theme.h"
 
@@ -14,8 +15,8 @@ namespace velmora
 {
 
 DropArea::DropArea(QWidget *parent)
-    : QFrame(parent), m_picture(new QLabel(this)), m_prompt(new QLabel(this)),
-      m_hint(new QLabel(this))
+    : QFrame(parent), m_picture(new QLabel(this)), m_prompt(new HintLabel(this)),
+      m_hint(new HintLabel(this))
 {
     setAcceptDrops(true);
     setFocusPolicy(Qt::StrongFocus);
@@ -28,12 +29,11 @@ DropArea::DropArea(QWidget *parent)
     layout->setContentsMargins(32, 32, 32, 32);
     layout->setSpacing(8);
     layout->addStretch();
-    for (QLabel *label : {m_picture, m_prompt, m_hint}) {
-        label->setAlignment(Qt::AlignCenter);
-        label->setWordWrap(label != m_picture);
-        layout->addWidget(label);
-    }
-    layout->insertSpacing(2, 8);
+    m_picture->setAlignment(Qt::AlignCenter);
+    layout->addWidget(m_picture);
+    layout->addSpacing(8);
+    layout->addWidget(m_prompt);
+    layout->addWidget(m_hint);
     layout->addStretch();
 }
 

@@ -8,6 +8,8 @@ class QLabel;
 namespace velmora
 {
 
+class HintLabel;
+
 /// The start page's large target for files and folders: a dashed frame with a picture, a prompt and
 /// a hint, lit up while something that it takes is dragged over it. A click, Enter or Space asks
 /// for the file dialog. GUI thread.
@@ -45,8 +47,8 @@ private:
     void setLit(bool lit);
 
     QLabel *m_picture;
-    QLabel *m_prompt;
-    QLabel *m_hint;
+    HintLabel *m_prompt;
+    HintLabel *m_hint;
     bool m_lit = false;
     bool m_hovered = false;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/QTableViewEx.h"
 
+#include "chrome/BalancedText.h"
 #include "chrome/LocalFiles.h"
 #include "chrome/RowsMimeData.h"
 #include "chrome/Theme.h"
@@ -201,7 +202,8 @@ void QTableViewEx::paintEmptyState()
     const QSize picture = m_emptyPicture.isNull()
                               ? QSize()
                               : m_emptyPicture.size() / m_emptyPicture.devicePixelRatio();
-    const QRect area = viewport()->rect().adjusted(kGap, kGap, -kGap, -kGap);
+    const QRect area = BalancedText::part(
+        fontMetrics(), viewport()->rect().adjusted(kGap, kGap, -kGap, -kGap), m_emptyText);
     constexpr int kFlags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
     const QRect text = fontMetrics().boundingRect(area, kFlags, m_emptyText);
     int y = area.top();

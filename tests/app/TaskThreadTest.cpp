@@ -36,6 +36,23 @@ private slots:
         QCOMPARE(threads.count(threads.first()), 100);
     }
 
+    void finishWaitsForAll()
+    {
+        TaskThread tasks;
+        tasks.finish();
+        int done = 0;
+        int reported = 0;
+        for (int i = 0; i < 3; ++i)
+            tasks.add([&]() -> TaskThread::Report {
+                QThread::msleep(5);
+                ++done;
+                return [&] { ++reported; };
+            });
+        tasks.finish();
+        QCOMPARE(done, 3);
+        QTRY_COMPARE(reported, 3);
+    }
+
     /// Either way nothing is reported afterwards; only deleting waits for the work in progress.
     void ends_data()
     {

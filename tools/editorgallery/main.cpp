@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// editorgallery FOLDER LANGUAGE PHOTOS...: saves every page of the main window as a picture.
+// editorgallery FOLDER LANGUAGE WIDTHxHEIGHT PHOTOS...: saves every page of the main window, which
+// is of that size, as a picture.
+#include "app/AppSettings.h"
 #include "app/Identity.h"
 #include "app/Translations.h"
 #include "chrome/Theme.h"
@@ -19,8 +21,8 @@ int main(int argc, char **argv)
     Theme::install(application);
     registerFontSubstitutes();
     const QStringList arguments = QApplication::arguments();
-    if (arguments.size() < 4) {
-        qCritical("Usage: editorgallery FOLDER LANGUAGE PHOTOS...");
+    if (arguments.size() < 5) {
+        qCritical("Usage: editorgallery FOLDER LANGUAGE WIDTHxHEIGHT PHOTOS...");
         return 2;
     }
     const QDir folder(arguments.at(1));
@@ -35,7 +37,7 @@ int main(int argc, char **argv)
         QTest::qWait(2000); // Thumbnails and previews come later than the page.
         page.grab().save(folder.filePath(name + QStringLiteral(".png")));
     });
-    tour.setWindowSize({1280, 800});
-    tour.run(arguments.mid(3));
+    tour.setWindowSize(resolutionFromText(arguments.at(3)));
+    tour.run(arguments.mid(4));
     return 0;
 }

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// sharinggallery FOLDER PHOTOS...: saves the pages of history, final page, uploads, burning and
-// update notice as pictures, with PHOTOS in the rows of the history, and as HTML what a browser
-// shows after a sign-in.
+// sharinggallery FOLDER LANGUAGE PHOTOS...: saves the pages of history, final page, uploads,
+// burning and update notice as pictures, with PHOTOS in the rows of the history, and as HTML what a
+// browser shows after a sign-in.
 #include "app/AppSettings.h"
+#include "app/Identity.h"
+#include "app/Translations.h"
 #include "chrome/MessageDialog.h"
 #include "chrome/Theme.h"
 #include "platform/null/NullFileManager.h"
@@ -29,6 +31,7 @@
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTimer>
+#include <QTranslator>
 
 using namespace velmora;
 
@@ -249,14 +252,18 @@ void showFinal()
 
 int main(int argc, char **argv)
 {
+    applyIdentity();
     QApplication application(argc, argv);
     Theme::install(application);
     const QStringList arguments = QApplication::arguments();
-    if (arguments.size() < 2)
+    if (arguments.size() < 3)
         return 2;
+    QTranslator translator;
+    if (Translations::load(translator, arguments.at(2)))
+        QCoreApplication::installTranslator(&translator);
     s_folder = arguments.at(1);
     QDir().mkpath(s_folder);
-    showHistory(arguments.mid(2));
+    showHistory(arguments.mid(3));
     showUploadResults();
     const QTemporaryDir folder;
     const QString video = folder.filePath(QStringLiteral("Summer at the lake.mp4"));

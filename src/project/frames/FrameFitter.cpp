@@ -21,8 +21,13 @@ QSize fittedSize(const QSize &photo, const FrameFormat &format)
         return photo;
     const double scale = std::min(double(format.size.width()) / photo.width(),
                                   double(format.size.height()) / photo.height());
-    return QSize(std::max(1, qRound(photo.width() * scale)),
-                 std::max(1, qRound(photo.height() * scale)));
+    // Less than a pixel between photo and frame would be a bar of a whole one, on one side.
+    const auto side = [scale](int length, int whole) {
+        const double scaled = length * scale;
+        return whole - scaled < 1 ? whole : std::max(1, qRound(scaled));
+    };
+    return QSize(side(photo.width(), format.size.width()),
+                 side(photo.height(), format.size.height()));
 }
 
 QImage scaledTo(const QImage &image, const QSize &size)

@@ -38,7 +38,8 @@ FinalWindow::FinalWindow(const QString &video, FileManager &fileManager, QWidget
     });
     const auto offer = [this](QPushButton *button, const char *key) {
         m_uploadButtons.append(button);
-        button->setToolTip(uploadHindrance());
+        if (!uploadHindrance().isEmpty())
+            button->setToolTip(uploadHindrance());
         connect(button, &QPushButton::clicked, this, [this, key] {
             accept();
             emit uploadService(QLatin1String(key));

@@ -221,10 +221,12 @@ void HistoryWidget::onDeleteProject(const QString &fileName)
     message.text = tr("Remove \"%1\" from the history?").arg(QFileInfo(fileName).fileName());
     if (QFileInfo(fileName).isFile())
         message.checkText = tr("Also move the video file to the trash");
-    message.buttons = QStringList{tr("REMOVE"), tr("CANCEL")};
+    message.buttons = QStringList{tr("CANCEL"), tr("REMOVE")};
+    message.defaultButton = 1;
+    message.cancelButton = 0;
     message.dangerous = true;
     const MessageDialog::Answer answer = MessageDialog::ask(this, message);
-    if (answer.button == 0)
+    if (answer.button == 1)
         remove({project}, answer.checked);
 }
 
@@ -235,10 +237,12 @@ void HistoryWidget::on_btnClearHistory_clicked()
     message.title = tr("Clear the history");
     message.text = tr("Remove all videos (%n) from the history?", nullptr, m_model->rowCount());
     message.checkText = tr("Also move the video files to the trash");
-    message.buttons = QStringList{tr("REMOVE ALL"), tr("CANCEL")};
+    message.buttons = QStringList{tr("CANCEL"), tr("REMOVE ALL")};
+    message.defaultButton = 1;
+    message.cancelButton = 0;
     message.dangerous = true;
     const MessageDialog::Answer answer = MessageDialog::ask(this, message);
-    if (answer.button != 0)
+    if (answer.button != 1)
         return;
     QVector<const ProjectFile *> all;
     for (const auto &project : m_history.projects())

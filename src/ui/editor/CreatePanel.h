@@ -2,9 +2,9 @@
 #pragma once
 
 #include "generator/worker/Composer.h"
+#include "ui/editor/RenderedProject.h"
 
 #include <QFrame>
-#include <QJsonObject>
 #include <QTimer>
 
 #include <memory>
@@ -19,6 +19,7 @@ namespace velmora
 
 struct AppSettings;
 class HistoryStore;
+class ProgressPage;
 class ProjectEditor;
 class VideoName;
 
@@ -40,7 +41,7 @@ signals:
     void progressFinished(); ///< Once per progressStarted(): success, failure or cancel.
     void progress(int percent);
     void pausedChanged(bool paused); ///< Between progressStarted() and progressFinished().
-    void recorded(); ///< The history has kept the project as it is. Before finished().
+    void recorded(); ///< The history has kept the project as it is now. Before finished().
     void failed(const QString &reason); ///< After progressFinished(), before the user is told.
     void finished(const QString &fileName);
     void fullPreviewClicked();
@@ -64,34 +65,25 @@ private:
     void retranslate();
     void connectComposer();
     QString outputPath() const;
-    bool isNameUsable();
-    bool isFolderUsable();
-    bool mayReplace(const QString &output);
     bool canBeGenerated() const;
     void start(const QString &output);
     void onProgress(int percent);
     void onFinished(const QString &fileName);
     void onFailed();
     void showSetup();
-    void showPauseButton(bool paused);
-    void showState();
-    bool recordHistory(const QString &fileName, QString *error);
     void refresh();
     void updateCreateButton();
-    void removeRequest();
 
     ProjectEditor &m_editor;
     const AppSettings &m_settings;
     HistoryStore &m_history;
     std::unique_ptr<Ui::CreatePanel> m_ui;
+    std::unique_ptr<ProgressPage> m_page;
     VideoName *m_name = nullptr;
     Composer m_composer;
     QTimer m_progressTimer;
     QTimer m_finalTimer;
-    QString m_request;        ///< The worker's file, while there is one.
-    QJsonObject m_rendered;   ///< The project of the render.
-    int m_renderedStep = 0;   ///< Of the undo stack, when the render began.
-    qint64 m_videoLength = 0; ///< ms of the video that is being made
+    RenderedProject m_rendered;
     bool m_generating = false;
 };
 

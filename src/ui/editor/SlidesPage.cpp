@@ -2,6 +2,7 @@
 #include "ui/editor/SlidesPage.h"
 
 #include "app/AppSettings.h"
+#include "chrome/HintLabel.h"
 #include "chrome/Theme.h"
 #include "project/documents/ProjectFile.h"
 #include "project/documents/Timeline.h"
@@ -32,7 +33,7 @@ namespace
 constexpr int kToolSize = 40; // px
 constexpr int kToolIcon = 24; // px
 
-QWidget *createHint(QLabel *text, QWidget *parent)
+QWidget *createHint(HintLabel *text, QWidget *parent)
 {
     auto *hint = new QWidget(parent);
     hint->setObjectName(QStringLiteral("emptyHint"));
@@ -40,8 +41,6 @@ QWidget *createHint(QLabel *text, QWidget *parent)
     auto *picture = new QLabel;
     picture->setPixmap(Theme::icon(QStringLiteral("photos")).pixmap(208, 120));
     picture->setAlignment(Qt::AlignCenter);
-    text->setAlignment(Qt::AlignCenter);
-    text->setWordWrap(true);
     text->setProperty("secondary", true);
     auto *column = new QVBoxLayout(hint);
     column->setSpacing(16);
@@ -76,7 +75,7 @@ SlidesPage::SlidesPage(ProjectEditor &editor, const AppSettings &settings, QWidg
 {
     m_ui->setupUi(this);
     m_ui->pageLayout->insertWidget(1, m_note);
-    m_hintText = new QLabel;
+    m_hintText = new HintLabel;
     m_hint = createHint(m_hintText, m_ui->tableView->viewport());
     m_update.setSingleShot(true);
     connect(&m_update, &QTimer::timeout, this, &SlidesPage::updateControls);
@@ -166,6 +165,7 @@ void SlidesPage::setUpButtons()
     for (QPushButton *button : {m_ui->btnTotal, m_ui->btnClear}) {
         button->setProperty("flat", true);
         button->setProperty("compact", true);
+        button->setFocusPolicy(Qt::TabFocus);
     }
     connect(m_ui->btnDefaultTime, &QPopupButton::valueSelected, this,
             &SlidesPage::onDefTimeChanged);
@@ -176,7 +176,7 @@ void SlidesPage::setUpButtons()
         tool->setFixedSize(kToolSize, kToolSize);
         tool->setIconSize({kToolIcon, kToolIcon});
         tool->setToolButtonStyle(Qt::ToolButtonIconOnly);
-        tool->setFocusPolicy(Qt::StrongFocus);
+        tool->setFocusPolicy(Qt::TabFocus);
     }
     for (QFrame *line : {m_ui->lineUndo, m_ui->lineOrder}) {
         line->setFrameShape(QFrame::NoFrame);

@@ -11,7 +11,6 @@
 
 class QAction;
 class QItemSelection;
-class QLabel;
 
 namespace Ui
 {
@@ -22,6 +21,7 @@ namespace velmora
 {
 
 class BusyNote;
+class HintLabel;
 class SlideActions;
 class SlideSelection;
 class SlideSorter;
@@ -107,7 +107,7 @@ private:
     SlideSorter *m_sorter;
     SlideSelection *m_selection = nullptr;
     QWidget *m_hint; ///< Invites while there are no photos.
-    QLabel *m_hintText;
+    HintLabel *m_hintText;
     QTimer m_update;               ///< Many changes at once update the controls once.
     ProjectItem *m_told = nullptr; ///< The current slide that listeners know.
 };

@@ -12,7 +12,6 @@
 #include <QJsonDocument>
 #include <QSettings>
 #include <QUndoStack>
-#include <QtConcurrent>
 
 namespace velmora
 {
@@ -46,7 +45,6 @@ Autosave::Autosave(const ProjectDocument &document, ProjectEditor &editor,
     : m_document(document), m_fileName(dataFolder + QStringLiteral("/autosave.json")),
       m_lock(lockFile(dataFolder))
 {
-    m_writer.setMaxThreadCount(1);
     // A lock never grows old: only the end of its process frees it.
     m_lock.setStaleLockTime(0);
     if (!m_lock.tryLock()) {
@@ -62,7 +60,7 @@ Autosave::Autosave(const ProjectDocument &document, ProjectEditor &editor,
 
 Autosave::~Autosave()
 {
-    m_writer.waitForDone();
+    m_writer.finish();
 }
 
 int Autosave::intervalOf(const QSettings &store)
@@ -102,11 +100,13 @@ void Autosave::saveNow()
     QJsonObject project;
     m_document.toJson(project);
     const QJsonObject content = {{kPath, m_document.path()}, {kProject, project}};
-    QtConcurrent::run(&m_writer, [this, content] {
-        // The next look tries again.
-        if (!write(m_fileName, content))
-            QMetaObject::invokeMethod(
-                this, [this] { m_changed = true; }, Qt::QueuedConnection);
+    m_writer.add([this, content]() -> TaskThread::Report {
+        const bool written = write(m_fileName, content);
+        return [this, written] {
+            // The next look tries again.
+            if (!written)
+                m_changed = true;
+        };
     });
 }
 
@@ -115,8 +115,10 @@ void Autosave::clear()
     m_changed = false;
     if (!m_lock.isLocked())
         return;
-    const QString fileName = m_fileName;
-    QtConcurrent::run(&m_writer, [fileName] { QFile::remove(fileName); });
+    m_writer.add([this]() -> TaskThread::Report {
+        QFile::remove(m_fileName);
+        return [] {};
+    });
 }
 
 void Autosave::onDocumentChanged()

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/TaskThread.h"
+
 #include <QLockFile>
 #include <QObject>
 #include <QString>
-#include <QThreadPool>
 #include <QTimer>
 
 #include <memory>
@@ -39,7 +40,7 @@ public:
     /// Looks at the project every @p interval ms. The references must outlive the object.
     Autosave(const ProjectDocument &document, ProjectEditor &editor, const QString &dataFolder,
              int interval = Interval);
-    /// Waits for the write in work; the file stays unless clear() was called.
+    /// Waits for what is being written or removed; the file stays unless clear() was called.
     ~Autosave() override;
 
     Found find(const AppSettings &settings) const;
@@ -58,7 +59,7 @@ private:
     const QString m_fileName;
     QLockFile m_lock; ///< Held by the process that keeps the file.
     QTimer m_timer;
-    QThreadPool m_writer; ///< One thread, so that writing and removing keep their order.
+    TaskThread m_writer; ///< Writing and removing keep their order.
     bool m_changed = false;
 };
 

@@ -135,7 +135,9 @@ void MainView::onSettingsHide()
 void MainView::onSettingsHideFinished()
 {
     m_stack->currentWidget()->setFocus();
-    if (page() == Editor)
+    if (m_focusBeforeSettings && m_focusBeforeSettings->isVisible())
+        m_focusBeforeSettings->setFocus();
+    else if (page() == Editor)
         m_editor->focusSlides();
 }
 
@@ -262,10 +264,14 @@ void MainView::onBtnAddFolderClicked()
 
 void MainView::onBtnSettingsClicked()
 {
-    if (m_settingsPanel->isOpen())
+    if (m_settingsPanel->isOpen()) {
         onSettingsHide();
-    else
-        m_settingsPanel->open();
+        return;
+    }
+    // Opened again while it slides out, it still has the keys itself.
+    if (!m_settingsPanel->isVisible())
+        m_focusBeforeSettings = focusWidget();
+    m_settingsPanel->open();
 }
 
 void MainView::onBtnHistoryClicked()

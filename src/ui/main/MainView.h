@@ -5,6 +5,7 @@
 #include "ui/main/LastVideo.h"
 #include "ui/main/TaskbarShare.h"
 
+#include <QPointer>
 #include <QStringList>
 
 #include <memory>
@@ -138,6 +139,7 @@ private:
     QuietMoment *m_quiet;
     DocumentActions *m_actions;
     QStringList m_dropped; ///< The files of the drop in work.
+    QPointer<QWidget> m_focusBeforeSettings;
 };
 
 } // namespace velmora

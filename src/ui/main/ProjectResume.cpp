@@ -10,7 +10,6 @@
 #include <QFileInfo>
 #include <QSet>
 #include <QWidget>
-#include <QtConcurrent>
 
 #include <algorithm>
 
@@ -50,13 +49,9 @@ bool wantsToResume(QWidget *window, const QStringList &missing)
 ProjectResume::ProjectResume(const AppSettings &settings, QWidget *window)
     : m_settings(settings), m_window(window)
 {
-    connect(&m_search, &QFutureWatcher<QStringList>::finished, this, &ProjectResume::onLooked);
 }
 
-ProjectResume::~ProjectResume()
-{
-    m_search.waitForFinished();
-}
+ProjectResume::~ProjectResume() = default;
 
 bool ProjectResume::start(const ProjectFile &entry)
 {
@@ -71,7 +66,14 @@ bool ProjectResume::start(const ProjectFile &entry)
     }
     m_project = std::move(project);
     m_ready = false;
-    m_search.setFuture(QtConcurrent::run(missingFiles, files(*m_project)));
+    const int search = ++m_search;
+    m_searcher.add([this, search, paths = files(*m_project)]() -> TaskThread::Report {
+        const QStringList missing = missingFiles(paths);
+        return [this, search, missing] {
+            if (search == m_search)
+                onLooked(missing);
+        };
+    });
     return true;
 }
 
@@ -111,9 +113,8 @@ void ProjectResume::removeFiles(ProjectFile *project, const QStringList &paths)
     project->setAudio(audio);
 }
 
-void ProjectResume::onLooked()
+void ProjectResume::onLooked(const QStringList &missing)
 {
-    const QStringList missing = m_search.result();
     if (!m_project)
         return;
     if (!missing.isEmpty()) {

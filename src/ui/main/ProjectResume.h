@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QFutureWatcher>
+#include "app/TaskThread.h"
+
 #include <QObject>
 #include <QStringList>
 
@@ -24,6 +25,7 @@ class ProjectResume : public QObject
 public:
     /// The question is shown above @p window.
     ProjectResume(const AppSettings &settings, QWidget *window);
+    /// Waits for a search in work.
     ~ProjectResume() override;
 
     /// Copies @p entry and looks for its files; ready() follows if there is something to go on
@@ -43,13 +45,14 @@ signals:
     void ready();
 
 private:
-    void onLooked();
+    void onLooked(const QStringList &missing);
 
     const AppSettings &m_settings;
     QWidget *m_window;
     std::unique_ptr<ProjectFile> m_project;
     bool m_ready = false;
-    QFutureWatcher<QStringList> m_search;
+    int m_search = 0; ///< The number of the latest search.
+    TaskThread m_searcher;
 };
 
 } // namespace velmora

@@ -15,6 +15,10 @@ ToolRow::ToolRow(const MainMenu &menu, QWidget *parent)
     : QFrame(parent), m_ui(std::make_unique<Ui::ToolRow>()), m_menu(menu)
 {
     m_ui->setupUi(this);
+    // The keys stay where they are wanted again after the dialog that a click opens.
+    const QList<QPushButton *> buttons = findChildren<QPushButton *>();
+    for (QPushButton *button : buttons)
+        button->setFocusPolicy(Qt::TabFocus);
     const auto bind = [this](QPushButton *button, QAction *action, const char *icon) {
         button->setIcon(Theme::icon(QLatin1String(icon)));
         connect(button, &QPushButton::clicked, action, &QAction::trigger);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the player looks like, and the mouse.
+#include "chrome/BalancedText.h"
 #include "chrome/Theme.h"
 #include "ui/preview/Spinner.h"
 #include "ui/preview/VideoPlayer.h"
@@ -105,7 +106,8 @@ void VideoPlayer::paintEmpty(QPainter &painter) const
     painter.setBrush(QColor(hasFocus() ? Theme::AccentFaint : Theme::Window));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Theme::Radius,
                             Theme::Radius);
-    const QRect area = rect().adjusted(kMargin, 0, -kMargin, 0);
+    const QRect area = BalancedText::part(painter.fontMetrics(),
+                                          rect().adjusted(kMargin, 0, -kMargin, 0), m_emptyText);
     QRect text = painter.boundingRect(area, Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
     text.translate(0, (kIcon.height() + kGap) / 2);
     QRect icon({0, 0}, kIcon);

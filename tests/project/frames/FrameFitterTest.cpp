@@ -56,6 +56,8 @@ void FrameFitterTest::fittedRect_data()
     QTest::newRow("same ratio") << QSize(1600, 900) << kFitted << QRect(0, 0, 160, 90);
     QTest::newRow("bars left and right") << QSize(400, 300) << kFitted << QRect(20, 0, 120, 90);
     QTest::newRow("bars above and below") << QSize(320, 90) << kFitted << QRect(0, 22, 160, 45);
+    QTest::newRow("no bar of a pixel")
+        << QSize(1600, 900) << FrameFormat{QSize(326, 183), true, true} << QRect(0, 0, 326, 183);
     QTest::newRow("enlarged") << QSize(4, 3) << kFitted << QRect(20, 0, 120, 90);
     QTest::newRow("a line stays visible") << QSize(4000, 1) << kFitted << QRect(0, 44, 160, 1);
     QTest::newRow("stretched") << QSize(400, 300) << kStretched << QRect(0, 0, 160, 90);

@@ -3,6 +3,7 @@
 #include "chrome/Theme.h"
 #include "helpers/DialogDriver.h"
 #include "platform/FileManager.h"
+#include "sharing/upload/UploaderFactory.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -63,6 +64,10 @@ private slots:
         window.show();
         auto *pressed = window.findChild<QPushButton *>(button);
         QCOMPARE(pressed->text(), text);
+        if (!service.isEmpty())
+            QCOMPARE(pressed->toolTip(), uploadHindrance().isEmpty()
+                                             ? QStringLiteral("Upload the video to this service")
+                                             : uploadHindrance());
         QTest::mouseClick(pressed, Qt::LeftButton);
         QVERIFY(window.isHidden());
         QCOMPARE(uploads.isEmpty() ? QString() : uploads.first().first().toString(), service);

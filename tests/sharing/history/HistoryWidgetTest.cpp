@@ -112,7 +112,7 @@ private slots:
         DialogDriver driver;
         driver.expect([](QDialog *dialog) {
             QVERIFY(!dialog->findChild<QCheckBox *>()); // No file to delete.
-            QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("button0")),
+            QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("button1")),
                               Qt::LeftButton);
         });
         clickIn(gone, "btnDelete");
@@ -244,7 +244,7 @@ private slots:
             QVERIFY(tick && !tick->isChecked());
             QTest::mouseClick(tick, Qt::LeftButton, {}, QPoint(8, tick->height() / 2));
             QVERIFY(tick->isChecked());
-            QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("button0")),
+            QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("button1")),
                               Qt::LeftButton);
         });
         clickIn(row("old.mp4"), "btnDelete");

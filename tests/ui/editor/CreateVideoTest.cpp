@@ -11,6 +11,7 @@
 #include <QProgressBar>
 #include <QSignalSpy>
 #include <QStackedWidget>
+#include <QUndoStack>
 
 using namespace velmora;
 
@@ -23,6 +24,21 @@ private:
     void setName(const QString &name) { m->child<QLineEdit>("txtProjName")->setText(name); }
     int page() const { return m->child<QStackedWidget>("tcCreate")->currentIndex(); }
     Composer &composer() const { return m->page->createPanel().composer(); }
+
+    /// What arrives by itself while the page is locked by a render.
+    void editBehind(const QString &edit)
+    {
+        ProjectEditor &editor = m->page->editor();
+        ProjectEditor::Slides slides = m->items();
+        if (edit == QLatin1String("add"))
+            editor.addPhotos({m->makePhoto(QStringLiteral("late.png"))}, -1);
+        else if (edit == QLatin1String("relocate"))
+            editor.relocate(slides.last(), m->makePhoto(QStringLiteral("moved.png")));
+        else if (edit == QLatin1String("sort"))
+            editor.moveSlides({slides.last()}, 1);
+        else if (edit == QLatin1String("undo"))
+            editor.undoStack()->undo();
+    }
 
     std::unique_ptr<EditorPage> m;
 
@@ -106,22 +122,26 @@ private slots:
 
     void createMakesTheVideo_data()
     {
-        QTest::addColumn<bool>("lateEdit");
+        QTest::addColumn<QString>("lateEdits");
         QTest::addColumn<bool>("historyWritable");
-        QTest::newRow("usual") << false << true;
-        QTest::newRow("late edit") << true << true;
-        QTest::newRow("read-only history") << false << false;
+        QTest::newRow("usual") << QString() << true;
+        QTest::newRow("photo arrives") << QStringLiteral("add") << true;
+        QTest::newRow("photo relocated") << QStringLiteral("relocate") << true;
+        QTest::newRow("slides sorted") << QStringLiteral("sort") << true;
+        QTest::newRow("photo arrives and goes") << QStringLiteral("add undo") << true;
+        QTest::newRow("read-only history") << QString() << false;
     }
 
     void createMakesTheVideo()
     {
-        QFETCH(bool, lateEdit);
+        QFETCH(QString, lateEdits);
         QFETCH(bool, historyWritable);
         if (!historyWritable) {
             QVERIFY(QDir().mkpath(m->path("history.json")));
             m->answerNext(0);
         }
-        m->addPhotos(QStringLiteral("a"));
+        m->addPhotos(QStringLiteral("ab"));
+        const QStringList rendered = m->names();
         QSignalSpy finished(m->page.get(), &MainWindowWidget::finished);
         QSignalSpy ended(m->page.get(), &MainWindowWidget::progressFinished);
         QSignalSpy progress(m->page.get(), &MainWindowWidget::progress);
@@ -131,11 +151,13 @@ private slots:
         QCOMPARE(page(), 1);
         QVERIFY(m->page->isGenerating());
         QVERIFY(!m->table().isEnabled());
-        if (lateEdit)
-            m->page->editor().addPhotos({m->makePhoto(QStringLiteral("late.png"))}, -1);
+        for (const QString &edit : lateEdits.split(QLatin1Char(' ')))
+            editBehind(edit);
+        const bool isSame = lateEdits.isEmpty() || lateEdits.contains(QStringLiteral("undo"));
+        QCOMPARE(m->names() == rendered, isSame);
         QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, 120000);
         QCOMPARE(finished.count(), 1);
-        QCOMPARE(recorded.count(), lateEdit || !historyWritable ? 0 : 1);
+        QCOMPARE(recorded.count(), isSame && historyWritable ? 1 : 0);
         QCOMPARE(m->message().isEmpty(), historyWritable);
         const QString file = m->path("video!.mp4");
         QCOMPARE(finished.first().first().toString(), file);
@@ -143,7 +165,10 @@ private slots:
         QCOMPARE(progress.last().first().toInt(), 100);
         QCOMPARE(m->history->projects().size(), std::size_t(1));
         QCOMPARE(m->history->projects().front()->fileName(), file);
-        QCOMPARE(m->history->projects().front()->items().size(), 2);
+        QStringList kept;
+        for (const ProjectItem *slide : m->history->projects().front()->items())
+            kept.append(slide->title());
+        QCOMPARE(kept, rendered);
         QCOMPARE(page(), 0);
         QVERIFY(m->table().isEnabled());
         QVERIFY(m->child<QLineEdit>("txtProjName")->text().startsWith(QStringLiteral("sshow_")));

@@ -18,6 +18,7 @@
 #include <QSignalSpy>
 #include <QSlider>
 #include <QStackedWidget>
+#include <QTimer>
 
 using namespace velmora;
 
@@ -299,6 +300,40 @@ private slots:
             QStringLiteral("err0:") + place));
         MetricSender::instance().configure(QUrl(), {}, 99, false);
         qunsetenv("VELMORA_SITE_MANUAL");
+    }
+
+    void dialogsGiveTheFocusBack_data()
+    {
+        QTest::addColumn<QString>("opener");
+        QTest::addColumn<QString>("focused");
+        for (const char *opener : {"btnHelp", "btnSettings"})
+            QTest::addRow("%s, start page", opener) << opener << "btnOpen";
+        for (const char *opener : {"btnHelp", "btnSettings", "btnSort", "btnTotal"})
+            QTest::addRow("%s, editor", opener) << opener << "txtProjName";
+    }
+
+    void dialogsGiveTheFocusBack()
+    {
+        QFETCH(QString, opener);
+        QFETCH(QString, focused);
+        if (focused == QLatin1String("txtProjName"))
+            m->beginSlideshow();
+        auto *widget = m->child<QWidget>(focused.toLatin1());
+        widget->setFocus();
+        if (opener == QLatin1String("btnHelp") || opener == QLatin1String("btnTotal"))
+            m->dialogs.press(QStringLiteral("CLOSE"));
+        QTimer::singleShot(0, m->view.get(), [] {
+            if (QWidget *menu = QApplication::activePopupWidget())
+                menu->close();
+        });
+        m->click(opener.toLatin1());
+        auto *settings = m->child<QWidget>("settingsWidget");
+        if (settings->isVisible()) {
+            QVERIFY(settings->isAncestorOf(m->view->focusWidget()));
+            m->view->onSettingsHide();
+        }
+        QTRY_VERIFY(m->dialogs.failure().isEmpty() && !settings->isVisible());
+        QCOMPARE(m->view->focusWidget(), widget);
     }
 
     void builtInHelpListsTheKeys()

@@ -27,6 +27,9 @@ public:
         m_fixture.show();
         m_fixture.view->resize(m_size);
         look("start");
+        m_fixture.view->document().begin();
+        m_fixture.child<QStackedWidget>("pages")->setCurrentIndex(MainView::Editor);
+        look("editor-empty");
         m_fixture.view->openFiles(photos);
         QTRY_COMPARE(m_fixture.photos().size(), photos.size());
         lookAtEditor();

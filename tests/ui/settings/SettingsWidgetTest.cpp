@@ -106,6 +106,20 @@ private slots:
         QVERIFY(child<QLabel>("lblVersion")->text().startsWith(QStringLiteral("version 3.4.6 - ")));
     }
 
+    void everyControlIsThereOnce()
+    {
+        load();
+        QStringList names;
+        const QList<QWidget *> widgets = child<QFrame>("settingsPanel")->findChildren<QWidget *>();
+        for (const QWidget *widget : widgets) {
+            if (!widget->objectName().startsWith(QLatin1String("qt_")))
+                names.append(widget->objectName());
+        }
+        names.removeAll(QString());
+        QVERIFY(names.contains(QStringLiteral("btnFade")));
+        QCOMPARE(names.removeDuplicates(), 0);
+    }
+
     void savesEveryControl()
     {
         write(QStringLiteral("settings.ini"), "[General]\nlocale=en\n");

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/editor/RenderedProject.h"
+
+#include "app/AppSettings.h"
+#include "app/Paths.h"
+#include "generator/pipeline/RenderRequest.h"
+#include "project/documents/HistoryStore.h"
+#include "project/documents/Timeline.h"
+
+#include <QFile>
+
+namespace velmora
+{
+
+RenderedProject::~RenderedProject()
+{
+    removeRequest();
+}
+
+bool RenderedProject::begin(const ProjectFile &project, const AppSettings &settings,
+                            const QString &name, QString *error)
+{
+    m_request = QStringLiteral("%1/%2.json").arg(Paths::cacheFolder(), name);
+    *error = tr("The folder %1 cannot be made.").arg(Paths::cacheFolder());
+    if (!Paths::ensureFolder(Paths::cacheFolder()) ||
+        !RenderRequest::save(project, settings, m_request, error))
+        return false;
+    m_project = QJsonObject();
+    project.toJson(m_project);
+    m_videoLength = Timeline::ofProject(project, settings.transitionTime).totalLength();
+    return true;
+}
+
+void RenderedProject::removeRequest()
+{
+    if (!m_request.isEmpty())
+        QFile::remove(m_request);
+    m_request.clear();
+}
+
+bool RenderedProject::isSameAs(const ProjectFile &project) const
+{
+    QJsonObject now;
+    project.toJson(now);
+    return now == m_project;
+}
+
+bool RenderedProject::keepIn(HistoryStore &history, const AppSettings &settings,
+                             const QString &fileName, QString *error) const
+{
+    QStringList problems;
+    std::unique_ptr<ProjectFile> entry = ProjectFile::fromJson(m_project, settings, &problems);
+    if (!entry) {
+        *error = problems.join(QStringLiteral(", "));
+        return false;
+    }
+    entry->setFileName(fileName);
+    history.add(std::move(entry));
+    return history.save(error);
+}
+
+} // namespace velmora

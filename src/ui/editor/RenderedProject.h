@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCoreApplication>
+#include <QJsonObject>
+
+namespace velmora
+{
+
+struct AppSettings;
+class HistoryStore;
+class ProjectFile;
+
+/// The project as it was when its render began. Photos that were still on their way, or files from
+/// a second start of the program, may change the open one meanwhile; the video and its entry in the
+/// history do not have them. Removes the worker's request at its end. GUI thread.
+class RenderedProject
+{
+    Q_DECLARE_TR_FUNCTIONS(velmora::RenderedProject)
+public:
+    RenderedProject() = default;
+    ~RenderedProject();
+    Q_DISABLE_COPY(RenderedProject)
+
+    /// Takes @p project and writes it for the worker, in a file that is called @p name; false with
+    /// a reason for the user on failure.
+    bool begin(const ProjectFile &project, const AppSettings &settings, const QString &name,
+               QString *error);
+    const QString &request() const { return m_request; } ///< Empty: there is none.
+    /// Nobody reads it any more, and it holds the user's paths and texts.
+    void removeRequest();
+    qint64 videoLength() const { return m_videoLength; } ///< ms
+    /// Whether @p project has nothing that the video lacks, nor the other way round.
+    bool isSameAs(const ProjectFile &project) const;
+    /// Enters it in the history as the video @p fileName; false with a reason on failure.
+    bool keepIn(HistoryStore &history, const AppSettings &settings, const QString &fileName,
+                QString *error) const;
+
+private:
+    QString m_request;
+    QJsonObject m_project;
+    qint64 m_videoLength = 0;
+};
+
+} // namespace velmora
