@@ -137,7 +137,7 @@ void DropboxUploader::onError(int code, const QString &message)
         fail(text);
     else if (adoptOffset())
         send();
-    else if (answer.isCutOff())
+    else if (m_request.isCutOff())
         emit cutOff(m_failures);
     else if (answer.isTransient())
         retryLater();
