@@ -11,6 +11,6 @@ fi
 wineserver=/usr/lib/wine/wineserver64
 mkdir -p "$WINEPREFIX"
 "$wineserver" -p
-trap '"$wineserver" -k' EXIT
-"$(dirname "${BASH_SOURCE[0]}")/wine-run.sh" "$VELMORA_WINDOWS_SDK" wineboot -u
+trap 'timeout -k 5 60 "$wineserver" -k' EXIT
+timeout -k 5 300 "$(dirname "${BASH_SOURCE[0]}")/wine-run.sh" "$VELMORA_WINDOWS_SDK" wineboot -u
 "$@"

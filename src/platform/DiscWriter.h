@@ -25,9 +25,9 @@ struct DiscMedia {
     bool blank = false;      ///< It holds no data.
     bool appendable = false; ///< It holds data and takes a further session.
     bool erasable = false;   ///< It holds data and can be erased.
-    qint64 freeBytes = 0;    ///< Space for a new or further session.
-    qint64 erasedBytes = 0;  ///< Space once it is erased; 0 when it cannot be.
-    QString volumeName;      ///< Of the file system on it; may be empty.
+    /// Room for a new or further session; on a disc that takes none, what it has once it is erased.
+    qint64 freeBytes = 0;
+    QString volumeName; ///< Of the file system on it; may be empty.
 };
 
 /// The system's disc burning service. Any thread; calls wait for each other, and for a session to

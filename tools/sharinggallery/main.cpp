@@ -178,7 +178,6 @@ DiscMedia usedDisc()
     media.appendable = true;
     media.erasable = true;
     media.freeBytes = 4483LL * 1048576;
-    media.erasedBytes = 4483LL * 1048576;
     media.volumeName = QStringLiteral("Holidays 2025");
     return media;
 }

@@ -115,15 +115,17 @@ void examineOverwritable(BurnDrive &drive, DiscContent *content)
         content->readable = true;
         content->newSession = imageEnd(descriptor);
         media.volumeName = volumeName(descriptor);
-        media.appendable = !isFinalized(descriptor);
-        media.freeBytes = media.appendable ? drive.freeBytes(content->newSession) : 0;
+        const qint64 space = isFinalized(descriptor) ? 0 : drive.freeBytes(content->newSession);
+        media.appendable = space > 0;
+        media.freeBytes = space;
     } else if (looksBlank(drive)) {
         media.blank = true;
         media.freeBytes = drive.freeBytes();
         return;
     }
     media.erasable = true;
-    media.erasedBytes = drive.freeBytes();
+    if (!media.appendable)
+        media.freeBytes = drive.freeBytes();
     content->status = media.appendable ? QStringLiteral("appendable, overwritable")
                                        : QStringLiteral("closed, overwritable");
 }
@@ -143,12 +145,14 @@ void examineUsed(BurnDrive &drive, burn_disc_status status, DiscContent *content
     int next = 0;
     const bool known =
         burn_disc_track_lba_nwa(drive.handle(), nullptr, 0, &last, &next) > 0 && next > 0;
-    media.appendable = status == BURN_DISC_APPENDABLE && content->readable && known;
+    const qint64 space = status == BURN_DISC_APPENDABLE ? drive.freeBytes() : 0;
+    media.appendable = space > 0 && content->readable && known;
     content->newSession = known ? static_cast<std::uint32_t>(next) : 0;
     media.erasable = burn_disc_erasable(drive.handle()) != 0;
-    const qint64 space = status == BURN_DISC_APPENDABLE ? drive.freeBytes() : 0;
-    media.freeBytes = media.appendable ? space : 0;
-    media.erasedBytes = media.erasable ? erasedCapacity(drive, space) : 0;
+    if (media.appendable)
+        media.freeBytes = space;
+    else if (media.erasable)
+        media.freeBytes = erasedCapacity(drive, space);
 }
 
 } // namespace

@@ -22,21 +22,21 @@ qint64 freeBytes(IFileSystemImage *image)
                : 0;
 }
 
-/// A disc takes a further session when the drive can write it as it is and the service can read and
-/// go on with its file system.
+/// A disc takes a further session when the drive can write it as it is, the service can read and go
+/// on with its file system, and there is room.
 void examineContent(IDiscFormat2Data *data, IFileSystemImage *image, bool writable,
                     DiscMedia *media)
 {
-    media->appendable = writable && importFileSystem(data, image);
-    if (!media->appendable)
+    if (!writable || !importFileSystem(data, image))
         return;
     media->freeBytes = freeBytes(image);
+    media->appendable = media->freeBytes > 0;
     ComString name;
     if (stepSucceeded(image->get_VolumeName(name.receive()), "get_VolumeName"))
         media->volumeName = name.toString();
 }
 
-/// Whether the disc can be erased and what room it then has.
+/// Whether the disc can be erased, and what room it then has if that is the only way.
 void examineErasing(ImapiFactory &factory, IDiscRecorder2 *recorder, IDiscFormat2Data *data,
                     DiscMedia *media)
 {
@@ -52,7 +52,8 @@ void examineErasing(ImapiFactory &factory, IDiscRecorder2 *recorder, IDiscFormat
     if (!stepSucceeded(data->get_TotalSectorsOnMedia(&sectors), "get_TotalSectorsOnMedia"))
         return;
     media->erasable = true;
-    media->erasedBytes = sectors * kBlock;
+    if (!media->appendable)
+        media->freeBytes = sectors * kBlock;
 }
 
 } // namespace

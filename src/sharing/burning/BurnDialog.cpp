@@ -153,23 +153,20 @@ void BurnDialog::onMediaChecked(const DiscMedia &media)
     const int index = m_ui->cbDevices->currentIndex();
     if (index >= 0)
         m_ui->cbDevices->setItemText(index, deviceText(m_controller.devices().at(index)));
-    const qint64 size = QFileInfo(m_video).size();
-    const bool fits = size <= media.freeBytes;
-    // A full disc that can be erased has the room that it has without its content.
-    const bool fitsErased = media.erasable && size <= media.erasedBytes;
     if (!media.present)
         MessageDialog::inform(this, windowTitle(), tr("Media disk is not ready"));
-    else if (!fits && !fitsErased)
+    else if (QFileInfo(m_video).size() > media.freeBytes)
         MessageDialog::inform(this, windowTitle(),
                               tr("There is not enough disc space for the slideshow"));
     else if (!media.blank)
-        askAboutContent(media, media.appendable && fits);
+        askAboutContent(media);
     else
         start(false);
 }
 
-void BurnDialog::askAboutContent(const DiscMedia &media, bool mayAdd)
+void BurnDialog::askAboutContent(const DiscMedia &media)
 {
+    const bool mayAdd = media.appendable;
     m_ui->lbDiskName->setText(media.volumeName);
     m_ui->lbDiskName->setVisible(!media.volumeName.isEmpty());
     m_ui->lbButtonsInfo->setText(

@@ -51,7 +51,7 @@ private:
     void onDevicesChanged();
     void onMediaChecked(const DiscMedia &media);
     void onBurnFinished(bool succeeded);
-    void askAboutContent(const DiscMedia &media, bool mayAdd);
+    void askAboutContent(const DiscMedia &media);
     void start(bool erase);
     void showProblem(const QString &text);
     void setBusy(const QString &text);

@@ -13,11 +13,15 @@ constexpr int Gap = 16;
 constexpr int RowHeight = 72;
 constexpr int PictureWidth = 80;
 constexpr int PictureHeight = 54;
-constexpr int Date = 96;
-constexpr int Resolution = 92;
-constexpr int Duration = 84;
-constexpr int Size = 84;
 constexpr int Action = 156;
+
+/// Of columns that hold text.
+struct Widths {
+    int date;
+    int resolution;
+    int duration;
+    int size;
+};
 
 } // namespace HistoryColumns
 

@@ -2,15 +2,39 @@
 #include "sharing/history/HistoryHeader.h"
 
 #include "chrome/Theme.h"
-#include "sharing/history/HistoryColumns.h"
+#include "sharing/history/HistoryRowWidget.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVariant>
 
+#include <algorithm>
+
 namespace velmora
 {
+
+namespace
+{
+
+int fittingWidth(int least, const QStringList &texts)
+{
+    int width = least;
+    for (const QString &text : texts)
+        width = std::max(width, QLabel(text).sizeHint().width());
+    return width;
+}
+
+} // namespace
+
+HistoryColumns::Widths HistoryHeader::columnWidths()
+{
+    return {fittingWidth(96, {tr("Date"), QStringLiteral("00.00.0000")}),
+            fittingWidth(92, {tr("Resolution"), QStringLiteral("0000x0000")}),
+            fittingWidth(84, {tr("Duration"), QStringLiteral("00:00:00")}),
+            fittingWidth(84, {tr("Size"), HistoryRowWidget::tr("%1 MB").arg(10000),
+                              HistoryRowWidget::tr("removed")})};
+}
 
 HistoryHeader::HistoryHeader(QWidget *parent) : QWidget(parent)
 {
@@ -23,7 +47,8 @@ HistoryHeader::HistoryHeader(QWidget *parent) : QWidget(parent)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(Margin + PictureWidth + Gap - kButtonPadding, 4, Margin, 4);
     layout->setSpacing(Gap);
-    m_date->setFixedWidth(kButtonPadding + Date);
+    const Widths widths = columnWidths();
+    m_date->setFixedWidth(kButtonPadding + widths.date);
     layout->addWidget(m_date);
     // The text of the button stands above the text of the rows.
     layout->addSpacing(-kButtonPadding);
@@ -35,9 +60,9 @@ HistoryHeader::HistoryHeader(QWidget *parent) : QWidget(parent)
         label->setFixedWidth(width);
         layout->addWidget(label);
     };
-    addLabel(tr("Resolution"), Resolution);
-    addLabel(tr("Duration"), Duration);
-    addLabel(tr("Size"), Size);
+    addLabel(tr("Resolution"), widths.resolution);
+    addLabel(tr("Duration"), widths.duration);
+    addLabel(tr("Size"), widths.size);
     addLabel(tr("Action"), Action);
 }
 

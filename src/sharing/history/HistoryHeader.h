@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "sharing/history/HistoryColumns.h"
+
 #include <QWidget>
 
 class QPushButton;
@@ -14,6 +16,9 @@ class HistoryHeader : public QWidget
     Q_OBJECT
 public:
     explicit HistoryHeader(QWidget *parent = nullptr);
+
+    /// Wide enough for names and values, whatever language and font.
+    static HistoryColumns::Widths columnWidths();
 
     /// Keeps the columns above those of a list that leaves @p width px free at its right.
     void setFreeSpace(int width);

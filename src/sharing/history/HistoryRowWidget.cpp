@@ -5,7 +5,7 @@
 #include "chrome/Theme.h"
 #include "project/documents/ProjectFile.h"
 #include "project/slides/ProjectItemFirst.h"
-#include "sharing/history/HistoryColumns.h"
+#include "sharing/history/HistoryHeader.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -87,12 +87,13 @@ HistoryRowWidget::HistoryRowWidget(QWidget *parent) : QWidget(parent)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(Margin, 0, Margin, 0);
     layout->setSpacing(Gap);
+    const Widths widths = HistoryHeader::columnWidths();
     m_picture = createLabel(layout, "lblPicture", PictureWidth);
-    m_date = createLabel(layout, "lblDate", Date);
+    m_date = createLabel(layout, "lblDate", widths.date);
     m_fileName = createLabel(layout, "lblFileName", 0);
-    m_resolution = createLabel(layout, "lblResolution", Resolution);
-    m_duration = createLabel(layout, "lblDuration", Duration);
-    m_size = createLabel(layout, "lblSize", Size);
+    m_resolution = createLabel(layout, "lblResolution", widths.resolution);
+    m_duration = createLabel(layout, "lblDuration", widths.duration);
+    m_size = createLabel(layout, "lblSize", widths.size);
     createButtons(layout);
     setPicture({});
     setSelected(false);

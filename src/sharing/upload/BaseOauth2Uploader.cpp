@@ -44,6 +44,11 @@ void BaseOauth2Uploader::abort()
     fail(tr("Operation was canceled"));
 }
 
+void BaseOauth2Uploader::onNoToken(const QString &problem)
+{
+    fail(problem);
+}
+
 std::unique_ptr<LoopbackReplyHandler> BaseOauth2Uploader::createReplyHandler()
 {
     return std::make_unique<LoopbackReplyHandler>(setup().port);
@@ -112,7 +117,7 @@ void BaseOauth2Uploader::handleRefreshReply()
     if (!answer.isAnswer()) {
         // A sign-in would meet the same trouble.
         qCWarning(lcSharing).noquote() << "No answer to the refresh:" << answer.errorString;
-        fail(answer.problem());
+        onNoToken(answer.problem());
         return;
     }
     const TokenAnswer tokens = TokenAnswer::fromJson(answer.body);

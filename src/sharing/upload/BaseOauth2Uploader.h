@@ -36,6 +36,8 @@ protected:
     virtual void begin() = 0;
     /// There is a fresh access token. @p refreshToken is empty when only that was refreshed.
     virtual void onToken(const QString &accessToken, const QString &refreshToken) = 0;
+    /// The service cannot be asked for a token; @p problem is the text for the user. Here, the end.
+    virtual void onNoToken(const QString &problem);
     virtual std::unique_ptr<LoopbackReplyHandler> createReplyHandler();
     /// The address of the sign-in page before the flow adds to it.
     virtual QUrl authorizationUrl(const LoopbackReplyHandler &handler) const;

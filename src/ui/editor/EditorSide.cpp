@@ -13,6 +13,7 @@ namespace velmora
 namespace
 {
 
+constexpr int kSmallestWidth = 352;   // px
 constexpr int kGap = 16;              // px
 constexpr int kTabGap = 8;            // px between the tabs and what they show
 constexpr int kPreviewControls = 160; // px beside a picture of 16:9 that fills the width
@@ -70,13 +71,15 @@ QSize EditorSide::minimumSizeHint() const
     const int part = std::max(m_preview->minimumSizeHint().height(), tallestGroup() + kTabGap);
     const int height =
         m_bar->sizeHint().height() + part + kGap + m_create->minimumSizeHint().height();
-    return {m_column->minimumSize().width(), height};
+    return {leastWidth(), height};
 }
 
 bool EditorSide::event(QEvent *event)
 {
-    if (event->type() == QEvent::LayoutRequest)
-        arrange(); // a part needs more or less room, as after a change of the language
+    if (event->type() == QEvent::LayoutRequest) {
+        arrange();
+        emit partsChanged();
+    }
     return QWidget::event(event);
 }
 
@@ -89,6 +92,16 @@ void EditorSide::resizeEvent(QResizeEvent *event)
 int EditorSide::previewHeight() const
 {
     return width() * 9 / 16 + kPreviewControls;
+}
+
+/// Also of what is not shown now, as tabs must not change the width. The preview adapts itself to
+/// any.
+int EditorSide::leastWidth() const
+{
+    int width = std::max(kSmallestWidth, m_create->minimumSizeHint().width());
+    for (const QWidget *group : m_groups)
+        width = std::max(width, group->minimumSizeHint().width());
+    return width;
 }
 
 int EditorSide::tallestGroup() const

@@ -31,17 +31,20 @@ public:
     /// Brings the preview to sight.
     void showPreview();
 
-    /// What the tabs need, whatever is shown now: a window can always become smaller again.
+    /// What the tabs need, whatever is shown now: no text is cut off, and a window can always
+    /// become smaller again.
     QSize minimumSizeHint() const override;
 
 signals:
     void modeChanged(velmora::EditorSide::Mode mode);
+    void partsChanged(); ///< They may need more or less room, as after a change of the language.
 
 protected:
     bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    int leastWidth() const;
     int previewHeight() const;
     int tallestGroup() const;
     Mode fittingMode() const;

@@ -31,7 +31,6 @@ namespace
 {
 
 constexpr int kGap = 16;            // px
-constexpr int kSmallestSide = 352;  // px
 constexpr int kWidestSide = 672;    // px
 constexpr double kSideShare = 0.34; // of the page's width
 
@@ -78,13 +77,13 @@ void MainWindowWidget::setUpSlideStack()
 void MainWindowWidget::setUpSide()
 {
     m_side->setObjectName(QStringLiteral("editorSide"));
-    m_side->setMinimumWidth(kSmallestSide);
     m_side->addGroup(m_video, false);
     m_side->addGroup(m_audio, true);
     const auto showHeading = [this](EditorSide::Mode mode) {
         m_video->setHeadingVisible(mode == EditorSide::Mode::All);
     };
     connect(m_side, &EditorSide::modeChanged, this, showHeading);
+    connect(m_side, &EditorSide::partsChanged, this, &MainWindowWidget::fitSide);
     showHeading(m_side->mode());
 }
 
@@ -282,9 +281,13 @@ void MainWindowWidget::hideEvent(QHideEvent *event)
 void MainWindowWidget::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    const int width = std::min(
-        std::max(static_cast<int>(kSideShare * event->size().width()), kSmallestSide), kWidestSide);
-    m_side->setMaximumWidth(width);
+    fitSide();
+}
+
+void MainWindowWidget::fitSide()
+{
+    const int share = std::min(static_cast<int>(kSideShare * width()), kWidestSide);
+    m_side->setMaximumWidth(std::max(share, m_side->minimumSizeHint().width()));
 }
 
 void MainWindowWidget::setProject(ProjectFile *project)

@@ -93,6 +93,7 @@ private:
     void updateActions();
     void setGenerating(bool generating);
     void silence();
+    void fitSide();
     void editCaption(ProjectItem *slide);
     void editCaptionOfAll();
     void beginTextEditing();

@@ -56,6 +56,7 @@ class Model:
             self.sessions = {}  # identifier -> Digest
             self.answer = "page"  # to a sign-in: "page", "allow" or "deny"
             self.give_refresh = True
+            self.hasty = False  # refuses expired tokens without reading the rest of the request
             self.version = "99.0.0"
 
     def problem(self, text):

@@ -79,8 +79,11 @@ class Handler(BaseHTTPRequestHandler):
             answer = as_json(400, {"error": {"message": "The request is wrong: %s" % wrong},
                                    "error_summary": str(wrong)})
         # A client that still sends would lose the answer with the connection.
-        for _ in self.body.pieces():
-            pass
+        if model.hasty and answer[0] == 401:
+            self.close_connection = True
+        else:
+            for _ in self.body.pieces():
+                pass
         if action and action.get("drop") == "answer":
             self.cut()
             return
@@ -190,7 +193,7 @@ class Handler(BaseHTTPRequestHandler):
                 model.failures.setdefault(step, []).extend(actions)
             if orders.get("expire"):
                 model.access.clear()
-            for name in ("answer", "give_refresh", "version"):
+            for name in ("answer", "give_refresh", "hasty", "version"):
                 setattr(model, name, orders.get(name, getattr(model, name)))
             grant = orders.get("grant")
             tokens = {} if not grant else {"access_token": model.new_access(grant),

@@ -131,7 +131,7 @@ private slots:
         QVERIFY(media.appendable);
         QVERIFY(media.erasable);
         QCOMPARE(media.volumeName, QStringLiteral("Sommer 2026"));
-        QVERIFY(media.freeBytes > 0 && media.freeBytes <= media.erasedBytes);
+        QVERIFY(media.freeBytes > 0);
     }
 
     void secondSessionKeepsTheFirst()
@@ -162,7 +162,8 @@ private slots:
         QVERIFY(media.present);
         QVERIFY(!media.blank);
         QVERIFY(!media.appendable);
-        QCOMPARE(media.freeBytes, 0);
+        QVERIFY(media.erasable);
+        QVERIFY(media.freeBytes > m_bytes.size()); // Once it is erased.
         const QByteArray disc = contentOf(image());
         LogCapture log;
         QVERIFY(!burn(drive(image()), m_video, QStringLiteral("more.mp4")));
@@ -201,6 +202,7 @@ private slots:
         file.close();
         const DiscMedia media = m_writer.media(drive(image()));
         QVERIFY(!media.blank && !media.appendable && media.erasable);
+        QVERIFY(media.freeBytes > m_bytes.size()); // Once it is erased.
         QVERIFY(!burn(drive(image()), m_video, QStringLiteral("film.mp4")));
         QVERIFY(burn(drive(image()), m_video, QStringLiteral("film.mp4"), false, true));
         QCOMPARE(extract(QStringLiteral("film.mp4")), m_bytes);

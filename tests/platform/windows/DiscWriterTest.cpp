@@ -96,39 +96,43 @@ void DiscWriterTest::looksAtDiscs_data()
 {
     QTest::addColumn<bool>("blank");
     QTest::addColumn<int>("status");
+    QTest::addColumn<int>("room"); // For a session.
     QTest::addColumn<bool>("erasable");
     QTest::addColumn<QString>("failing");
-    QTest::addColumn<QString>("found"); // Free and erased room in blocks.
+    QTest::addColumn<QString>("found"); // With the room in blocks.
     const QString none;
-    QTest::newRow("blank") << true << 2 << true << none << QStringLiteral("blank 1000 0 ");
-    QTest::newRow("open") << false << 4 << false << none
-                          << QStringLiteral("appendable 1000 0 Holidays");
-    QTest::newRow("open and rewritable")
-        << false << 4 << true << none
-        << QStringLiteral("appendable erasable 1000 2295104 Holidays");
-    QTest::newRow("closed") << false << 0x4000 << false << none << QStringLiteral("0 0 ");
+    QTest::newRow("blank") << true << 2 << 1000 << true << none << QStringLiteral("blank 1000 ");
+    QTest::newRow("open") << false << 4 << 1000 << false << none
+                          << QStringLiteral("appendable 1000 Holidays");
+    QTest::newRow("open and rewritable") << false << 4 << 1000 << true << none
+                                         << QStringLiteral("appendable erasable 1000 Holidays");
+    QTest::newRow("full and rewritable")
+        << false << 4 << 0 << true << none << QStringLiteral("erasable 2295104 Holidays");
+    QTest::newRow("closed") << false << 0x4000 << 1000 << false << none << QStringLiteral("0 ");
     QTest::newRow("closed and rewritable")
-        << false << 0x4000 << true << none << QStringLiteral("erasable 0 2295104 ");
-    QTest::newRow("foreign") << false << 4 << true
+        << false << 0x4000 << 1000 << true << none << QStringLiteral("erasable 2295104 ");
+    QTest::newRow("foreign") << false << 4 << 1000 << true
                              << QStringLiteral("MsftFileSystemImage ImportFileSystem")
-                             << QStringLiteral("erasable 0 2295104 ");
+                             << QStringLiteral("erasable 2295104 ");
     for (const char *call :
          {"CoCreateInstance MsftDiscRecorder2", "MsftDiscFormat2Data get_CurrentMediaStatus"})
-        QTest::newRow(call) << true << 2 << true << QString::fromLatin1(call)
+        QTest::newRow(call) << true << 2 << 1000 << true << QString::fromLatin1(call)
                             << QStringLiteral("absent");
-    QTest::newRow("no disc") << true << 0 << true << none << QStringLiteral("absent");
+    QTest::newRow("no disc") << true << 0 << 1000 << true << none << QStringLiteral("absent");
 }
 
 void DiscWriterTest::looksAtDiscs()
 {
     QFETCH(bool, blank);
     QFETCH(int, status);
+    QFETCH(int, room);
     QFETCH(bool, erasable);
     QFETCH(QString, failing);
     QFETCH(QString, found);
     m_disc->blank = blank;
     m_disc->status = status;
     m_disc->erasable = erasable;
+    m_disc->freeBlocks = room;
     m_disc->failing = failing;
     LogCapture log;
     const DiscMedia media = m_writer->media(QStringLiteral("drive0"));
@@ -137,10 +141,7 @@ void DiscWriterTest::looksAtDiscs()
         text = QLatin1String(media.blank ? "blank " : "") +
                QLatin1String(media.appendable ? "appendable " : "") +
                QLatin1String(media.erasable ? "erasable " : "") +
-               QStringLiteral("%1 %2 %3")
-                   .arg(media.freeBytes / 2048)
-                   .arg(media.erasedBytes / 2048)
-                   .arg(media.volumeName);
+               QStringLiteral("%1 %2").arg(media.freeBytes / 2048).arg(media.volumeName);
     QCOMPARE(text, found);
     QCOMPARE(log.lines(QtWarningMsg).size(), failing.isEmpty() ? 0 : 1);
 }

@@ -77,7 +77,7 @@ FakeComObject *FakeParts::makeImage(FakeDisc &fake)
         });
     image->on(
         10, +[](FakeComObject *self, LONG *value) -> HRESULT {
-            return answer(self, "get_FreeMediaBlocks", value, LONG(1000));
+            return answer(self, "get_FreeMediaBlocks", value, disc(self).freeBlocks);
         });
     image->on(
         14, +[](FakeComObject *self, BSTR *value) -> HRESULT {

@@ -19,7 +19,8 @@ struct FakeDisc : ComRecord {
     LONG mediaType = 10;                    ///< DVD-RW.
     QVector<LONG> supportedTypes = {2, 10}; ///< CD-R too.
     bool erasable = true;
-    QStringList files; ///< In the root folder.
+    LONG freeBlocks = 1000; ///< For one more session.
+    QStringList files;      ///< In the root folder.
     /// Elapsed and expected, one event each; with a negative first one the event has other
     /// arguments, with a negative second one they do not tell.
     QVector<QPair<LONG, LONG>> seconds;

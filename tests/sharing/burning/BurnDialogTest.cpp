@@ -33,14 +33,13 @@ DiscMedia blank(qint64 megabytes)
     return media;
 }
 
-DiscMedia used(qint64 free, qint64 erased, bool appendable)
+DiscMedia used(qint64 free, bool appendable, bool erasable = true)
 {
     DiscMedia media;
     media.present = true;
     media.appendable = appendable;
-    media.erasable = erased > 0;
+    media.erasable = erasable;
     media.freeBytes = free * kMegabyte;
-    media.erasedBytes = erased * kMegabyte;
     media.volumeName = QStringLiteral("Holidays");
     return media;
 }
@@ -169,8 +168,9 @@ private slots:
         const QString small = QStringLiteral("There is not enough disc space for the slideshow");
         QTest::newRow("no disc") << DiscMedia() << QStringLiteral("Media disk is not ready");
         QTest::newRow("too small") << blank(2) << small;
-        QTest::newRow("closed") << used(0, 0, false) << small;
-        QTest::newRow("full, too small when erased") << used(1, 2, true) << small;
+        QTest::newRow("closed for good") << used(0, false, false) << small;
+        QTest::newRow("too little left") << used(2, true) << small;
+        QTest::newRow("too small when erased") << used(2, false) << small;
     }
 
     void refusals()
@@ -195,12 +195,11 @@ private slots:
         QTest::addColumn<QString>("button");
         QTest::addColumn<QString>("firstSteps");
         const QString erase = QStringLiteral("open 0,erase");
-        QTest::newRow("add") << used(700, 4000, true) << true << "btnNo"
+        QTest::newRow("add") << used(700, true) << true << "btnNo"
                              << QStringLiteral("open 0,check");
-        QTest::newRow("erase") << used(700, 4000, true) << true << "btnYes" << erase;
-        QTest::newRow("closed") << used(700, 4000, false) << false << "btnYes" << erase;
-        QTest::newRow("full") << used(1, 4000, true) << false << "btnYes" << erase;
-        QTest::newRow("cancel") << used(700, 4000, true) << true << "btnCancelTwo" << QString();
+        QTest::newRow("erase") << used(700, true) << true << "btnYes" << erase;
+        QTest::newRow("closed or full") << used(700, false) << false << "btnYes" << erase;
+        QTest::newRow("cancel") << used(700, true) << true << "btnCancelTwo" << QString();
     }
 
     void contentIsAskedAbout()
@@ -283,7 +282,7 @@ private slots:
     void failingStep()
     {
         QFETCH(int, steps);
-        m_state->media = used(700, 4000, true);
+        m_state->media = used(700, true);
         m_state->failingStep = QString::fromLatin1(QTest::currentDataTag());
         open();
         click("btnBurn");

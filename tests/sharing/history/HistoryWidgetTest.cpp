@@ -66,6 +66,21 @@ private slots:
         QCOMPARE(text(row("new.mp4"), "lblSize"), QStringLiteral("250 MB"));
     }
 
+    void columnsFitTheFont()
+    {
+        const QString style = qApp->styleSheet();
+        qApp->setStyleSheet(style + QStringLiteral("* { font-size: 24px; }"));
+        show();
+        QList<QLabel *> labels = find<HistoryHeader>("header")->findChildren<QLabel *>();
+        labels += row("gone.mp4")->findChildren<QLabel *>();
+        for (const QLabel *label : qAsConst(labels)) {
+            const bool elides = label->objectName() == QLatin1String("lblFileName");
+            QVERIFY2(elides || label->width() >= label->sizeHint().width(),
+                     qPrintable(label->text()));
+        }
+        qApp->setStyleSheet(style);
+    }
+
     /// With and without a scroll bar, whatever page was visible when it came or went.
     void headerStandsAboveTheRows()
     {

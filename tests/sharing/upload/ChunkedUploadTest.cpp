@@ -122,6 +122,7 @@ private slots:
         user.configure({{QStringLiteral("network/timeout"), QStringLiteral("1")}});
         user.grant(kService, QStringLiteral("db"));
         m_services.fail(step, failure, times);
+        m_services.fail(QStringLiteral("refresh"), FakeServices::action(R"({"drop": 0})"), 99);
         const UploadCourse course = user.run(kService, user.video(kLarge));
         QCOMPARE(course.failed.join(QString()), QString());
         QCOMPARE(m_services.problems().join(QLatin1Char('\n')), QString());
@@ -163,6 +164,43 @@ private slots:
 
     void expiredTokenIsRenewed();
 
+    void earlyRefusalIsNoticed_data()
+    {
+        QTest::addColumn<bool>("hasRefreshToken");
+        QTest::addColumn<QString>("retryDelay");
+        QTest::addColumn<QString>("refresh"); ///< How that ends.
+        QTest::addColumn<int>("signIns");
+        QTest::newRow("refresh") << true << "600000"
+                                 << "" << 0;
+        QTest::newRow("refused refresh") << true << "600000"
+                                         << R"({"status": 400})" << 1;
+        QTest::newRow("sign-in") << false << "1"
+                                 << "" << 1;
+    }
+
+    /// The answer is lost with the connection, and repeating the request would not help.
+    void earlyRefusalIsNoticed()
+    {
+        QFETCH(bool, hasRefreshToken);
+        QFETCH(QString, retryDelay);
+        QFETCH(QString, refresh);
+        QFETCH(int, signIns);
+        UploadFixture user(m_services);
+        user.configure({{QStringLiteral("network/retry_delay"), retryDelay}});
+        user.grant(kService, QStringLiteral("db"));
+        if (!hasRefreshToken)
+            forgetRefreshToken(user);
+        m_services.control({{QStringLiteral("expire"), true}, {QStringLiteral("hasty"), true}});
+        if (!refresh.isEmpty())
+            m_services.fail(QStringLiteral("refresh"),
+                            FakeServices::action(refresh.toLatin1().constData()));
+        const UploadCourse course = user.run(kService, user.video(kLarge));
+        QCOMPARE(course.failed.join(QString()), QString());
+        QCOMPARE(course.signIns, signIns);
+        QCOMPARE(m_services.steps().count(QStringLiteral("refresh")), hasRefreshToken ? 1 : 0);
+        QVERIFY(user.hasArrived());
+    }
+
     void refusedTokenEndsAfterOneSignIn();
     void cancelWhileWaiting()
     {
@@ -193,6 +231,14 @@ private slots:
     }
 
 private:
+    static void forgetRefreshToken(UploadFixture &user)
+    {
+        const QString key = QStringLiteral("db");
+        QJsonObject tokens = QJsonDocument::fromJson(user.load(key).toUtf8()).object();
+        tokens.remove(QStringLiteral("refresh_token"));
+        user.save(key, QString::fromUtf8(QJsonDocument(tokens).toJson()));
+    }
+
     QVector<int> lengths(const QString &step = QString())
     {
         QVector<int> all;
@@ -254,13 +300,8 @@ void ChunkedUploadTest::expiredTokenIsRenewed()
     QFETCH(bool, refreshes);
     UploadFixture user(m_services);
     user.grant(kService, QStringLiteral("db"));
-    if (!refreshes) {
-        const QJsonObject tokens =
-            QJsonDocument::fromJson(user.load(QStringLiteral("db")).toUtf8()).object();
-        const QJsonObject access{
-            {QStringLiteral("access_token"), tokens.value(QLatin1String("access_token"))}};
-        user.save(QStringLiteral("db"), QString::fromUtf8(QJsonDocument(access).toJson()));
-    }
+    if (!refreshes)
+        forgetRefreshToken(user);
     if (step == QLatin1String("start"))
         m_services.control({{QStringLiteral("expire"), true}});
     else

@@ -67,6 +67,16 @@ private slots:
         QVERIFY(isShown("btnCreate"));
     }
 
+    void longTextsAreShownWhole()
+    {
+        m->page->resize(1024, 604);
+        auto *button = m->child<QPushButton>("btnAddAudio");
+        button->setText(QString(20, QLatin1Char('M')));
+        m->child<QTabBar>("sideTabs")->setCurrentIndex(2);
+        QTRY_VERIFY(button->isVisible());
+        QTRY_VERIFY(button->width() >= button->sizeHint().width());
+    }
+
     void windowBecomesSmallAgain()
     {
         const auto *side = m->child<EditorSide>("editorSide");

@@ -19,6 +19,7 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QLineEdit>
+#include <QListView>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -115,13 +116,9 @@ public:
                 quoted.append(QLatin1Char('"') + file + QLatin1Char('"'));
             auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
             const QString text = quoted.size() == 1 ? files.first() : quoted.join(QLatin1Char(' '));
-            if (fileDialog->acceptMode() == QFileDialog::AcceptSave) {
-                // Only typed text takes the place of the name that is proposed.
-                name->selectAll();
-                QTest::keyClicks(name, text);
-            } else {
-                name->setText(text);
-            }
+            // A file of the name that is proposed is selected, and would be the choice.
+            dialog->findChild<QListView *>(QStringLiteral("listView"))->clearSelection();
+            name->setText(text);
             const auto *buttons = dialog->findChild<QDialogButtonBox *>();
             const auto accept = fileDialog->acceptMode() == QFileDialog::AcceptSave
                                     ? QDialogButtonBox::Save

@@ -73,7 +73,7 @@ private:
         for (int row = 0; row < 2; ++row) {
             table->selectRow(row);
             table->setFocus();
-            QTest::keyClick(table, Qt::Key_F2);
+            m_fixture.press(Qt::Key_F2);
             QTRY_VERIFY(m_fixture.view->editorPage().isEditingText());
             look(names[row]);
             m_fixture.click("butCancelText");

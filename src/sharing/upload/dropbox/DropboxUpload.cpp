@@ -32,6 +32,11 @@ DropboxUpload::DropboxUpload(const QString &fileName, const ServiceSetup &setup,
     connect(m_uploader, &Client::failed, this,
             [this] { emit uploaderFailed(m_uploader->errorText()); });
     connect(m_uploader, &Client::unauthorized, this, &DropboxUpload::onUnauthorized);
+    connect(m_uploader, &Client::cutOff, this, &DropboxUpload::onCutOff);
+    connect(m_uploader, &Client::acknowledged, this, [this] {
+        m_asked = false;
+        m_tokenTaken = true;
+    });
     connect(m_uploader, &Client::operationAborted, this, [this] {
         emit uploaderFailed(
             QCoreApplication::translate("velmora::DropboxUpload", "Operation was canceled"));
@@ -77,6 +82,7 @@ void DropboxUpload::onTokenReceived(QString accessToken, QString refreshToken)
 
 void DropboxUpload::start()
 {
+    m_cutOff = false;
     m_uploader->setAccessToken(m_accessToken);
     if (m_started) {
         m_uploader->resume();
@@ -95,6 +101,30 @@ void DropboxUpload::onUnauthorized(const QString &error)
     }
     m_asked = true;
     emit tokenExpired(m_refreshToken);
+}
+
+// Without a refresh token the user would be asked, and that only with good reason.
+void DropboxUpload::onCutOff(int times)
+{
+    const bool worthAsking = !m_refreshToken.isEmpty() || (times > 1 && !m_tokenTaken);
+    if (m_asked || !worthAsking) {
+        m_uploader->retryLater();
+        return;
+    }
+    m_asked = true;
+    m_cutOff = true;
+    emit tokenExpired(m_refreshToken);
+}
+
+void DropboxUpload::onTokenUnavailable(const QString &error)
+{
+    if (!m_cutOff) {
+        emit uploaderFailed(error);
+        return;
+    }
+    m_cutOff = false;
+    m_asked = false;
+    m_uploader->retryLater();
 }
 
 } // namespace velmora

@@ -17,7 +17,8 @@ class DropboxUploader;
 }
 
 /// The transfer of one file to the file-sharing service, and the tokens it needs for that. Asks for
-/// a fresh token once when the service no longer takes the stored one. GUI thread.
+/// a fresh token when the service no longer takes the one it has, and again only once something was
+/// acknowledged with that. GUI thread.
 class DropboxUpload : public QObject
 {
     Q_OBJECT
@@ -33,18 +34,22 @@ public slots:
     /// Stores the tokens and starts the transfer, or goes on with it. Without @p refreshToken the
     /// one known so far is kept.
     void onTokenReceived(QString accessToken, QString refreshToken);
+    /// There is none for now, because of @p error.
+    void onTokenUnavailable(const QString &error);
 
 signals:
     void uploaderStarted(); ///< The first request is sent; once.
     void uploaderFinished(QString path);
     void uploaderFailed(QString error);
     void uploaderProgress(qint64 uploaded, qint64 total);
-    /// Answer with onTokenReceived(). @p refreshToken is empty when the user must sign in.
+    /// Answer with onTokenReceived() or onTokenUnavailable(). @p refreshToken is empty when the
+    /// user must sign in.
     void tokenExpired(const QString &refreshToken);
 
 private:
     void loadTokens();
     void onUnauthorized(const QString &error);
+    void onCutOff(int times);
     void start();
 
     const QString m_fileName;
@@ -55,7 +60,9 @@ private:
     QString m_refreshToken;
     DropboxClient::DropboxUploader *m_uploader;
     bool m_started = false;
-    bool m_asked = false; ///< For a fresh token.
+    bool m_asked = false;      ///< For a fresh token.
+    bool m_cutOff = false;     ///< That was why.
+    bool m_tokenTaken = false; ///< The service has acknowledged something.
 };
 
 } // namespace velmora

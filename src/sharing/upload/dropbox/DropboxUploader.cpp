@@ -41,6 +41,11 @@ void DropboxUploader::onToken(const QString &accessToken, const QString &refresh
     m_upload->onTokenReceived(accessToken, refreshToken);
 }
 
+void DropboxUploader::onNoToken(const QString &problem)
+{
+    m_upload->onTokenUnavailable(problem);
+}
+
 void DropboxUploader::abort()
 {
     // The transfer reports the end; a sign-in has no transfer yet.

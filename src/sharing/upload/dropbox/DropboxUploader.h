@@ -23,6 +23,7 @@ public slots:
 protected:
     void begin() override;
     void onToken(const QString &accessToken, const QString &refreshToken) override;
+    void onNoToken(const QString &problem) override;
     std::unique_ptr<LoopbackReplyHandler> createReplyHandler() override;
     QUrl authorizationUrl(const LoopbackReplyHandler &handler) const override;
 

@@ -56,6 +56,13 @@ bool HttpAnswer::isAnswer() const
     return kind == Kind::Answered || kind == Kind::Redirected || kind == Kind::TooLarge;
 }
 
+bool HttpAnswer::isBroken() const
+{
+    // Qt knows no name for the error of a connection that is reset while it is read.
+    return kind == Kind::Unreachable && (error == QNetworkReply::RemoteHostClosedError ||
+                                         error == QNetworkReply::UnknownNetworkError);
+}
+
 bool HttpAnswer::isTransient() const
 {
     return kind == Kind::Unreachable || kind == Kind::Stalled ||

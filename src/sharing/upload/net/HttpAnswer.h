@@ -36,6 +36,8 @@ public:
     bool isSuccess() const { return kind == Kind::Answered && status >= 200 && status < 300; }
     /// Whether the service answered at all.
     bool isAnswer() const;
+    /// Whether the connection broke for no reason that is known. It may not even have come about.
+    bool isBroken() const;
     /// Whether the same request may well succeed later.
     bool isTransient() const;
     /// The body for the log, not all of it if it is long.

@@ -36,7 +36,9 @@ void ApiRequest::post(const QUrl &address, const QByteArray &argument, const QBy
     qCInfo(lcSharing).noquote() << "requesting url:" << address.toString() << argument;
     QNetworkReply *reply = m_network.post(request, data);
     m_reply = reply;
+    m_sending = false;
     connect(reply, &QNetworkReply::uploadProgress, this, [this](qint64 bytes, qint64 total) {
+        m_sending = m_sending || bytes > 0;
         if (total > 0)
             emit uploadProgress(bytes);
     });

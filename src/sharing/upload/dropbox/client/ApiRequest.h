@@ -40,6 +40,9 @@ signals:
 
 public:
     const HttpAnswer &answer() const { return m_answer; }
+    /// Whether the service closed the connection while it was sent data. Some do so right after an
+    /// early refusal, which is lost with the connection.
+    bool isCutOff() const { return m_sending && m_answer.isBroken(); }
 
 private:
     void onFinished(QNetworkReply *reply);
@@ -48,6 +51,7 @@ private:
     QPointer<QNetworkReply> m_reply;
     QString m_accessToken;
     HttpAnswer m_answer;
+    bool m_sending = false; ///< Data was sent.
 };
 
 } // namespace DropboxClient

@@ -117,6 +117,7 @@ void DropboxUploader::onAnswered(const QByteArray &body)
     }
     m_acknowledged += m_chunk.size();
     m_chunk.clear();
+    emit acknowledged();
     emit uploadProgress(m_acknowledged, m_size);
     if (m_step == Step::Single || m_step == Step::Finish) {
         m_active = false;
@@ -136,6 +137,8 @@ void DropboxUploader::onError(int code, const QString &message)
         fail(text);
     else if (adoptOffset())
         send();
+    else if (m_request.isCutOff())
+        emit cutOff(m_failures);
     else if (answer.isTransient())
         retryLater();
     else

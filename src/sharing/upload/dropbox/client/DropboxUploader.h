@@ -30,8 +30,10 @@ public:
     void setAccessToken(const QString &token) { m_request.setAccessToken(token); }
     /// @p target is the file's path at the service. False after failed().
     bool upload(const QString &source, const QString &target);
-    /// After unauthorized(), with a new access token: goes on where it stopped.
+    /// After unauthorized() or cutOff(), with a new access token: goes on where it stopped.
     void resume();
+    /// After cutOff(), with the old access token: goes on after a while.
+    void retryLater();
     /// For the user, after failed().
     QString errorText() const { return m_errorText; }
 
@@ -46,6 +48,10 @@ signals:
     void operationAborted();
     /// The service does not take the access token; @p error is what to tell if there is no other.
     void unauthorized(const QString &error);
+    /// The service closed the connection instead of answering, @p times in a row so far. Answer
+    /// with resume() or retryLater().
+    void cutOff(int times);
+    void acknowledged(); ///< The service took what was sent last.
 
 private:
     enum class Step { Single, Start, Append, Finish };
@@ -56,7 +62,6 @@ private:
     void onAnswered(const QByteArray &body);
     void onError(int code, const QString &message);
     bool adoptOffset();
-    void retryLater();
     bool fail(const QString &error);
 
     const QUrl m_content;
