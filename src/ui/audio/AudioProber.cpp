@@ -10,20 +10,11 @@
 
 #include <QDirIterator>
 #include <QFileInfo>
-#include <QRunnable>
 
 #include <map>
 
 namespace velmora
 {
-
-namespace
-{
-
-constexpr int kAddPriority = 1;
-constexpr int kMeasurePriority = 0;
-
-} // namespace
 
 qint64 soundDuration(const QString &path)
 {
@@ -102,8 +93,7 @@ private:
         } else {
             import.tracks.append({QFileInfo(path).absoluteFilePath(), milliseconds});
         }
-        const int looked = ++m_looked;
-        m_prober.post(m_generation, [&prober = m_prober, looked] { emit prober.progress(looked); });
+        emit m_prober.lookedAt(m_generation, ++m_looked);
     }
 
     AudioProber &m_prober;
@@ -113,65 +103,78 @@ private:
 
 AudioProber::AudioProber(QObject *parent) : QObject(parent)
 {
-    // One thread: files keep their order, and slow disks are not made to seek.
-    m_pool.setMaxThreadCount(1);
+    connect(
+        this, &AudioProber::lookedAt, this,
+        [this](int generation, int looked) {
+            if (m_generation == generation)
+                emit progress(looked);
+        },
+        Qt::QueuedConnection);
 }
 
 AudioProber::~AudioProber()
 {
     cancel();
-    m_pool.waitForDone();
 }
 
 void AudioProber::add(const QStringList &paths, int row)
 {
     ++m_adding;
-    run(kAddPriority, [this, paths, row](int generation) {
+    run(&m_additions, [this, paths, row](int generation) -> TaskThread::Report {
         Search search(*this, generation);
         for (const QString &path : paths)
             search.look(path);
         search.import.row = row;
-        post(generation, [this, import = search.import] {
+        return [this, import = search.import] {
             --m_adding;
             emit found(import);
-        });
+        };
     });
 }
 
 void AudioProber::measure(const QString &path)
 {
-    run(kMeasurePriority, [this, path](int generation) {
+    run(&m_measurements, [this, path](int) -> TaskThread::Report {
         const qint64 milliseconds = soundDuration(path);
-        post(generation, [this, path, milliseconds] { emit measured(path, milliseconds); });
+        return [this, path, milliseconds] { emit measured(path, milliseconds); };
     });
 }
 
 void AudioProber::cancel()
 {
+    const std::lock_guard<std::mutex> locker(m_mutex);
     ++m_generation;
-    m_pool.clear();
+    m_additions.clear();
+    m_measurements.clear();
     m_adding = 0;
 }
 
-void AudioProber::run(int priority, const std::function<void(int)> &work)
+void AudioProber::run(std::deque<Request> *requests, Request request)
 {
-    const int generation = m_generation;
-    m_pool.start(QRunnable::create([this, generation, work] {
-                     if (m_generation == generation)
-                         work(generation);
-                 }),
-                 priority);
+    {
+        const std::lock_guard<std::mutex> locker(m_mutex);
+        requests->push_back(std::move(request));
+    }
+    m_thread.add([this] { return next(); });
 }
 
-void AudioProber::post(int generation, const std::function<void()> &tell)
+TaskThread::Report AudioProber::next()
 {
-    QMetaObject::invokeMethod(
-        this,
-        [this, generation, tell] {
-            if (m_generation == generation)
-                tell();
-        },
-        Qt::QueuedConnection);
+    Request request;
+    int generation = 0;
+    {
+        const std::lock_guard<std::mutex> locker(m_mutex);
+        std::deque<Request> &requests = m_additions.empty() ? m_measurements : m_additions;
+        if (requests.empty())
+            return [] {};
+        request = std::move(requests.front());
+        requests.pop_front();
+        generation = m_generation;
+    }
+    return [this, generation, tell = request(generation)] {
+        if (m_generation == generation)
+            tell();
+    };
 }
 
 } // namespace velmora

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/TaskThread.h"
+
 #include <QObject>
 #include <QStringList>
-#include <QThreadPool>
 #include <QVector>
 
 #include <atomic>
+#include <deque>
 #include <functional>
+#include <mutex>
 
 namespace velmora
 {
@@ -50,17 +53,24 @@ signals:
     void progress(int looked); ///< Files of the current add() that were looked at so far.
     void found(const velmora::AudioImport &import);
     void measured(const QString &path, qint64 milliseconds); ///< -1: unreadable.
+    void lookedAt(int generation, int looked); ///< From the thread: one more file of an add().
 
 private:
     class Search;
 
-    void run(int priority, const std::function<void(int generation)> &work);
-    /// From the working thread: calls @p tell on the GUI thread unless it was cancelled meanwhile.
-    void post(int generation, const std::function<void()> &tell);
+    /// Runs on the thread; what it returns, on the GUI thread unless it was cancelled meanwhile.
+    using Request = std::function<TaskThread::Report(int generation)>;
 
-    QThreadPool m_pool;
-    std::atomic_int m_generation{0};
+    void run(std::deque<Request> *requests, Request request);
+    /// On the thread: the request that comes next.
+    TaskThread::Report next();
+
+    std::atomic_int m_generation{0}; ///< Changed under the lock.
     int m_adding = 0;
+    std::mutex m_mutex;
+    std::deque<Request> m_additions; ///< Guarded by the lock, as those below.
+    std::deque<Request> m_measurements;
+    TaskThread m_thread; ///< The last member: it uses the others.
 };
 
 } // namespace velmora
