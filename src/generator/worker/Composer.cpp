@@ -2,6 +2,7 @@
 #include "generator/worker/Composer.h"
 
 #include "app/Paths.h"
+#include "app/TaskThread.h"
 #include "generator/GeneratorLog.h"
 #include "generator/pipeline/CacheSweeper.h"
 #include "platform/ProcessTree.h"
@@ -12,7 +13,6 @@
 #include <QFileInfo>
 #include <QMetaEnum>
 #include <QStandardPaths>
-#include <QThreadPool>
 #include <QUuid>
 
 #include <algorithm>
@@ -56,6 +56,8 @@ Composer::~Composer()
 {
     endNow();
     m_process.reset();
+    if (m_sweeper)
+        m_sweeper->finish();
 }
 
 bool Composer::isRunning() const
@@ -313,7 +315,12 @@ void Composer::onFinished(int exitCode, QProcess::ExitStatus exitStatus)
 void Composer::sweepAfterWorker()
 {
     const QString folder = Paths::cacheFolder();
-    QThreadPool::globalInstance()->start([folder] { CacheSweeper::sweepAll(folder); });
+    if (!m_sweeper)
+        m_sweeper = std::make_unique<TaskThread>();
+    m_sweeper->add([folder] {
+        CacheSweeper::sweepAll(folder);
+        return TaskThread::Report([] {});
+    });
 }
 
 void Composer::fail(const RenderError &reason)

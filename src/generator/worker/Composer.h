@@ -16,6 +16,7 @@ namespace velmora
 {
 
 class SessionValues;
+class TaskThread;
 
 /// Runs one render at a time in a worker process and turns the worker's life into signals. Lives
 /// on a thread with an event loop; never blocks it except in run(), until the worker has started,
@@ -82,7 +83,7 @@ private:
     void stopHarder();
     void endNow();
     void becomeIdle();
-    static void sweepAfterWorker();
+    void sweepAfterWorker();
     void take(const WorkerMessage &message);
     void takeProgress(const WorkerMessage &message);
     void reportProgress(int percent);
@@ -107,6 +108,7 @@ private:
     QElapsedTimer m_pauseClock;
     qint64 m_pausedTime = 0; ///< ms of all pauses that are over
     RemainingTime m_remaining;
+    std::unique_ptr<TaskThread> m_sweeper; ///< From the first worker that ended badly on.
 };
 
 } // namespace velmora
