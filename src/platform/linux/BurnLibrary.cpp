@@ -8,6 +8,8 @@
 #include <libburn/libburn.h>
 #include <libisofs/libisofs.h>
 
+#include <algorithm>
+#include <array>
 #include <mutex>
 
 namespace velmora
@@ -26,7 +28,17 @@ char *text(const char *literal)
     return const_cast<char *>(literal);
 }
 
-constexpr int kWriteThreadEnded = 0x00020178; // Code of a libburn message.
+// Codes of libburn's messages, from its libdax_msgs.h.
+constexpr int kWriteThreadEnded = 0x00020178;
+constexpr std::array<int, 7> kWriteRefusals = {
+    0x00020102, // another operation is going on
+    0x00020113, // drive not asked for its capabilities yet
+    0x00020139, // unsuitable parameters
+    0x00020146, // a drive that is none
+    0x00020168, // not formatted
+    0x0002017c, // no write type
+    0x00020181, // a file that is read only
+};
 
 bool reaches(const char *severity, const char *limit)
 {
@@ -88,6 +100,7 @@ BurnLibrary::Messages BurnLibrary::logMessages()
     while (burn_msgs_obtain(text("ALL"), &code, message.data(), &origin, severity) > 0) {
         messages.errors |= logMessage("libburn", severity, message.constData());
         messages.writeEnded |= code == kWriteThreadEnded;
+        messages.writeRefused |= std::count(kWriteRefusals.begin(), kWriteRefusals.end(), code) > 0;
     }
     while (iso_obtain_msgs(text("ALL"), &code, &origin, message.data(), severity) > 0)
         messages.errors |= logMessage("libisofs", severity, message.constData());

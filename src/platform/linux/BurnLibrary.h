@@ -20,7 +20,8 @@ public:
     /// What both libraries had to say since the last call.
     struct Messages {
         bool errors = false;
-        bool writeEnded = false; ///< The thread that wrote to a drive has come to its end.
+        bool writeRefused = false; ///< No thread that writes to a drive was started.
+        bool writeEnded = false;   ///< The thread that wrote to a drive has come to its end.
     };
     /// Logs and forgets it.
     static Messages logMessages();

@@ -6,6 +6,7 @@
 #include "platform/linux/PipeSignalBlock.h"
 
 #include <QByteArray>
+#include <QElapsedTimer>
 
 #include <libburn/libburn.h>
 
@@ -22,6 +23,7 @@ namespace
 {
 
 constexpr std::chrono::milliseconds kPoll(50);
+constexpr int kLongestSilence = 20000; ///< ms that an idle drive's thread may take to end
 constexpr int kHeadBytes = 64 * 1024;
 constexpr int kUdfAnchor = 256;
 
@@ -75,9 +77,9 @@ bool DiscSessionLinux::waitForErase(const DiscProgress &progress)
     return burn_drive_wrote_well(m_drive->handle()) == 1 && !BurnLibrary::logMessages().errors;
 }
 
-/// After a failure the drive can look idle while libburn's thread still uses it and the image, so
-/// the thread's own message is awaited. Without a thread, because libburn refused to start, the
-/// drive never gets busy.
+/// The drive can look idle while libburn's thread still uses it and the image, after a failure even
+/// before it is asked for the first time. So the thread's own last message is awaited, unless
+/// libburn refused to start one.
 bool DiscSessionLinux::waitForWrite(const DiscProgress &progress, const std::atomic_bool &cancelled)
 {
     burn_progress state = {};
@@ -85,8 +87,19 @@ bool DiscSessionLinux::waitForWrite(const DiscProgress &progress, const std::ato
     int total = 1;
     BurnLibrary::Messages all;
     bool stopped = false;
-    bool running = isBusy(&state);
-    while (running) {
+    QElapsedTimer idle;
+    idle.start();
+    const auto note = [&all] {
+        const BurnLibrary::Messages messages = BurnLibrary::logMessages();
+        all.errors |= messages.errors;
+        all.writeEnded |= messages.writeEnded;
+        all.writeRefused |= messages.writeRefused;
+    };
+    for (note(); !all.writeRefused && !idle.hasExpired(kLongestSilence); note()) {
+        if (isBusy(&state))
+            idle.restart();
+        else if (all.writeEnded)
+            break;
         // At start and end of its work libburn counts other things for a moment.
         total = std::max(total, state.sectors);
         current = qBound(current, state.sector, total);
@@ -97,13 +110,9 @@ bool DiscSessionLinux::waitForWrite(const DiscProgress &progress, const std::ato
             stopped = true;
         }
         std::this_thread::sleep_for(kPoll);
-        const BurnLibrary::Messages messages = BurnLibrary::logMessages();
-        all.errors |= messages.errors;
-        all.writeEnded |= messages.writeEnded;
-        running = !all.writeEnded || isBusy(&state);
     }
-    all.errors |= BurnLibrary::logMessages().errors;
-    const bool well = burn_drive_wrote_well(m_drive->handle()) == 1 && !all.errors && !stopped;
+    const bool well =
+        burn_drive_wrote_well(m_drive->handle()) == 1 && all.writeEnded && !all.errors && !stopped;
     if (well)
         progress(total, total);
     return well;
