@@ -4,6 +4,7 @@
 #include "generator/transitions/CardSampler.h"
 #include "generator/transitions/Easing.h"
 #include "generator/transitions/ReducedPicture.h"
+#include "generator/transitions/RowReducer.h"
 
 #include <algorithm>
 #include <array>
@@ -43,7 +44,7 @@ ColumnSpan cut(ColumnSpan span, ColumnSpan band)
 int reduction(int pixels, double shown)
 {
     const double halvings = std::floor(std::log2(pixels / std::max(shown, 1.0)) + 1e-6);
-    return static_cast<int>(std::clamp(halvings, 0.0, double(ReducedPicture::kMaxLevel)));
+    return static_cast<int>(std::clamp(halvings, 0.0, double(RowReducer::kMaxLevel)));
 }
 
 /// How steep the upper or the lower edge is, whichever is steeper.

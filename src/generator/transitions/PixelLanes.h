@@ -21,9 +21,14 @@ inline Pair loadPair(const QRgb *pixels)
     quint64 both;
     std::memcpy(&both, pixels, sizeof both);
     const Words words = {both, 0};
-    return reinterpret_cast<Pair>(__builtin_shufflevector(reinterpret_cast<Bytes>(words), Bytes{},
-                                                          0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21,
-                                                          6, 22, 7, 23));
+    const Bytes bytes = reinterpret_cast<Bytes>(words);
+#if __has_builtin(__builtin_shufflevector)
+    return reinterpret_cast<Pair>(__builtin_shufflevector(bytes, Bytes{}, 0, 16, 1, 17, 2, 18, 3,
+                                                          19, 4, 20, 5, 21, 6, 22, 7, 23));
+#else // GCC before version 12
+    constexpr Bytes kOrder = {0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23};
+    return reinterpret_cast<Pair>(__builtin_shuffle(bytes, Bytes{}, kOrder));
+#endif
 }
 
 /// Factors for shares in 1/256: "between" mixes two pairs, "within" the two pixels of a pair.
@@ -42,7 +47,9 @@ inline Pair mixPairs(Pair first, Pair second, const Pair &factor)
 /// The sum of the two pixels of a pair goes to @p channels: four channels of 16 bits.
 inline void storeSum(Pair pair, quint16 *channels)
 {
-    const Pair sum = pair + __builtin_shufflevector(pair, pair, 4, 5, 6, 7, 4, 5, 6, 7);
+    const Words words = reinterpret_cast<Words>(pair);
+    const Words second = {words[1], words[1]};
+    const Pair sum = pair + reinterpret_cast<Pair>(second);
     std::memcpy(channels, &sum, sizeof sum / 2);
 }
 

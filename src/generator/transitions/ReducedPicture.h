@@ -3,19 +3,18 @@
 
 #include "generator/transitions/PixelArea.h"
 
-#include <vector>
+#include <memory>
 
 namespace velmora
 {
 
 /// A picture made smaller by powers of two: each pixel is the mean of a block of 2^xLevel x
 /// 2^yLevel pixels (fewer at the right and lower edge). Owns its pixels unless both levels are 0.
+/// Who reads the rows one after the other does with a RowReducer.
 class ReducedPicture
 {
 public:
-    static constexpr int kMaxLevel = 7;
-
-    /// Levels from 0 to kMaxLevel.
+    /// Levels from 0 to RowReducer::kMaxLevel.
     ReducedPicture(const SourceArea &source, int xLevel, int yLevel);
     ReducedPicture(const ReducedPicture &) = delete;
     ReducedPicture &operator=(const ReducedPicture &) = delete;
@@ -23,7 +22,7 @@ public:
     const SourceArea &area() const { return m_area; }
 
 private:
-    std::vector<QRgb> m_pixels;
+    std::unique_ptr<QRgb[]> m_pixels;
     SourceArea m_area;
 };
 
