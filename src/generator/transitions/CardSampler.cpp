@@ -116,13 +116,11 @@ void CardSampler::sampleLevel(QRgb *target, int column, int row, int count) cons
     std::array<QRgb, static_cast<size_t>(kLevelStep * kRun) + 4> line;
     mixRow(line.data(), above, below, covered, down[0] & 0xff);
     const lanes::Factors &factors = lanes::factors();
-    std::array<quint16, 4 * kRun> mixed;
-    for (size_t i = 0; i < static_cast<size_t>(count); ++i) {
-        const auto u = static_cast<quint32>(across[i]);
-        lanes::mixWithin(lanes::loadPair(&line[(u >> 8) - static_cast<quint32>(first)]),
-                         factors.within[u & 0xff], &mixed[4 * i]);
-    }
-    lanes::storePixels(target, mixed.data(), count);
+    lanes::storeSums(target, count, [&](int i) {
+        const auto u = static_cast<quint32>(across[static_cast<size_t>(i)]);
+        return lanes::loadPair(&line[(u >> 8) - static_cast<quint32>(first)]) *
+               factors.within[u & 0xff];
+    });
 }
 
 void CardSampler::sample(QRgb *target, int column, int row, int count) const
@@ -136,16 +134,14 @@ void CardSampler::sample(QRgb *target, int column, int row, int count) const
     locate(column, row, count, across.data(), down.data());
     const lanes::Factors &factors = lanes::factors();
     const qptrdiff below = m_picture.height > 1 ? m_picture.stride : 0;
-    std::array<quint16, 4 * kRun> mixed;
-    for (size_t i = 0; i < static_cast<size_t>(count); ++i) {
-        const auto u = static_cast<quint32>(across[i]);
-        const auto v = static_cast<quint32>(down[i]);
+    lanes::storeSums(target, count, [&](int i) {
+        const auto u = static_cast<quint32>(across[static_cast<size_t>(i)]);
+        const auto v = static_cast<quint32>(down[static_cast<size_t>(i)]);
         const QRgb *pixel = m_picture.bits + (v >> 8) * m_picture.stride + (u >> 8);
         const lanes::Pair pair = lanes::mixPairs(
             lanes::loadPair(pixel), lanes::loadPair(pixel + below), factors.between[v & 0xff]);
-        lanes::mixWithin(pair, factors.within[u & 0xff], &mixed[4 * i]);
-    }
-    lanes::storePixels(target, mixed.data(), count);
+        return pair * factors.within[u & 0xff];
+    });
 }
 
 void CardSampler::fetch(int row, ColumnSpan span, int step) const

@@ -15,6 +15,7 @@ namespace velmora::lanes
 using Pair = quint16 __attribute__((vector_size(16)));
 using Bytes = uchar __attribute__((vector_size(16)));
 using Words = quint64 __attribute__((vector_size(16)));
+using Pixels = quint32 __attribute__((vector_size(16)));
 
 inline Pair loadPair(const QRgb *pixels)
 {
@@ -44,29 +45,46 @@ inline Pair mixPairs(Pair first, Pair second, const Pair &factor)
     return ((first << 8) + (second - first) * factor + 128) >> 8;
 }
 
-/// The sum of the two pixels of a pair goes to @p channels: four channels of 16 bits.
-inline void storeSum(Pair pair, quint16 *channels)
+/// Of two pairs whose channels are 256 times too large: the sum of the two pixels of each, rounded.
+inline Pair roundedSums(Pair first, Pair second)
 {
-    const Words words = reinterpret_cast<Words>(pair);
-    const Words second = {words[1], words[1]};
-    const Pair sum = pair + reinterpret_cast<Pair>(second);
-    std::memcpy(channels, &sum, sizeof sum / 2);
+    const Words a = reinterpret_cast<Words>(first);
+    const Words b = reinterpret_cast<Words>(second);
+    const Words left = {a[0], b[0]};
+    const Words right = {a[1], b[1]};
+    return (reinterpret_cast<Pair>(left) + reinterpret_cast<Pair>(right) + 128) >> 8;
 }
 
-/// The mixture of the two pixels of a pair, the same way; the channels are 256 times too large.
-inline void mixWithin(Pair pair, const Pair &factor, quint16 *channels)
+/// Four opaque pixels of two times two whose channels have 16 bits, none above 255.
+inline Pixels packPixels(Pair firstTwo, Pair lastTwo)
 {
-    storeSum(pair * factor, channels);
+    const Bytes a = reinterpret_cast<Bytes>(firstTwo);
+    const Bytes b = reinterpret_cast<Bytes>(lastTwo);
+#if __has_builtin(__builtin_shufflevector)
+    const Bytes bytes =
+        __builtin_shufflevector(a, b, 0, 2, 4, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24, 26, 28, 30);
+#else // GCC before version 12
+    constexpr Bytes kEven = {0, 2, 4, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24, 26, 28, 30};
+    const Bytes bytes = __builtin_shuffle(a, b, kEven);
+#endif
+    return reinterpret_cast<Pixels>(bytes) | 0xff000000u;
 }
 
-/// Turns channels that are 256 times too large into opaque pixels.
-inline void storePixels(QRgb *target, const quint16 *channels, int count)
+/// Writes @p count opaque pixels. Each is the sum of the two pixels of @p pairAt(i), whose channels
+/// are 256 times too large.
+template <typename PairAt> inline void storeSums(QRgb *target, int count, PairAt pairAt)
 {
-    auto *bytes = reinterpret_cast<uchar *>(target);
-    for (int i = 0; i < 4 * count; ++i)
-        bytes[i] = static_cast<uchar>(static_cast<quint16>(channels[i] + 128) >> 8);
-    for (int i = 0; i < count; ++i)
-        target[i] |= 0xff000000u;
+    int i = 0;
+    for (; i + 4 <= count; i += 4) {
+        const Pair firstTwo = roundedSums(pairAt(i), pairAt(i + 1));
+        const Pair lastTwo = roundedSums(pairAt(i + 2), pairAt(i + 3));
+        const Pixels pixels = packPixels(firstTwo, lastTwo);
+        std::memcpy(target + i, &pixels, sizeof pixels);
+    }
+    for (; i < count; ++i) {
+        const Pair sum = roundedSums(pairAt(i), Pair{});
+        target[i] = packPixels(sum, sum)[0];
+    }
 }
 
 } // namespace velmora::lanes

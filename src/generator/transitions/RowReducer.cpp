@@ -4,15 +4,12 @@
 #include "generator/transitions/PixelLanes.h"
 
 #include <algorithm>
-#include <array>
 
 namespace velmora
 {
 
 namespace
 {
-
-constexpr int kRun = 256;
 
 QRgb meanPixel(const QRgb *pixels, int count)
 {
@@ -32,18 +29,13 @@ void reduceAcross(QRgb *target, const QRgb *source, int width, int level)
 {
     const int block = 1 << level;
     const int blocks = width >> level;
-    std::array<quint16, 4 * kRun> channels;
-    for (int begin = 0; begin < blocks; begin += kRun) {
-        const int count = std::min(kRun, blocks - begin);
-        for (int i = 0; i < count; ++i) {
-            const QRgb *pixels = source + (begin + i) * block;
-            lanes::Pair sum = lanes::loadPair(pixels);
-            for (int pair = 2; pair < block; pair += 2)
-                sum += lanes::loadPair(pixels + pair);
-            lanes::storeSum(sum << (8 - level), &channels[static_cast<size_t>(4 * i)]);
-        }
-        lanes::storePixels(target + begin, channels.data(), count);
-    }
+    lanes::storeSums(target, blocks, [=](int i) {
+        const QRgb *pixels = source + i * block;
+        lanes::Pair sum = lanes::loadPair(pixels);
+        for (int pair = 2; pair < block; pair += 2)
+            sum += lanes::loadPair(pixels + pair);
+        return sum << (8 - level);
+    });
     if (width > blocks * block)
         target[blocks] = meanPixel(source + blocks * block, width - blocks * block);
 }

@@ -4,15 +4,9 @@
 #include "generator/transitions/PixelLanes.h"
 
 #include <algorithm>
-#include <array>
 
 namespace velmora
 {
-
-namespace
-{
-constexpr size_t kRun = 256;
-} // namespace
 
 RowScaler::RowScaler(int count, int sourceCount, double start, double step)
     : m_places(static_cast<size_t>(count)), m_single(sourceCount == 1)
@@ -33,16 +27,10 @@ void RowScaler::scale(QRgb *target, const QRgb *source) const
         return;
     }
     const lanes::Factors &factors = lanes::factors();
-    std::array<quint16, 4 * kRun> mixed;
-    for (size_t begin = 0; begin < m_places.size(); begin += kRun) {
-        const size_t count = std::min(kRun, m_places.size() - begin);
-        for (size_t i = 0; i < count; ++i) {
-            const Place place = m_places[begin + i];
-            lanes::mixWithin(lanes::loadPair(source + place.index), factors.within[place.share],
-                             &mixed[4 * i]);
-        }
-        lanes::storePixels(target + begin, mixed.data(), static_cast<int>(count));
-    }
+    const Place *places = m_places.data();
+    lanes::storeSums(target, static_cast<int>(m_places.size()), [&](int i) {
+        return lanes::loadPair(source + places[i].index) * factors.within[places[i].share];
+    });
 }
 
 } // namespace velmora
