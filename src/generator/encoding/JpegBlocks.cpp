@@ -139,6 +139,12 @@ public:
         jpeg_mem_dest(&m_info, &m_data, &m_bytes);
         m_info.image_width = static_cast<JDIMENSION>(blocks.size().width());
         m_info.image_height = static_cast<JDIMENSION>(blocks.size().height());
+#if JPEG_LIB_VERSION >= 70 // can scale, and does not find the size out itself where it gets blocks
+        m_info.jpeg_width = m_info.image_width;
+        m_info.jpeg_height = m_info.image_height;
+        m_info.min_DCT_h_scaled_size = DCTSIZE;
+        m_info.min_DCT_v_scaled_size = DCTSIZE;
+#endif
         m_info.input_components = 3;
         m_info.in_color_space = JCS_YCbCr;
         jpeg_set_defaults(&m_info);
