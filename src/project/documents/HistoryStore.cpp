@@ -42,8 +42,9 @@ QString HistoryStore::copyPath() const
 
 bool HistoryStore::load()
 {
-    if (m_writer)
+    if (m_writer) {
         m_writer->finish();
+    }
     m_projects.clear();
     QByteArray content;
     QString reason;
@@ -79,8 +80,9 @@ bool HistoryStore::loadContent(const QByteArray &content)
     for (const QJsonValue &project : projects) {
         isWhole = appendProject(project.toObject()) && isWhole;
     }
-    if (isWhole)
+    if (isWhole) {
         m_unread = Unread::Nothing;
+    }
     return true;
 }
 
@@ -103,8 +105,9 @@ bool HistoryStore::appendProject(const QJsonObject &object)
 
 bool HistoryStore::save(QString *error) const
 {
-    if (m_writer)
+    if (m_writer) {
         m_writer->finish();
+    }
     const QString reason = write(m_projects, m_settings.transitionTime);
     if (error && !reason.isEmpty()) {
         *error = reason;
@@ -114,8 +117,9 @@ bool HistoryStore::save(QString *error) const
 
 void HistoryStore::saveLater(QObject *context, Done done)
 {
-    if (!m_writer)
+    if (!m_writer) {
         m_writer = std::make_unique<HistoryWriter>();
+    }
     const int transitionTime = m_settings.transitionTime;
     m_writer->add(
         [this, projects = m_projects, transitionTime] { return write(projects, transitionTime); },
@@ -153,8 +157,9 @@ QString HistoryStore::write(const Projects &projects, int transitionTime) const
 /// Copies a file that was not read whole; false with a reason when that fails.
 bool HistoryStore::keepCopy(QString *error) const
 {
-    if (m_unread == Unread::Nothing)
+    if (m_unread == Unread::Nothing) {
         return true;
+    }
     QFile file(m_path);
     QFile::remove(copyPath());
     // What cannot be read cannot be copied either.
