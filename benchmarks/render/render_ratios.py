@@ -20,7 +20,8 @@ import statistics
 import subprocess
 import sys
 import tempfile
-import time
+
+from renders import environment, make_command, timed
 
 FPS = 25
 SIZE = (1920, 1080)
@@ -37,20 +38,10 @@ OPTIONS = {
 MOTIONLESS = {"-subq", "-me_method", "-chromaoffset"}
 
 
-def timed(command, **kwargs):
-    start = time.monotonic()
-    subprocess.run(command, check=True, stdin=subprocess.DEVNULL, **kwargs)
-    return time.monotonic() - start
-
-
 def make(tool, photos, output, profile, parallel, data_dir):
-    command = [tool, "make", "--photos", *photos, "--output", output, "--size", "%dx%d" % SIZE,
-               "--time", str(STILL_SECONDS), "--transition", "Cross fade",
-               "--transition-length", str(TRANSITION_SECONDS), "--profile", profile]
-    if parallel:
-        command.append("--parallel")
-    environment = dict(os.environ, VELMORA_DATA_DIR=data_dir)
-    return timed(command, env=environment, stdout=subprocess.DEVNULL)
+    command = make_command(tool, photos, output, SIZE, STILL_SECONDS, TRANSITION_SECONDS, profile,
+                           parallel)
+    return timed(command, env=environment(data_dir), stdout=subprocess.DEVNULL)
 
 
 def options_from_log(data_dir, motionless):

@@ -90,7 +90,7 @@ void fill(HistoryFixture &history, const QStringList &photos)
                            "First steps.avi"};
     int i = 0;
     for (const char *name : names) {
-        ProjectFile *project = history.add("x", -1, {});
+        std::unique_ptr<ProjectFile> project = history.make("x");
         project->setFileName(history.folder.filePath(QString::fromUtf8(name)));
         project->setResolution(i % 2 ? QSize(1280, 720) : QSize(3840, 2160));
         if (!photos.isEmpty())
@@ -98,6 +98,7 @@ void fill(HistoryFixture &history, const QStringList &photos)
         if (i != 2)
             HistoryFixture::write(project->fileName(), 1048576LL * (3 + i * i * 57),
                                   QDate(2026, 1 + i, 3 + i));
+        history.store.add(std::move(project));
         ++i;
     }
 }
@@ -105,7 +106,7 @@ void fill(HistoryFixture &history, const QStringList &photos)
 /// What is asked when a photo of a project is gone.
 void showResume(HistoryFixture &history, HistoryWidget &widget)
 {
-    ProjectFile *project = history.add("Harbour.mp4", -1, {});
+    const std::unique_ptr<ProjectFile> project = history.make("Harbour.mp4");
     project->addFiles({QStringLiteral("/home/anna/Pictures/Harbour/Beach.jpg")}, 4, 1);
     ProjectResume resume(history.settings, &widget);
     saveNextDialog("resume.png");

@@ -8,11 +8,9 @@
 #include "project/slides/ProjectItemSimple.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QSet>
 #include <QStringList>
 
-#include <mutex>
 #include <thread>
 #include <vector>
 
@@ -49,18 +47,8 @@ std::vector<Check> filesOf(const ProjectFile &project)
     return checks;
 }
 
-/// Whether the check decodes the whole picture, which takes much memory.
-bool isHeavy(const Check &check)
+void look(Check &check)
 {
-    const QString suffix = QFileInfo(check.path).suffix().toLower();
-    return !check.isSound && suffix != QLatin1String("jpg") && suffix != QLatin1String("jpeg");
-}
-
-void look(Check &check, std::mutex &heavyMutex)
-{
-    std::unique_lock<std::mutex> locker(heavyMutex, std::defer_lock);
-    if (isHeavy(check))
-        locker.lock();
     const QString reason =
         check.isSound ? checkSoundFile(check.path) : ImageLoader::check(check.path);
     if (!reason.isEmpty())
@@ -90,11 +78,10 @@ QString joined(const QStringList &sentences)
 RenderError InputCheck::run(const ProjectFile &project, const std::atomic_bool &cancelled)
 {
     std::vector<Check> checks = filesOf(project);
-    std::mutex heavyMutex;
     std::atomic_size_t next{0};
     const auto work = [&] {
         for (size_t i = next++; i < checks.size() && !cancelled; i = next++)
-            look(checks[i], heavyMutex);
+            look(checks[i]);
     };
     std::thread helper(work);
     work();

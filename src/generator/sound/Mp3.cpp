@@ -16,14 +16,21 @@ namespace
 
 constexpr int kMaximumFiles = 10000;
 
-/// Reserves the first free name by creating its file, so that no two callers get the same.
+/// Reserves the first free name by creating its file, so that no two callers get the same; empty
+/// with a log line on failure.
 QString reserveFreeName(const QDir &folder)
 {
     for (int index = 0; index < kMaximumFiles; ++index) {
         QFile file(folder.filePath(QStringLiteral("%1.wav").arg(index)));
         if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
             return file.fileName();
+        if (!file.exists()) { // The folder may be another user's.
+            qCWarning(generatorLog).noquote()
+                << "Mp3. Failed to write into temp folder" << folder.path() << file.errorString();
+            return {};
+        }
     }
+    qCWarning(generatorLog) << "Free wav index not found";
     return {};
 }
 
@@ -37,10 +44,8 @@ QString Mp3::convertAudio(const QString &path)
         return {};
     }
     const QString target = reserveFreeName(folder);
-    if (target.isEmpty()) {
-        qCWarning(generatorLog) << "Free wav index not found";
+    if (target.isEmpty())
         return {};
-    }
     const MediaFileInfo info(path);
     qCInfo(generatorLog).noquote() << "codec name:" << info.audioCodecName();
     qCInfo(generatorLog).noquote() << "codec AV name:" << info.audioCodecLongName();

@@ -3,6 +3,7 @@
 #include "app/Identity.h"
 #include "app/Log.h"
 #include "app/Paths.h"
+#include "app/TaskThread.h"
 #include "platform/ComApartment.h"
 #include "platform/DesktopNotification.h"
 #include "platform/FileManager.h"
@@ -38,6 +39,18 @@ void setUpFont()
     QApplication::setFont(font);
 }
 
+void playWhileLoading(velmora::SplashScreen &splash, velmora::HistoryStore &history)
+{
+    using namespace velmora;
+    TaskThread loading;
+    loading.add([&history]() -> TaskThread::Report {
+        history.load();
+        return [] {};
+    });
+    splash.play();
+    loading.finish();
+}
+
 /// Applies what the user changed in the settings panel.
 void applySettings(velmora::Application &application)
 {
@@ -54,11 +67,10 @@ int runProgram(velmora::Application &application, const QStringList &files)
     QObject waiting;
     QObject::connect(&application, &Application::messageReceived, &waiting,
                      [&early](const QString &text) { early.append(text); });
-    SplashScreen splash;
-    splash.play();
-    setUpFont();
     HistoryStore history(Paths::historyFile(), application.settings());
-    history.load();
+    SplashScreen splash;
+    playWhileLoading(splash, history);
+    setUpFont();
     UploadController uploads(application.services(), application.settingsStore());
     const std::unique_ptr<TaskbarProgress> taskbar = createTaskbarProgress();
     const std::unique_ptr<DesktopNotification> notification = createDesktopNotification();

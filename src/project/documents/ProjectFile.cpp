@@ -131,6 +131,11 @@ QVector<ProjectItem *> ProjectFile::addFiles(const QStringList &paths, int timeS
 
 void ProjectFile::toJson(QJsonObject &object) const
 {
+    toJson(object, m_settings.transitionTime);
+}
+
+void ProjectFile::toJson(QJsonObject &object, int transitionTime) const
+{
     object.insert(kName, m_name);
     object.insert(kFileName, m_fileName);
     object.insert(kFormat, m_format);
@@ -145,7 +150,7 @@ void ProjectFile::toJson(QJsonObject &object) const
         images.append(image);
     }
     object.insert(kImages, images);
-    object.insert(kTransitionTime, m_settings.transitionTime);
+    object.insert(kTransitionTime, transitionTime);
 }
 
 QJsonObject ProjectFile::audioToJson() const

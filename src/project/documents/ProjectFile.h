@@ -67,6 +67,8 @@ public:
 
     /// "transition_time" is taken from the settings at the moment of writing.
     void toJson(QJsonObject &object) const;
+    /// The same with "transition_time" given in seconds: the settings may be another thread's.
+    void toJson(QJsonObject &object, int transitionTime) const;
     /// Replaces the file as a whole or not at all; false and a log line on failure, whose text
     /// is also put into @p error where given.
     bool saveToFile(const QString &path, QString *error = nullptr) const;

@@ -9,6 +9,7 @@
 
 #include <exiv2/error.hpp>
 #include <exiv2/exif.hpp>
+#include <exiv2/version.hpp>
 
 #include <exception>
 #include <mutex>
@@ -44,7 +45,11 @@ int orientationOf(const Exiv2::ExifData &data)
     const auto tag = data.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
     if (tag == data.end() || tag->count() < 1)
         return 1;
+#if EXIV2_TEST_VERSION(0, 28, 0)
+    const auto value = tag->toInt64();
+#else
     const auto value = tag->toLong();
+#endif
     return value >= 1 && value <= 8 ? int(value) : 1;
 }
 

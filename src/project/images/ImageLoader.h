@@ -13,7 +13,7 @@ namespace velmora
 namespace ImageLoader
 {
 
-/// Pictures with more pixels than this are refused (400 megapixels).
+/// Pictures with more pixels than this are refused (400 megapixels), whatever memory they take.
 constexpr qint64 kMaximumPixels = 400LL * 1000 * 1000;
 
 /// The whole picture, or a null image; the reason is logged and put into @p error if given.

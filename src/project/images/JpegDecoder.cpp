@@ -218,11 +218,17 @@ bool Decompressor::isDamaged()
     return m_errors.damaged || (m_errors.endMissing && jpeg_has_multiple_scans(&m_info));
 }
 
+QSize dividedBy(const QSize &size, int denominator)
+{
+    return QSize((size.width() + denominator - 1) / denominator,
+                 (size.height() + denominator - 1) / denominator);
+}
+
 int denominatorFor(const QSize &size, const QSize &minimum)
 {
     int denominator = kMaximumDenominator;
-    while (denominator > 1 && ((size.width() + denominator - 1) / denominator < minimum.width() ||
-                               (size.height() + denominator - 1) / denominator < minimum.height()))
+    while (denominator > 1 &&
+           dividedBy(size, denominator).expandedTo(minimum) != dividedBy(size, denominator))
         denominator /= 2;
     return denominator;
 }
@@ -233,6 +239,11 @@ bool isDecodable(const QSize &size)
 }
 
 } // namespace
+
+QSize JpegDecoder::decodedSize(const QSize &size, const QSize &minimum)
+{
+    return dividedBy(size, denominatorFor(size, minimum));
+}
 
 JpegDecoder::Result JpegDecoder::decode(const QByteArray &bytes, const QSize &minimum)
 {

@@ -20,6 +20,9 @@ struct Result {
     QString error;        ///< The decoder's text about a failure or about the first damage.
 };
 
+/// The size that decode() yields for a picture of @p size px.
+QSize decodedSize(const QSize &size, const QSize &minimum);
+
 /// Decodes @p bytes at the smallest step that is still at least @p minimum px each way.
 Result decode(const QByteArray &bytes, const QSize &minimum);
 

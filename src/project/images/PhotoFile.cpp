@@ -2,14 +2,18 @@
 #include "project/images/PhotoFile.h"
 
 #include "project/images/Completeness.h"
+#include "project/images/DecodingTurn.h"
 #include "project/images/ExifReader.h"
 #include "project/images/ImageLoader.h"
+#include "project/images/JpegCoefficients.h"
 #include "project/images/JpegDecoder.h"
 #include "project/images/Orientation.h"
 
 #include <QColorSpace>
 #include <QCoreApplication>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace velmora
 {
@@ -19,6 +23,7 @@ namespace
 
 // The byte arrays that hold a file for decoding end at 2 GB.
 constexpr qint64 kMaximumFileSize = 1800LL * 1024 * 1024;
+constexpr int kPaintedBytes = 4; // Of a pixel in either format for painting.
 
 class Texts
 {
@@ -61,10 +66,30 @@ bool isComplete(QIODevice &device, const QByteArray &format)
     return format == "webp" && isCompleteWebp(device);
 }
 
-QImage toPaintingFormat(const QImage &image)
+qint64 pixels(const QSize &size)
 {
-    QImage result = image.convertToFormat(
-        image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    return qint64(size.width()) * size.height();
+}
+
+/// What a pixel takes while it is decoded to @p format and converted for painting.
+int pixelBytes(const QByteArray &file, QImage::Format format)
+{
+    if (file == "webp") // The decoder has a picture of its own.
+        return 2 * kPaintedBytes;
+    const int bits = format == QImage::Format_Invalid
+                         ? 8 * kPaintedBytes
+                         : QImage::toPixelFormat(format).bitsPerPixel();
+    const int decoded = (bits + 7) / 8;
+    // Pixels of the same or of twice the size are converted where they are.
+    return decoded >= kPaintedBytes ? decoded : decoded + kPaintedBytes;
+}
+
+/// Takes the picture over, so that the pixels before and after need not both be held.
+QImage toPaintingFormat(QImage &&image)
+{
+    const QImage::Format format =
+        image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
+    QImage result = std::move(image).convertToFormat(format);
     const QColorSpace space = result.colorSpace();
     if (space.isValid() && space != QColorSpace(QColorSpace::SRgb))
         result.convertToColorSpace(QColorSpace(QColorSpace::SRgb));
@@ -80,6 +105,13 @@ bool PhotoFile::fail(const QString &problem, const QString &detail)
     m_problem = problem;
     m_detail = detail.isEmpty() ? problem : detail;
     return false;
+}
+
+bool PhotoFile::failAsTooLarge()
+{
+    return fail(Texts::tr("is too large (%1 x %2 pixels)")
+                    .arg(m_storedSize.width())
+                    .arg(m_storedSize.height()));
 }
 
 bool PhotoFile::openFile()
@@ -115,14 +147,38 @@ bool PhotoFile::open()
     m_storedSize = m_reader.size();
     if (m_storedSize.isEmpty())
         return fail(damaged(), m_reader.errorString());
-    if (qint64(m_storedSize.width()) * m_storedSize.height() > ImageLoader::kMaximumPixels)
-        return fail(Texts::tr("is too large (%1 x %2 pixels)")
-                        .arg(m_storedSize.width())
-                        .arg(m_storedSize.height()));
+    if (pixels(m_storedSize) > ImageLoader::kMaximumPixels)
+        return failAsTooLarge();
+    readHeaders();
+    return memoryNeeded(QSize()) <= DecodingTurn::kMaximumBytes || failAsTooLarge();
+}
+
+void PhotoFile::readHeaders()
+{
+    if (!isJpeg())
+        m_pixelBytes = pixelBytes(m_format, m_reader.imageFormat());
     QFile file(m_path); // Its own handle: the reader has a position in the other one.
-    if (file.open(QIODevice::ReadOnly))
-        m_orientation = ExifReader::read(file).orientation;
-    return true;
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    m_orientation = ExifReader::read(file).orientation;
+    if (isJpeg())
+        m_coefficientBytes = jpegCoefficientBytes(file);
+}
+
+qint64 PhotoFile::memoryNeeded(const QSize &minimum) const
+{
+    const QSize stored = storedMinimum(minimum);
+    qint64 decoded = pixels(m_storedSize);
+    qint64 bytes = decoded * m_pixelBytes;
+    if (isJpeg()) {
+        decoded = stored.isEmpty() ? 0 : pixels(JpegDecoder::decodedSize(m_storedSize, stored));
+        bytes = m_file.size() + m_coefficientBytes + decoded * kPaintedBytes;
+    }
+    // A picture that is made smaller or turned stands beside the new one.
+    const qint64 kept = stored.isEmpty() ? 0 : std::min(decoded, 4 * pixels(stored));
+    const bool isTurned = m_orientation > 1;
+    const qint64 second = kept < decoded || isTurned ? kept : 0;
+    return std::max(bytes, (decoded + second) * kPaintedBytes);
 }
 
 QSize PhotoFile::uprightSize() const
@@ -135,10 +191,16 @@ QByteArray PhotoFile::contents()
     return m_file.seek(0) ? m_file.readAll() : QByteArray();
 }
 
+QSize PhotoFile::storedMinimum(const QSize &minimum) const
+{
+    const QSize needed = uprightSize().boundedTo(minimum);
+    return swapsSides(m_orientation) ? needed.transposed() : needed;
+}
+
 QImage PhotoFile::decode(const QSize &minimum)
 {
     if (!isJpeg()) {
-        const QImage image = m_reader.read();
+        QImage image = m_reader.read();
         m_detail = m_reader.errorString();
         return image;
     }
@@ -151,14 +213,19 @@ QImage PhotoFile::decode(const QSize &minimum)
 
 QImage PhotoFile::read(const QSize &minimum)
 {
-    const QSize needed = uprightSize().boundedTo(minimum);
-    const QSize stored = swapsSides(m_orientation) ? needed.transposed() : needed;
+    const qint64 bytes = memoryNeeded(minimum);
+    if (bytes > DecodingTurn::kMaximumBytes) {
+        failAsTooLarge();
+        return QImage();
+    }
+    const DecodingTurn turn(bytes);
+    const QSize stored = storedMinimum(minimum);
     QImage image = decode(stored);
     if (image.isNull()) {
         fail(damaged(), m_detail);
         return image;
     }
-    image = toPaintingFormat(image);
+    image = toPaintingFormat(std::move(image));
     if (image.width() > 2 * stored.width() && image.height() > 2 * stored.height())
         image = image.scaled(stored * 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return uprightImage(image, m_orientation);
@@ -166,6 +233,7 @@ QImage PhotoFile::read(const QSize &minimum)
 
 bool PhotoFile::verify()
 {
+    const DecodingTurn turn(memoryNeeded(QSize()));
     if (isJpeg()) {
         const JpegDecoder::Result result = JpegDecoder::verify(contents());
         return !result.damaged || fail(damaged(), result.error);

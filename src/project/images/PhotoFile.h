@@ -11,7 +11,8 @@ namespace velmora
 {
 
 /// One photo file while it is being read: recognised by its content, whatever its suffix, and
-/// refused before decoding when its header announces more than can be held. Any one thread.
+/// refused before decoding when its header announces more than can be held. Of pictures that take
+/// much memory the process decodes one at a time. Any one thread.
 class PhotoFile
 {
 public:
@@ -29,6 +30,9 @@ public:
     /// in the midst of the picture passes.
     bool verifyEnd();
 
+    /// What read() takes at its peak, in bytes, as far as the header tells; with an empty size what
+    /// verify() takes. After open().
+    qint64 memoryNeeded(const QSize &minimum) const;
     /// The size in px as shown, after turning upright.
     QSize uprightSize() const;
     /// A reason for the user without the file's name, such as "is empty".
@@ -38,7 +42,10 @@ public:
 
 private:
     bool fail(const QString &problem, const QString &detail = QString());
+    bool failAsTooLarge();
     bool openFile();
+    void readHeaders();
+    QSize storedMinimum(const QSize &minimum) const;
     bool isJpeg() const { return m_format == "jpeg"; }
     QImage decode(const QSize &minimum);
     QByteArray contents();
@@ -48,6 +55,8 @@ private:
     QImageReader m_reader;
     QByteArray m_format;
     QSize m_storedSize;
+    qint64 m_coefficientBytes = 0; ///< Of a JPEG file.
+    int m_pixelBytes = 0;          ///< That a pixel takes until it can be painted; not of a JPEG.
     int m_orientation = 1;
     QString m_problem;
     QString m_detail;

@@ -24,12 +24,14 @@ QString trashNote(const QString &trashed)
 
 } // namespace
 
-HistoryRemoval::HistoryRemoval(HistoryStore &history) : m_history(history) {}
+HistoryRemoval::HistoryRemoval(HistoryStore &history, QObject *parent)
+    : QObject(parent), m_history(history)
+{
+}
 
 HistoryRemoval::~HistoryRemoval() = default;
 
-bool HistoryRemoval::remove(const QVector<const ProjectFile *> &projects, Videos videos,
-                            QString *error)
+void HistoryRemoval::remove(const QVector<const ProjectFile *> &projects, Videos videos)
 {
     forget();
     QStringList files;
@@ -43,13 +45,25 @@ bool HistoryRemoval::remove(const QVector<const ProjectFile *> &projects, Videos
         files.append(project->fileName());
         m_removed.push_back({position, m_history.take(project)});
     }
-    if (!m_history.save(error)) {
-        putBack();
-        return false;
-    }
-    if (videos == Videos::Trash)
-        moveToTrash(files);
-    return true;
+    save([this, videos, files](bool isSaved) {
+        if (!isSaved)
+            putBack();
+        else if (videos == Videos::Trash)
+            moveToTrash(files);
+    });
+}
+
+void HistoryRemoval::save(const std::function<void(bool isSaved)> &then)
+{
+    m_isSaving = true;
+    m_history.saveLater(this, [this, then](const QString &error) {
+        m_isSaving = false;
+        then(error.isEmpty());
+        if (error.isEmpty())
+            emit saved();
+        else
+            emit failed(error);
+    });
 }
 
 void HistoryRemoval::moveToTrash(const QStringList &videos)
@@ -86,19 +100,20 @@ void HistoryRemoval::restoreVideos()
     m_trash.clear();
 }
 
-bool HistoryRemoval::undo(QString *error)
+void HistoryRemoval::undo()
 {
     std::vector<std::pair<int, const ProjectFile *>> back;
     for (const Removed &removed : m_removed)
         back.emplace_back(removed.position, removed.project.get());
     putBack();
-    if (m_history.save(error)) {
-        restoreVideos();
-        return true;
-    }
-    for (const auto &[position, project] : back)
-        m_removed.push_back({position, m_history.take(project)});
-    return false;
+    save([this, back](bool isSaved) {
+        if (isSaved) {
+            restoreVideos();
+            return;
+        }
+        for (const auto &[position, project] : back)
+            m_removed.push_back({position, m_history.take(project)});
+    });
 }
 
 void HistoryRemoval::forget()

@@ -25,7 +25,7 @@ namespace velmora
 HistoryWidget::HistoryWidget(HistoryStore &history, const AppSettings &settings, QWidget *parent)
     : QWidget(parent), m_history(history), m_ui(std::make_unique<Ui::HistoryWidget>()),
       m_model(new HistoryModel(history, settings, this)),
-      m_removal(std::make_unique<HistoryRemoval>(history))
+      m_removal(new HistoryRemoval(history, this))
 {
     m_ui->setupUi(this);
     setUpList();
@@ -80,6 +80,8 @@ void HistoryWidget::setUpUndoBar()
     m_ui->undoBar->hide();
     m_ui->btnCloseUndo->setIcon(Theme::icon(QStringLiteral("close")));
     connect(m_ui->btnUndo, &QPushButton::clicked, this, &HistoryWidget::undoRemoval);
+    connect(m_removal, &HistoryRemoval::saved, this, &HistoryWidget::onRemovalSaved);
+    connect(m_removal, &HistoryRemoval::failed, this, &HistoryWidget::onRemovalFailed);
     connect(m_ui->btnCloseUndo, &QToolButton::clicked, this, [this] {
         m_removal->forget();
         m_ui->undoBar->hide();
@@ -159,7 +161,7 @@ void HistoryWidget::updateButtons()
     m_ui->btnResumeProject->setEnabled(entry.project);
     m_ui->btnUpload->setEnabled(video);
     m_ui->btnBurn->setEnabled(video);
-    m_ui->btnClearHistory->setEnabled(m_model->rowCount() > 0);
+    m_ui->btnClearHistory->setEnabled(m_model->rowCount() > 0 && !m_removal->isSaving());
 }
 
 void HistoryWidget::onBtnDateClicked()
@@ -213,7 +215,7 @@ void HistoryWidget::onDeleteProject(const QString &fileName)
     const ProjectFile *project = selectedProject();
     if (!project || project->fileName() != fileName)
         project = m_model->project(m_model->rowOf(fileName));
-    if (!project)
+    if (!project || m_removal->isSaving())
         return;
     MessageDialog::Message message;
     message.kind = MessageDialog::Kind::Question;
@@ -252,45 +254,45 @@ void HistoryWidget::on_btnClearHistory_clicked()
 
 void HistoryWidget::remove(const QVector<const ProjectFile *> &projects, bool trashVideos)
 {
-    QString error;
-    const auto videos = trashVideos ? HistoryRemoval::Videos::Trash : HistoryRemoval::Videos::Keep;
-    const bool removed = m_removal->remove(projects, videos, &error);
+    m_removal->remove(projects,
+                      trashVideos ? HistoryRemoval::Videos::Trash : HistoryRemoval::Videos::Keep);
+    m_ui->undoBar->hide();
     reload();
     emit historyChanged();
-    m_ui->undoBar->setVisible(removed);
-    if (!removed) {
-        tellFailure(error);
+}
+
+void HistoryWidget::undoRemoval()
+{
+    if (!m_removal->canUndo())
+        return;
+    m_removal->undo();
+    m_ui->undoBar->hide();
+    reload();
+    emit historyChanged();
+    m_ui->listHistory->setFocus();
+}
+
+void HistoryWidget::onRemovalSaved()
+{
+    updateButtons();
+    if (!m_removal->canUndo()) {
+        reload(); // The videos that came back.
         return;
     }
-    showUndoBar(m_removal->count());
+    m_ui->lblUndo->setText(tr("Videos removed from the history: %n", nullptr, m_removal->count()));
+    m_ui->undoBar->show();
+    m_ui->btnUndo->setFocus();
     if (!m_removal->keptVideos().isEmpty())
         MessageDialog::inform(this, tr("Remove from the history"),
                               tr("Some video files could not be moved to the trash. They are where "
                                  "they were."));
 }
 
-void HistoryWidget::showUndoBar(int count)
+void HistoryWidget::onRemovalFailed(const QString &error)
 {
-    m_ui->lblUndo->setText(tr("Videos removed from the history: %n", nullptr, count));
-    m_ui->btnUndo->setFocus();
-}
-
-void HistoryWidget::undoRemoval()
-{
-    QString error;
-    if (!m_removal->canUndo())
-        return;
-    if (m_removal->undo(&error))
-        m_ui->undoBar->hide();
-    else
-        tellFailure(error);
     reload();
     emit historyChanged();
-    m_ui->listHistory->setFocus();
-}
-
-void HistoryWidget::tellFailure(const QString &error)
-{
+    m_ui->undoBar->setVisible(m_removal->canUndo());
     MessageDialog::inform(this, tr("History"),
                           tr("The history could not be changed: %1").arg(error));
 }

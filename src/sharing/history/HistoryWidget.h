@@ -112,15 +112,15 @@ private:
     void updateButtons();
     void playVideo(const QString &fileName);
     void remove(const QVector<const ProjectFile *> &projects, bool trashVideos);
-    void showUndoBar(int count);
-    void tellFailure(const QString &error);
+    void onRemovalSaved();
+    void onRemovalFailed(const QString &error);
     void endUpload();
     void showElapsed();
 
     HistoryStore &m_history;
     std::unique_ptr<Ui::HistoryWidget> m_ui;
     HistoryModel *m_model;
-    std::unique_ptr<HistoryRemoval> m_removal;
+    HistoryRemoval *m_removal;
     QPointer<UploadController> m_uploads;
     QString m_service;      ///< Of the upload that runs; empty without one.
     bool m_started = false; ///< uploadProgressStarted() was emitted for it.

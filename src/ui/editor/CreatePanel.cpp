@@ -261,14 +261,18 @@ void CreatePanel::onFinished(const QString &fileName)
     qCDebug(lcUi) << "Finished generating" << fileName;
     m_rendered.removeRequest();
     m_page->end();
-    QString error;
-    const bool isRecorded = m_rendered.keepIn(m_history, m_settings, fileName, &error);
+    m_rendered.keepIn(m_history, m_settings, fileName, this,
+                      [this, fileName](const QString &error) { onKept(fileName, error); });
+}
+
+void CreatePanel::onKept(const QString &fileName, const QString &error)
+{
     m_name->propose();
     showSetup();
-    if (isRecorded && m_editor.project() && m_rendered.isSameAs(*m_editor.project()))
+    if (error.isEmpty() && m_editor.project() && m_rendered.isSameAs(*m_editor.project()))
         emit recorded();
     emit finished(fileName);
-    if (!isRecorded)
+    if (!error.isEmpty())
         MessageDialog::inform(
             window(), tr("History"),
             tr("The video is ready, but it could not be entered in the history: %1").arg(error));

@@ -69,6 +69,7 @@ private:
     void start(const QString &output);
     void onProgress(int percent);
     void onFinished(const QString &fileName);
+    void onKept(const QString &fileName, const QString &error);
     void onFailed();
     void showSetup();
     void refresh();

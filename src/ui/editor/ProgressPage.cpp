@@ -44,6 +44,7 @@ void ProgressPage::begin(qint64 videoLength)
 {
     m_videoLength = videoLength;
     m_form.tcCreate->setCurrentWidget(m_form.page_2);
+    setCanBeStopped(true);
     m_form.btnPauseResume->setFocus();
     setPercent(0);
 }
@@ -99,8 +100,15 @@ void ProgressPage::showPaused()
     m_form.btnPauseResume->setToolTip(text);
 }
 
+void ProgressPage::setCanBeStopped(bool can)
+{
+    m_form.btnPauseResume->setEnabled(can);
+    m_form.btnCancel->setEnabled(can);
+}
+
 void ProgressPage::end()
 {
+    setCanBeStopped(false);
     setPercent(100);
     m_form.lblRemTime->setText(tr("Time Remaining: %1").arg(ValueLists::durationText(0)));
 }

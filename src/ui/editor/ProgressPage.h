@@ -31,9 +31,11 @@ public:
     void showState();
     /// The pause button follows the composer.
     void showPaused();
+    /// The video is there, and nothing can be stopped any more.
     void end();
 
 private:
+    void setCanBeStopped(bool can);
     QString state() const;
 
     Ui::CreatePanel &m_form;

@@ -45,18 +45,19 @@ bool RenderedProject::isSameAs(const ProjectFile &project) const
     return now == m_project;
 }
 
-bool RenderedProject::keepIn(HistoryStore &history, const AppSettings &settings,
-                             const QString &fileName, QString *error) const
+void RenderedProject::keepIn(HistoryStore &history, const AppSettings &settings,
+                             const QString &fileName, QObject *context,
+                             const std::function<void(const QString &error)> &done) const
 {
     QStringList problems;
     std::unique_ptr<ProjectFile> entry = ProjectFile::fromJson(m_project, settings, &problems);
     if (!entry) {
-        *error = problems.join(QStringLiteral(", "));
-        return false;
+        done(problems.join(QStringLiteral(", ")));
+        return;
     }
     entry->setFileName(fileName);
     history.add(std::move(entry));
-    return history.save(error);
+    history.saveLater(context, done);
 }
 
 } // namespace velmora

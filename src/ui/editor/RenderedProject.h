@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 #include <QJsonObject>
 
+#include <functional>
+
 namespace velmora
 {
 
@@ -32,9 +34,10 @@ public:
     qint64 videoLength() const { return m_videoLength; } ///< ms
     /// Whether @p project has nothing that the video lacks, nor the other way round.
     bool isSameAs(const ProjectFile &project) const;
-    /// Enters it in the history as the video @p fileName; false with a reason on failure.
-    bool keepIn(HistoryStore &history, const AppSettings &settings, const QString &fileName,
-                QString *error) const;
+    /// Enters it in the history as the video @p fileName. @p done is called when that is written,
+    /// with a reason for the user on failure, unless @p context is gone by then.
+    void keepIn(HistoryStore &history, const AppSettings &settings, const QString &fileName,
+                QObject *context, const std::function<void(const QString &error)> &done) const;
 
 private:
     QString m_request;

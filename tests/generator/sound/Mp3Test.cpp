@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/sound/Mp3.h"
+#include "helpers/LogCapture.h"
 #include "helpers/MediaSamples.h"
+#include "helpers/OrdinaryUser.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -17,6 +19,7 @@ private slots:
     void keepsFilesThatAreThere();
     void failsWithoutLeavings();
     void failsWithoutAFolder();
+    void failsInFolderOfAnotherUser();
 
 private:
     QString file(const QString &name) const { return m_folder->filePath(name); }
@@ -63,6 +66,27 @@ void Mp3Test::failsWithoutAFolder()
     QVERIFY(obstacle.open(QIODevice::WriteOnly));
     QTest::ignoreMessage(QtWarningMsg, "Mp3. Failed to create temp folder for wav files");
     QCOMPARE(Mp3::convertAudio(file(QStringLiteral("tone.mp3"))), QString());
+}
+
+void Mp3Test::failsInFolderOfAnotherUser()
+{
+    const QString folder = file(QStringLiteral("WavTempDir"));
+    const auto readable = QFile::ReadOwner | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
+    QVERIFY(QDir().mkpath(folder));
+    QVERIFY(QFile::setPermissions(m_folder->path(), readable | QFile::WriteOwner));
+    QVERIFY(QFile::setPermissions(folder, readable));
+    const LogCapture log;
+    {
+        const OrdinaryUser user;
+        if (!user.isOne())
+            QSKIP("This user may write everywhere.");
+        QCOMPARE(Mp3::convertAudio(file(QStringLiteral("tone.mp3"))), QString());
+    }
+    QCOMPARE(
+        log.lines(QtWarningMsg),
+        QStringList{QStringLiteral("Mp3. Failed to write into temp folder %1 Permission denied")
+                        .arg(folder)});
+    QVERIFY(QFile::setPermissions(folder, readable | QFile::WriteOwner));
 }
 
 QTEST_GUILESS_MAIN(Mp3Test)

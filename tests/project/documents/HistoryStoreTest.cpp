@@ -2,14 +2,17 @@
 #include "project/documents/HistoryStore.h"
 
 #include "app/AppSettings.h"
+#include "app/TaskThread.h"
 #include "helpers/LogCapture.h"
 
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 using namespace velmora;
 
@@ -26,7 +29,14 @@ private slots:
     void otherVersionIsOverwritten();
     void unusableProjectsAreLeftOut_data();
     void unusableProjectsAreLeftOut();
+    void keepsCopyOfWhatItCannotRead_data();
+    void keepsCopyOfWhatItCannotRead();
+    void keepsFileThatIsTooLarge();
     void loadReplacesList();
+    void loadsOnAnotherThread();
+    void savesLater();
+    void failureOfSavingLater();
+    void endWaitsForSaving();
     void takesProjectsOut();
     void makesMissingFolder();
     void longHistory();
@@ -207,6 +217,129 @@ void HistoryStoreTest::unusableProjectsAreLeftOut()
         openedLine(), QStringLiteral("Failed to parse history, error field: '%1'").arg(word),
         QStringLiteral("Parse history file '%1' failed").arg(m_path)};
     QCOMPARE(log.lines(), expected);
+}
+
+void HistoryStoreTest::keepsCopyOfWhatItCannotRead_data()
+{
+    QTest::addColumn<QByteArray>("projects");
+    QTest::addColumn<bool>("isKept");
+    QTest::newRow("damaged") << QByteArray("[{") << true;
+    QTest::newRow("other version") << QByteArray(R"([],"version":"999")") << true;
+    QTest::newRow("unusable project") << QByteArray(R"([{"name":"a"}])") << true;
+    QTest::newRow("no list") << QByteArray("{}") << true;
+    QTest::newRow("whole") << QByteArray(R"([{"name":"a","resolution":"8x8"}])") << false;
+    QTest::newRow("empty list") << QByteArray("[]") << false;
+}
+
+void HistoryStoreTest::keepsCopyOfWhatItCannotRead()
+{
+    QFETCH(QByteArray, projects);
+    QFETCH(bool, isKept);
+    const QByteArray content =
+        "{\"version\":\"" + currentVersion() + "\",\"projects\":" + projects + '}';
+    write(content);
+    HistoryStore history(m_path, m_settings);
+    history.load();
+    QFile copy(history.copyPath());
+    QVERIFY(!copy.exists());
+    for (const char *name : {"first", "second"}) { // The copy is of the file that was loaded.
+        history.add(projectNamed(QLatin1String(name), m_settings));
+        QVERIFY(history.save());
+    }
+    QCOMPARE(copy.exists(), isKept);
+    QCOMPARE(copy.open(QIODevice::ReadOnly) ? copy.readAll() : content, content);
+    QVERIFY(history.load());
+    QCOMPARE(namesIn(history).constLast(), QStringLiteral("second"));
+}
+
+void HistoryStoreTest::keepsFileThatIsTooLarge()
+{
+    QFile file(m_path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(file.resize(HistoryStore::kMaximumFileSize + 1));
+    file.close();
+    HistoryStore history(m_path, m_settings);
+    QVERIFY(!history.load());
+    QVERIFY(history.save());
+    QCOMPARE(QFileInfo(history.copyPath()).size(), HistoryStore::kMaximumFileSize + 1);
+    QVERIFY(history.load());
+}
+
+void HistoryStoreTest::loadsOnAnotherThread()
+{
+    HistoryStore history(m_path, m_settings);
+    history.add(projectNamed(QStringLiteral("a"), m_settings));
+    QVERIFY(history.save());
+    TaskThread thread;
+    thread.add([&history]() -> TaskThread::Report {
+        history.load();
+        return [] {};
+    });
+    thread.finish();
+    QCOMPARE(namesIn(history), QStringList{QStringLiteral("a")});
+    QCOMPARE(history.projects().front()->thread(), QThread::currentThread());
+    QCOMPARE(history.projects().front()->items().first()->thread(), QThread::currentThread());
+}
+
+void HistoryStoreTest::savesLater()
+{
+    HistoryStore history(m_path, m_settings);
+    int answers = 0;
+    const auto save = [&](QObject *context) {
+        history.saveLater(context, [&](const QString &error) {
+            QCOMPARE(error, QString());
+            QCOMPARE(QThread::currentThread(), thread());
+            ++answers;
+        });
+    };
+    const ProjectFile *first = history.add(projectNamed(QStringLiteral("first"), m_settings));
+    save(this);
+    {
+        QObject context;
+        save(&context);
+    }
+    history.take(first); // It may be in the midst of being written.
+    history.add(projectNamed(QStringLiteral("second"), m_settings));
+    save(this);
+    history.clear(); // Not saved.
+    QTRY_COMPARE(answers, 2);
+    QVERIFY(history.load());
+    QCOMPARE(namesIn(history), QStringList{QStringLiteral("second")});
+
+    history.clear();
+    save(this);
+    history.add(projectNamed(QStringLiteral("third"), m_settings));
+    QVERIFY(history.save());
+    QVERIFY(history.load());
+    QCOMPARE(namesIn(history), QStringList{QStringLiteral("third")});
+}
+
+void HistoryStoreTest::failureOfSavingLater()
+{
+    QVERIFY(QDir().mkpath(m_path));
+    HistoryStore history(m_path, m_settings);
+    QStringList errors;
+    const LogCapture log;
+    history.saveLater(this, [&errors](const QString &error) { errors.append(error); });
+    QTRY_COMPARE(errors.size(), 1);
+    QVERIFY(!errors.first().isEmpty());
+    QCOMPARE(log.lines(QtCriticalMsg),
+             QStringList{QStringLiteral("Save file '%1' failed:'%2'").arg(m_path, errors.first())});
+}
+
+void HistoryStoreTest::endWaitsForSaving()
+{
+    {
+        HistoryStore history(m_path, m_settings);
+        for (const char *name : {"a", "b"}) {
+            history.add(projectNamed(QLatin1String(name), m_settings));
+            history.saveLater(this, [](const QString &) { QFAIL("The store is gone."); });
+        }
+    }
+    HistoryStore loaded(m_path, m_settings);
+    QVERIFY(loaded.load());
+    QCOMPARE(namesIn(loaded), (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
+    QCoreApplication::processEvents();
 }
 
 void HistoryStoreTest::loadReplacesList()

@@ -28,6 +28,7 @@ private slots:
     void harmlessOdditiesPass();
     void hugePicturesAreRefused_data();
     void hugePicturesAreRefused();
+    void largePicturesAreNotRefused();
     void changedBytesDoNoHarm_data();
     void changedBytesDoNoHarm();
 
@@ -239,6 +240,7 @@ void ImageCheckTest::hugePicturesAreRefused_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("size");
     QTest::newRow("png") << hugePng(30000) << QStringLiteral("30000 x 30000");
+    QTest::newRow("more than the memory") << hugePng(19000) << QStringLiteral("19000 x 19000");
     QTest::newRow("jpg") << hugeJpeg() << QStringLiteral("65000 x 65000");
 }
 
@@ -249,9 +251,17 @@ void ImageCheckTest::hugePicturesAreRefused()
     QVERIFY(Pictures::writeBytes(path("huge"), bytes));
     const QString reason = QStringLiteral("is too large (%1 pixels)").arg(size);
     QCOMPARE(ImageLoader::check(path("huge")), reason);
+    QCOMPARE(ImageLoader::checkEnd(path("huge")), reason);
     QString error;
     QVERIFY(ImageLoader::loadForSize(path("huge"), QSize(62, 62), &error).isNull());
     QCOMPARE(error, reason);
+}
+
+/// Panoramas of 200 megapixels are not.
+void ImageCheckTest::largePicturesAreNotRefused()
+{
+    QVERIFY(Pictures::writeBytes(path("large"), hugePng(14142)));
+    QCOMPARE(ImageLoader::uprightSize(path("large")), QSize(14142, 14142));
 }
 
 void ImageCheckTest::changedBytesDoNoHarm_data()

@@ -21,10 +21,9 @@ public:
 
     QString path(const char *name) const { return folder.filePath(QLatin1String(name)); }
 
-    /// Adds a slideshow with the title @p title; @p size bytes of video made on @p date, or no
-    /// video at all for a size below 0.
-    ProjectFile *add(const char *name, qint64 size, const QDate &date,
-                     const QString &title = QStringLiteral("Title"))
+    /// A slideshow with the title @p title that is not in the history yet.
+    std::unique_ptr<ProjectFile> make(const char *name,
+                                      const QString &title = QStringLiteral("Title")) const
     {
         auto project = std::make_unique<ProjectFile>(settings, ProjectFile::TitleSlide::Create);
         CaptionStyle caption;
@@ -33,9 +32,17 @@ public:
         project->setName(QLatin1String(name));
         project->setFileName(path(name));
         project->setResolution({1024, 768});
+        return project;
+    }
+
+    /// Adds one, with @p size bytes of video made on @p date, or no video at all for a size below
+    /// 0.
+    const ProjectFile *add(const char *name, qint64 size, const QDate &date,
+                           const QString &title = QStringLiteral("Title"))
+    {
         if (size >= 0)
             write(path(name), size, date);
-        return store.add(std::move(project));
+        return store.add(make(name, title));
     }
 
     static void write(const QString &fileName, qint64 size, const QDate &date)

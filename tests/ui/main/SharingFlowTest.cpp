@@ -346,10 +346,11 @@ void SharingFlowTest::slideshowIsRemovedAndResumed()
         store.load();
         return store.projects().size();
     };
-    QCOMPARE(kept(), std::size_t(0));
+    QTRY_COMPARE(kept(), std::size_t(0));
     QVERIFY(QFile::exists(m_video));
+    QTRY_VERIFY(m->child<QWidget>("undoBar")->isVisible());
     clickIn(&history(), "btnUndo");
-    QCOMPARE(kept(), std::size_t(1));
+    QTRY_COMPARE(kept(), std::size_t(1));
     QCOMPARE(history().selectedFile(), m_video);
 
     // One of its photos is gone when it is resumed.
