@@ -103,7 +103,7 @@ void VelmoraStartTest::firstStart()
     m_metrics = server.url().toString();
     QFile services(m_data->filePath(QStringLiteral("services.ini")));
     QVERIFY(services.open(QIODevice::WriteOnly));
-    services.write("[metrics]\naddress=http://127.0.0.1:1/\nbatch=2\n");
+    services.write("[metrics]\naddress=http://127.0.0.1:1/\n");
     services.close();
     QFile settings(m_data->filePath(QStringLiteral("settings.ini")));
     QVERIFY(settings.open(QIODevice::WriteOnly));

@@ -32,6 +32,7 @@ namespace
 constexpr int kHandOverTimeout = 5000; // ms
 
 void setUpFont()
+constexpr int kMetricTimeout = 1000;   // ms that the end may wait for the last usage events
 {
     QFont font(QStringLiteral("Segoe UI"));
     font.setPixelSize(11);
@@ -83,6 +84,7 @@ int runProgram(velmora::Application &application, const QStringList &files)
         window.offerRestore();
         window.openFiles(files);
         window.runUpdateChecker();
+    MetricSender::instance().SendData(); // it is no whole batch
         for (const QString &text : qAsConst(early))
             window.onMessageReceived(text);
     });
@@ -97,7 +99,11 @@ int runInstance(int &argc, char **argv)
     if (application.isRunning() &&
         application.sendMessage(StartMessage::compose(files), kHandOverTimeout))
         return 0;
-    return runProgram(application, files);
+    const int result = runProgram(application, files);
+    // Another start need not wait for this.
+    application.releaseInstance();
+    MetricSender::instance().flush(kMetricTimeout);
+    return result;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Identity.h"
 #include "generator/worker/WorkerProtocol.h"
+#include "helpers/HttpServer.h"
 #include "helpers/ProcessControl.h"
 #include "helpers/RenderFixture.h"
 #include "helpers/VideoProbe.h"
@@ -35,6 +36,7 @@ private slots:
     void interruptLeavesNothing_data();
     void interruptLeavesNothing();
     void documentRendersAlike();
+    void usageIsSentAtTheEnd();
     void terminalShowsABar();
     void manPageIsComplete();
 
@@ -311,6 +313,29 @@ void VelmoratoolTest::documentRendersAlike()
     const QString document = m_fixture.path(QStringLiteral("dumped.json"));
     QStringList arguments =
         tiny({QStringLiteral("photo.jpg"), QStringLiteral("second.png")}, output);
+void VelmoratoolTest::usageIsSentAtTheEnd()
+{
+    HttpServer server;
+    const QString settings = m_fixture.path(QStringLiteral("data/settings.ini"));
+    QVERIFY(QDir().mkpath(QFileInfo(settings).path()));
+    m_fixture.file(QStringLiteral("data/settings.ini"), "[General]\nsendStatistics=true\n");
+    const QString output = m_fixture.output(QStringLiteral("counted.mp4"));
+    QProcess process;
+    setLocale(process, QStringLiteral("C.UTF-8"));
+    QProcessEnvironment environment = process.processEnvironment();
+    environment.insert(QStringLiteral("VELMORA_METRICS_ADDRESS"), server.url().toString());
+    process.setProcessEnvironment(environment);
+    process.start(program(), tiny({m_photo}, output));
+    QTRY_COMPARE_WITH_TIMEOUT(process.state(), QProcess::NotRunning, 120'000);
+    QVERIFY(QFile::remove(settings));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+    const QByteArray requests = server.requests.join();
+    QVERIFY2(requests.contains("m2=gres:160x90") && requests.contains("m1=end:1"),
+             requests.constData());
+    QVERIFY(QFile::remove(output));
+}
+
     arguments << QStringLiteral("--dump-project") << document << QStringLiteral("--title")
               << QStringLiteral("Hello") << QStringLiteral("--transition")
               << QStringLiteral("cross fade");
