@@ -2894,10 +2894,6 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
 <context>
     <name>velmora::SoundTrack</name>
     <message>
-        <source>%1 cannot be written.</source>
-        <translation>%1 kann nicht geschrieben werden.</translation>
-    </message>
-    <message>
         <source>The music file '%1' cannot be read: %2</source>
         <translation>Die Musikdatei „%1“ kann nicht gelesen werden: %2</translation>
     </message>

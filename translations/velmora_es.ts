@@ -2894,10 +2894,6 @@ Pulse «Cancelar» para cancelar la operación.</translation>
 <context>
     <name>velmora::SoundTrack</name>
     <message>
-        <source>%1 cannot be written.</source>
-        <translation>%1 no se puede escribir.</translation>
-    </message>
-    <message>
         <source>The music file '%1' cannot be read: %2</source>
         <translation>El archivo de música «%1» no se puede leer: %2</translation>
     </message>

@@ -2894,10 +2894,6 @@ Press "Cancel" to cancel the operation.</source>
 <context>
     <name>velmora::SoundTrack</name>
     <message>
-        <source>%1 cannot be written.</source>
-        <translation>%1 ne peut pas être écrit.</translation>
-    </message>
-    <message>
         <source>The music file '%1' cannot be read: %2</source>
         <translation>Le fichier de musique « %1 » ne peut pas être lu : %2</translation>
     </message>

@@ -2894,10 +2894,6 @@ Premere "Annulla" per annullare l'operazione.</translation>
 <context>
     <name>velmora::SoundTrack</name>
     <message>
-        <source>%1 cannot be written.</source>
-        <translation>%1 non può essere scritto.</translation>
-    </message>
-    <message>
         <source>The music file '%1' cannot be read: %2</source>
         <translation>Il file musicale "%1" non può essere letto: %2</translation>
     </message>

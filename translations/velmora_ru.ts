@@ -2894,10 +2894,6 @@ Press "Cancel" to cancel the operation.</source>
 <context>
     <name>velmora::SoundTrack</name>
     <message>
-        <source>%1 cannot be written.</source>
-        <translation>%1 не записывается.</translation>
-    </message>
-    <message>
         <source>The music file '%1' cannot be read: %2</source>
         <translation>Музыкальный файл «%1» не читается: %2</translation>
     </message>

@@ -2894,10 +2894,6 @@ Press "Cancel" to cancel the operation.</source>
 <context>
     <name>velmora::SoundTrack</name>
     <message>
-        <source>%1 cannot be written.</source>
-        <translation>无法写入 %1。</translation>
-    </message>
-    <message>
         <source>The music file '%1' cannot be read: %2</source>
         <translation>无法读取音乐文件“%1”: %2</translation>
     </message>

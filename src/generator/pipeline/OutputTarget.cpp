@@ -79,11 +79,14 @@ RenderError OutputTarget::prepare(const QString &fileName, const QString &format
     if (!error.isSet())
         error = lock(lockFolder);
     if (error.isSet())
-        return error;
-    removeStrays();
-    m_temporaryFile =
-        QStringLiteral("%1/%2%3.%4").arg(m_folder, m_temporaryStem, randomLetters(), m_extension);
-    return tryWriting();
+    if (!error.isSet()) {
+        removeStrays();
+        m_temporaryFile = QStringLiteral("%1/%2%3.%4")
+                              .arg(m_folder, m_temporaryStem, randomLetters(), m_extension);
+        error = tryWriting();
+    }
+        qCWarning(generatorLog) << "The video cannot be written:" << m_fileName;
+    return error;
 }
 
 RenderError OutputTarget::commit()

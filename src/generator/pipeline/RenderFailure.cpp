@@ -11,7 +11,7 @@ namespace velmora
 
 RenderError RenderFailure::ofTool(const VideoUtil &util, const QString &folder)
 {
-    if (util.errorText() != QCoreApplication::translate("velmora::VideoUtil", "The disk is full."))
+    if (util.failure() != VideoUtil::Failure::DiskFull)
         return {RenderErrorCode::kEncoder, util.errorText()};
     return {RenderErrorCode::kDiskFull,
             QCoreApplication::translate("velmora::RenderFailure",

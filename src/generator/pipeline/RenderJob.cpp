@@ -132,7 +132,7 @@ void RenderJob::Private::onChecked()
         error = fault;
     }
     if (error.isSet())
-        qCWarning(generatorLog).noquote() << error.code << error.text;
+        qCWarning(generatorLog).noquote() << "The checks failed:" << error.code;
     if (cancelRequested)
         end([this] { emit q->cancelled(); });
     else if (error.isSet())

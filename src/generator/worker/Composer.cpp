@@ -221,10 +221,12 @@ void Composer::onError(QProcess::ProcessError error)
 {
     qCWarning(generatorLog).noquote() << QStringLiteral("Error:%1").arg(error) << nameOf(error);
     // Every other error is followed by finished().
-    if (error == QProcess::FailedToStart)
-        fail({kGeneratorError,
-              tr("The render program %1 could not be started: %2")
-                  .arg(QDir::toNativeSeparators(m_program), m_process->errorString())});
+    if (error != QProcess::FailedToStart)
+        return;
+    qCWarning(generatorLog).noquote() << "The worker does not start:" << m_program;
+    fail(
+        {kGeneratorError, tr("The render program %1 could not be started: %2")
+                              .arg(QDir::toNativeSeparators(m_program), m_process->errorString())});
 }
 
 void Composer::onReadyReadStandardError()
@@ -330,7 +332,7 @@ void Composer::fail(const RenderError &reason)
     if (!wanted)
         return;
     m_failure = reason;
-    qCWarning(generatorLog).noquote() << reason.code << reason.text;
+    qCWarning(generatorLog).noquote() << "The render failed:" << reason.code;
     emit failed(kGeneratorError);
 }
 
