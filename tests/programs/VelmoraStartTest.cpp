@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "helpers/DeadLock.h"
 #include "helpers/HttpServer.h"
 #include "helpers/ProcessControl.h"
 #include "helpers/TestProcess.h"
@@ -36,6 +37,7 @@ private slots:
     void crashIsToldAtTheNextStart();
     void startsAlthoughFirstIsSilent();
     void startsOnGarbage();
+    void sweepsWhatAKilledRenderLeft();
 
 private:
     std::unique_ptr<QProcess> start(const QStringList &arguments = {})
@@ -240,6 +242,20 @@ void VelmoraStartTest::startsOnGarbage()
     // There is no such translation, so that the texts stay English.
     QVERIFY(log().contains("Load translation: velmora_xx"));
     QVERIFY(!program->waitForFinished(1000));
+    end(*program);
+}
+
+void VelmoraStartTest::sweepsWhatAKilledRenderLeft()
+{
+    const QString render = m_data->filePath(QStringLiteral("cache/data/render-dead01"));
+    QVERIFY(QDir().mkpath(render + QStringLiteral("/video")));
+    QFile lock(render + QStringLiteral("/render.lock"));
+    QVERIFY(lock.open(QIODevice::WriteOnly));
+    lock.write(deadLock());
+    lock.close();
+    const auto program = start();
+    QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(render), 90000);
+    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 90000);
     end(*program);
 }
 

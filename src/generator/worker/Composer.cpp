@@ -316,13 +316,9 @@ void Composer::onFinished(int exitCode, QProcess::ExitStatus exitStatus)
 /// A worker that was killed has cleaned up nothing.
 void Composer::sweepAfterWorker()
 {
-    const QString folder = Paths::cacheFolder();
     if (!m_sweeper)
         m_sweeper = std::make_unique<TaskThread>();
-    m_sweeper->add([folder] {
-        CacheSweeper::sweepAll(folder);
-        return TaskThread::Report([] {});
-    });
+    CacheSweeper::sweepAllOn(*m_sweeper, Paths::cacheFolder());
 }
 
 void Composer::fail(const RenderError &reason)

@@ -3,6 +3,8 @@
 #include "app/Identity.h"
 #include "app/Log.h"
 #include "app/Paths.h"
+#include "app/TaskThread.h"
+#include "generator/pipeline/CacheSweeper.h"
 #include "platform/ComApartment.h"
 #include "platform/DesktopNotification.h"
 #include "platform/FileManager.h"
@@ -30,9 +32,9 @@ namespace
 {
 
 constexpr int kHandOverTimeout = 5000; // ms
+constexpr int kMetricTimeout = 1000;   // ms that the end may wait for the last usage events
 
 void setUpFont()
-constexpr int kMetricTimeout = 1000;   // ms that the end may wait for the last usage events
 {
     QFont font(QStringLiteral("Segoe UI"));
     font.setPixelSize(11);
@@ -57,6 +59,9 @@ int runProgram(velmora::Application &application, const QStringList &files)
                      [&early](const QString &text) { early.append(text); });
     SplashScreen splash;
     splash.play();
+    // A render that was killed may have left much, and the next one may be far off.
+    TaskThread sweeper;
+    CacheSweeper::sweepAllOn(sweeper, Paths::cacheFolder());
     setUpFont();
     HistoryStore history(Paths::historyFile(), application.settings());
     history.load();
@@ -79,12 +84,12 @@ int runProgram(velmora::Application &application, const QStringList &files)
 
     setUpMetrics(MetricSender::instance(), application.services(), application.settingsStore());
     recordSystem(MetricSender::instance(), readSystemInfo());
+    MetricSender::instance().SendData(); // it is no whole batch
     // Dialogs need the event loop.
     QTimer::singleShot(0, &window, [&window, &early, files] {
         window.offerRestore();
         window.openFiles(files);
         window.runUpdateChecker();
-    MetricSender::instance().SendData(); // it is no whole batch
         for (const QString &text : qAsConst(early))
             window.onMessageReceived(text);
     });
