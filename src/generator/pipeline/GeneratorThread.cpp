@@ -265,7 +265,7 @@ void GeneratorThread::fail(const RenderError &error)
 {
     const std::lock_guard<std::mutex> locker(m_mutex);
     // Whatever fails after the first failure or after a cancel fails because of it.
-    if (!m_context.cancelled)
+    if (!m_context.cancelled && !RenderFailure::comesOfTermination(error))
         m_error = error;
     m_context.cancelled = true;
 }

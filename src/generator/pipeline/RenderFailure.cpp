@@ -2,6 +2,7 @@
 #include "generator/pipeline/RenderFailure.h"
 
 #include "generator/encoding/VideoUtil.h"
+#include "platform/TerminationWatcher.h"
 #include "project/slides/ProjectItemSimple.h"
 
 #include <QCoreApplication>
@@ -17,6 +18,11 @@ RenderError RenderFailure::ofTool(const VideoUtil &util, const QString &folder)
             QCoreApplication::translate("velmora::RenderFailure",
                                         "The disk that holds the folder \"%1\" is full.")
                 .arg(folder)};
+}
+
+bool RenderFailure::comesOfTermination(const RenderError &error)
+{
+    return error.code == RenderErrorCode::kEncoder && isTerminationRequested();
 }
 
 RenderError RenderFailure::ofPhoto(const ProjectItem &item, const QString &reason)

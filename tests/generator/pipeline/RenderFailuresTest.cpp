@@ -5,6 +5,7 @@
 #include "helpers/LogCapture.h"
 #include "helpers/ProcessControl.h"
 #include "helpers/RenderFixture.h"
+#include "platform/TerminationWatcher.h"
 #include "services/MetricSender.h"
 
 #include <QDir>
@@ -181,6 +182,27 @@ private slots:
         const qint64 pid = pidIn(mark);
         QVERIFY(pid > 0);
         QTRY_VERIFY(!ProcessControl::isAlive(pid));
+    }
+
+    // As when Ctrl-C in a terminal ends the encoder first.
+    void anEncoderThatEndsWithTheProgramIsNoFailure()
+    {
+        if (QSysInfo::productType() == QLatin1String("windows"))
+            QSKIP("There, no process can be interrupted alone.");
+        const QString mark = m_fixture.path(QStringLiteral("interrupted"));
+        fakeEncoder(2, QStringLiteral("pid|%1|hang").arg(mark));
+        const auto termination = createTerminationWatcher([] {});
+        QTimer poll;
+        connect(&poll, &QTimer::timeout, &poll, [&] {
+            const qint64 pid = pidIn(mark);
+            if (pid <= 0)
+                return;
+            poll.stop();
+            QVERIFY(ProcessControl::interrupt(QCoreApplication::applicationPid()));
+            ProcessControl::kill(pid);
+        });
+        poll.start(20);
+        QCOMPARE(m_fixture.render(request()).kind, RenderOutcome::Cancelled);
     }
 
     // A video of one slide is not joined, only renamed.

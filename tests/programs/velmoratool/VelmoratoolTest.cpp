@@ -5,6 +5,7 @@
 #include "helpers/ProcessControl.h"
 #include "helpers/RenderFixture.h"
 #include "helpers/VideoProbe.h"
+#include "platform/ProcessTree.h"
 #include "programs/velmoratool/HelpText.h"
 
 #include <QCoreApplication>
@@ -35,8 +36,8 @@ private slots:
     void protocolLinesAreWhole();
     void interruptLeavesNothing_data();
     void interruptLeavesNothing();
-    void documentRendersAlike();
     void usageIsSentAtTheEnd();
+    void documentRendersAlike();
     void terminalShowsABar();
     void manPageIsComplete();
 
@@ -265,20 +266,24 @@ void VelmoratoolTest::protocolLinesAreWhole()
 void VelmoratoolTest::interruptLeavesNothing_data()
 {
     QTest::addColumn<bool>("interrupted");
-    QTest::newRow("Ctrl-C") << true;
-    QTest::newRow("end of session") << false;
+    QTest::addColumn<bool>("wholeGroup");
+    QTest::newRow("interrupt") << true << false;
+    QTest::newRow("Ctrl-C in a terminal") << true << true;
+    QTest::newRow("end of session") << false << false;
 }
 
 void VelmoratoolTest::interruptLeavesNothing()
 {
     QFETCH(bool, interrupted);
-    if (!interrupted && onWindows())
-        QSKIP("Windows asks programs without windows through their console only.");
+    QFETCH(bool, wholeGroup);
+    if ((!interrupted || wholeGroup) && onWindows())
+        QSKIP("Windows asks programs without windows through their console only, all at once.");
     const QString output = m_fixture.file(QStringLiteral("out/kept.mp4"), "older video");
     QStringList arguments = tiny({m_photo, m_photo, m_photo, m_photo}, output);
     arguments << QStringLiteral("--json") << QStringLiteral("--time=60")
               << QStringLiteral("--transition-length=60") << QStringLiteral("--size=640x360");
-    QProcess process;
+    const auto tool = ProcessTree::createProcess(ProcessTree::Group::Own);
+    QProcess &process = *tool;
     setLocale(process, QStringLiteral("C.UTF-8"));
     ProcessControl::allowInterrupts();
     process.start(program(), arguments);
@@ -288,7 +293,8 @@ void VelmoratoolTest::interruptLeavesNothing()
         m_output += QString::fromUtf8(process.readAllStandardOutput());
     }
     if (interrupted)
-        QVERIFY(ProcessControl::interrupt(process.processId()));
+        QVERIFY(wholeGroup ? ProcessControl::interruptGroup(process.processId())
+                           : ProcessControl::interrupt(process.processId()));
     else
         process.terminate();
     QVERIFY(process.waitForFinished(60'000));
@@ -307,12 +313,6 @@ void VelmoratoolTest::interruptLeavesNothing()
     QVERIFY(file.remove());
 }
 
-void VelmoratoolTest::documentRendersAlike()
-{
-    const QString output = m_fixture.output(QStringLiteral("from project.mp4"));
-    const QString document = m_fixture.path(QStringLiteral("dumped.json"));
-    QStringList arguments =
-        tiny({QStringLiteral("photo.jpg"), QStringLiteral("second.png")}, output);
 void VelmoratoolTest::usageIsSentAtTheEnd()
 {
     HttpServer server;
@@ -336,6 +336,12 @@ void VelmoratoolTest::usageIsSentAtTheEnd()
     QVERIFY(QFile::remove(output));
 }
 
+void VelmoratoolTest::documentRendersAlike()
+{
+    const QString output = m_fixture.output(QStringLiteral("from project.mp4"));
+    const QString document = m_fixture.path(QStringLiteral("dumped.json"));
+    QStringList arguments =
+        tiny({QStringLiteral("photo.jpg"), QStringLiteral("second.png")}, output);
     arguments << QStringLiteral("--dump-project") << document << QStringLiteral("--title")
               << QStringLiteral("Hello") << QStringLiteral("--transition")
               << QStringLiteral("cross fade");
