@@ -2331,6 +2331,10 @@ Press "Cancel" to cancel the operation.</source>
         <translation>La vidéo terminée n'a pas pu être mise en place sous « %1 » : %2.</translation>
     </message>
     <message>
+        <source>The video was kept as "%1".</source>
+        <translation>La vidéo a été conservée sous « %1 ».</translation>
+    </message>
+    <message>
         <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
         <translation>Le nom de la vidéo « %1... » est trop long : un nom de fichier a au plus %2 octets.</translation>
     </message>

@@ -2331,6 +2331,10 @@ Press "Cancel" to cancel the operation.</source>
         <translation>完成した動画を「%1」に置けませんでした: %2。</translation>
     </message>
     <message>
+        <source>The video was kept as "%1".</source>
+        <translation>動画は「%1」として残してあります。</translation>
+    </message>
+    <message>
         <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
         <translation>動画の名前「%1...」は長すぎます: ファイル名は %2 バイト以内です。</translation>
     </message>

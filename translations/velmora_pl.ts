@@ -2331,6 +2331,10 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Nie można umieścić gotowego filmu jako „%1”: %2.</translation>
     </message>
     <message>
+        <source>The video was kept as "%1".</source>
+        <translation>Film zachowano jako „%1”.</translation>
+    </message>
+    <message>
         <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
         <translation>Nazwa filmu „%1...” jest za długa: może mieć najwyżej %2 bajtów.</translation>
     </message>

@@ -2331,6 +2331,10 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Готовое видео не удалось поместить как «%1»: %2.</translation>
     </message>
     <message>
+        <source>The video was kept as "%1".</source>
+        <translation>Видео сохранено как «%1».</translation>
+    </message>
+    <message>
         <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
         <translation>Имя видео «%1...» слишком длинное: в имени файла не больше %2 байт.</translation>
     </message>
