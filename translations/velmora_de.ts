@@ -2331,6 +2331,10 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <translation>Das fertige Video konnte nicht als „%1“ abgelegt werden: %2.</translation>
     </message>
     <message>
+        <source>The video was kept as "%1".</source>
+        <translation>Das Video wurde als „%1“ behalten.</translation>
+    </message>
+    <message>
         <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
         <translation>Der Name des Videos „%1...“ ist zu lang: Ein Dateiname darf höchstens %2 Bytes haben.</translation>
     </message>
@@ -2893,10 +2897,6 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
 </context>
 <context>
     <name>velmora::SoundTrack</name>
-    <message>
-        <source>%1 cannot be written.</source>
-        <translation>%1 kann nicht geschrieben werden.</translation>
-    </message>
     <message>
         <source>The music file '%1' cannot be read: %2</source>
         <translation>Die Musikdatei „%1“ kann nicht gelesen werden: %2</translation>

@@ -2331,6 +2331,10 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <translation>El vídeo terminado no se ha podido colocar como «%1»: %2.</translation>
     </message>
     <message>
+        <source>The video was kept as "%1".</source>
+        <translation>El vídeo se ha guardado como «%1».</translation>
+    </message>
+    <message>
         <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
         <translation>El nombre del vídeo «%1...» es demasiado largo: puede tener como máximo %2 bytes.</translation>
     </message>
@@ -2893,10 +2897,6 @@ Pulse «Cancelar» para cancelar la operación.</translation>
 </context>
 <context>
     <name>velmora::SoundTrack</name>
-    <message>
-        <source>%1 cannot be written.</source>
-        <translation>%1 no se puede escribir.</translation>
-    </message>
     <message>
         <source>The music file '%1' cannot be read: %2</source>
         <translation>El archivo de música «%1» no se puede leer: %2</translation>

@@ -2331,6 +2331,10 @@ Press "Cancel" to cancel the operation.</source>
         <translation>La vidéo terminée n'a pas pu être mise en place sous « %1 » : %2.</translation>
     </message>
     <message>
+        <source>The video was kept as "%1".</source>
+        <translation>La vidéo a été conservée sous « %1 ».</translation>
+    </message>
+    <message>
         <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
         <translation>Le nom de la vidéo « %1... » est trop long : un nom de fichier a au plus %2 octets.</translation>
     </message>
@@ -2893,10 +2897,6 @@ Press "Cancel" to cancel the operation.</source>
 </context>
 <context>
     <name>velmora::SoundTrack</name>
-    <message>
-        <source>%1 cannot be written.</source>
-        <translation>%1 ne peut pas être écrit.</translation>
-    </message>
     <message>
         <source>The music file '%1' cannot be read: %2</source>
         <translation>Le fichier de musique « %1 » ne peut pas être lu : %2</translation>

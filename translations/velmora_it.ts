@@ -2331,6 +2331,10 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <translation>Il video finito non può essere messo al suo posto come "%1": %2.</translation>
     </message>
     <message>
+        <source>The video was kept as "%1".</source>
+        <translation>Il video è stato conservato come "%1".</translation>
+    </message>
+    <message>
         <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
         <translation>Il nome del video "%1..." è troppo lungo: può avere al massimo %2 byte.</translation>
     </message>
@@ -2893,10 +2897,6 @@ Premere "Annulla" per annullare l'operazione.</translation>
 </context>
 <context>
     <name>velmora::SoundTrack</name>
-    <message>
-        <source>%1 cannot be written.</source>
-        <translation>%1 non può essere scritto.</translation>
-    </message>
     <message>
         <source>The music file '%1' cannot be read: %2</source>
         <translation>Il file musicale "%1" non può essere letto: %2</translation>

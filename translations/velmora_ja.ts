@@ -2331,6 +2331,10 @@ Press "Cancel" to cancel the operation.</source>
         <translation>完成した動画を「%1」に置けませんでした: %2。</translation>
     </message>
     <message>
+        <source>The video was kept as "%1".</source>
+        <translation>動画は「%1」として残してあります。</translation>
+    </message>
+    <message>
         <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
         <translation>動画の名前「%1...」は長すぎます: ファイル名は %2 バイト以内です。</translation>
     </message>
@@ -2893,10 +2897,6 @@ Press "Cancel" to cancel the operation.</source>
 </context>
 <context>
     <name>velmora::SoundTrack</name>
-    <message>
-        <source>%1 cannot be written.</source>
-        <translation>%1 に書き込めません。</translation>
-    </message>
     <message>
         <source>The music file '%1' cannot be read: %2</source>
         <translation>音楽ファイル「%1」を読み取れません: %2</translation>

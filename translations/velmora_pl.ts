@@ -2331,6 +2331,10 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Nie można umieścić gotowego filmu jako „%1”: %2.</translation>
     </message>
     <message>
+        <source>The video was kept as "%1".</source>
+        <translation>Film zachowano jako „%1”.</translation>
+    </message>
+    <message>
         <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
         <translation>Nazwa filmu „%1...” jest za długa: może mieć najwyżej %2 bajtów.</translation>
     </message>
@@ -2893,10 +2897,6 @@ Press "Cancel" to cancel the operation.</source>
 </context>
 <context>
     <name>velmora::SoundTrack</name>
-    <message>
-        <source>%1 cannot be written.</source>
-        <translation>Nie można zapisać %1.</translation>
-    </message>
     <message>
         <source>The music file '%1' cannot be read: %2</source>
         <translation>Nie można odczytać pliku muzycznego „%1”: %2</translation>

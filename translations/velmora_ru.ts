@@ -2331,6 +2331,10 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Готовое видео не удалось поместить как «%1»: %2.</translation>
     </message>
     <message>
+        <source>The video was kept as "%1".</source>
+        <translation>Видео сохранено как «%1».</translation>
+    </message>
+    <message>
         <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
         <translation>Имя видео «%1...» слишком длинное: в имени файла не больше %2 байт.</translation>
     </message>
@@ -2893,10 +2897,6 @@ Press "Cancel" to cancel the operation.</source>
 </context>
 <context>
     <name>velmora::SoundTrack</name>
-    <message>
-        <source>%1 cannot be written.</source>
-        <translation>%1 не записывается.</translation>
-    </message>
     <message>
         <source>The music file '%1' cannot be read: %2</source>
         <translation>Музыкальный файл «%1» не читается: %2</translation>

@@ -2331,6 +2331,10 @@ Press "Cancel" to cancel the operation.</source>
         <translation>无法将完成的视频放到“%1”: %2。</translation>
     </message>
     <message>
+        <source>The video was kept as "%1".</source>
+        <translation>视频已保留为“%1”。</translation>
+    </message>
+    <message>
         <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
         <translation>视频名称“%1...”太长: 文件名最多 %2 个字节。</translation>
     </message>
@@ -2893,10 +2897,6 @@ Press "Cancel" to cancel the operation.</source>
 </context>
 <context>
     <name>velmora::SoundTrack</name>
-    <message>
-        <source>%1 cannot be written.</source>
-        <translation>无法写入 %1。</translation>
-    </message>
     <message>
         <source>The music file '%1' cannot be read: %2</source>
         <translation>无法读取音乐文件“%1”: %2</translation>

@@ -28,6 +28,9 @@ void terminate(qint64 pid);
 /// Ends the tree at once (SIGKILL; "taskkill.exe /F /T /PID", on a thread of its own). Does not
 /// wait for its end.
 void kill(qint64 pid);
+/// Ends the running child alone and waits for its end. Where programs without windows can be asked
+/// to end (SIGTERM), it has @p graceMs for that; elsewhere it is killed at once.
+void end(QProcess &process, int graceMs);
 
 } // namespace ProcessTree
 

@@ -105,6 +105,13 @@ bool SingleInstance::sendMessage(const QString &text, int timeoutMs)
     return false;
 }
 
+void SingleInstance::release()
+{
+    delete m_server;
+    m_server = nullptr;
+    m_lock.unlock();
+}
+
 void SingleInstance::onConnection()
 {
     while (QLocalSocket *const socket = m_server->nextPendingConnection()) {

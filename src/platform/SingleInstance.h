@@ -28,6 +28,8 @@ public:
     /// Delivers @p text to the first process and waits for its receipt, at most @p timeoutMs.
     /// On false the other is not reachable; if it is gone by then, this object becomes the first.
     bool sendMessage(const QString &text, int timeoutMs);
+    /// Gives up being the first process, as the end of this object does.
+    void release();
 
 signals:
     /// A text from a second process, once for each delivery.

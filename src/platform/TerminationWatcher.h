@@ -19,4 +19,9 @@ public:
 /// @p onRequest is called from the event loop of the creating thread, once per request.
 std::unique_ptr<TerminationWatcher> createTerminationWatcher(std::function<void()> onRequest);
 
+/// Whether a request has come to the watcher that there is, its call included that is still to
+/// come. A terminal ends the child processes along with this one, and what follows from their end
+/// may be noticed before the event loop gets to the call. Any thread.
+bool isTerminationRequested();
+
 } // namespace velmora

@@ -105,12 +105,8 @@ void MetricSender::SendData()
     const std::lock_guard<std::mutex> locker(m_mutex);
     if (m_reply || m_pending.isEmpty() || !m_enabled)
         return;
-    if (!m_network) {
+    if (!m_network)
         m_network = new QNetworkAccessManager(this);
-        // The global sender outlives the application object, which networking must not.
-        connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this,
-                &MetricSender::dropNetwork);
-    }
     QUrl url = m_address;
     url.setPath(QStringLiteral("/"));
     url.setQuery(m_common + m_pending.join(QString()));
@@ -156,15 +152,16 @@ void MetricSender::flush(int timeoutMs)
     }();
     if (busy)
         loop.exec();
+    dropNetwork();
 }
 
+// The global sender outlives the application object, which networking must not.
 void MetricSender::dropNetwork()
 {
     const std::lock_guard<std::mutex> locker(m_mutex);
     if (m_reply)
         m_reply->disconnect(this);
     m_reply = nullptr;
-    m_enabled = false;
     delete m_network;
     m_network = nullptr;
 }

@@ -37,7 +37,8 @@ public:
     void recordGroup(const QVector<QPair<QString, QString>> &events);
     QStringList pending() const;
     /// Sends what is pending, whatever the batch limit, and waits for the answer, at most
-    /// @p timeoutMs; for the end of a process. Only on the thread that owns the object.
+    /// @p timeoutMs; then lets go of the network. A process that uses instance() calls this before
+    /// its application object goes. Only on the thread that owns the object.
     void flush(int timeoutMs);
 
 public slots:

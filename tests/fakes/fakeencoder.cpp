@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // FFmpeg, except that one of its runs does something else. The file that VELMORA_FAKE_ENCODER names
 // has four lines: FFmpeg's path, a file that counts the runs, the number of the run, and the words
-// for faketool that are done in its place. Questions for the version do not count.
+// for faketool that are done in its place, OUTPUT in them meaning the file that FFmpeg would write.
+// Questions for the version do not count.
 #include "helpers/Crash.h"
 #include "platform/ProcessTree.h"
 
@@ -47,6 +48,7 @@ int main(int argc, char **argv)
     const bool asksVersion = arguments.value(0) == QLatin1String("-version");
     if (asksVersion || countRun(lines.value(1)) != lines.value(2).toInt())
         return run(lines.value(0), arguments);
-    return run(QCoreApplication::applicationDirPath() + QStringLiteral("/faketool"),
-               lines.value(3).split(QLatin1Char('|')));
+    QStringList words = lines.value(3).split(QLatin1Char('|'));
+    words.replaceInStrings(QStringLiteral("OUTPUT"), arguments.constLast());
+    return run(QCoreApplication::applicationDirPath() + QStringLiteral("/faketool"), words);
 }

@@ -19,8 +19,11 @@ bool kill(qint64 pid);
 bool crash(qint64 pid);
 /// Processes started from now on can be interrupted.
 void allowInterrupts();
-/// Does to the process what Ctrl-C does to the program of a terminal.
+/// Does to the process alone, where that is possible, what Ctrl-C does to the program of a
+/// terminal.
 bool interrupt(qint64 pid);
+/// Does it to the group that the process leads, as the terminal does.
+bool interruptGroup(qint64 pid);
 /// The process goes on no more until it is killed.
 bool freeze(qint64 pid);
 

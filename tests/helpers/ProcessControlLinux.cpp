@@ -64,6 +64,11 @@ bool ProcessControl::interrupt(qint64 pid)
     return send(pid, SIGINT);
 }
 
+bool ProcessControl::interruptGroup(qint64 pid)
+{
+    return pid > 1 && ::kill(static_cast<pid_t>(-pid), SIGINT) == 0;
+}
+
 bool ProcessControl::freeze(qint64 pid)
 {
     return send(pid, SIGSTOP);

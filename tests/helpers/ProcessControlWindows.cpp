@@ -73,6 +73,11 @@ bool ProcessControl::interrupt(qint64)
     return GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0);
 }
 
+bool ProcessControl::interruptGroup(qint64 pid)
+{
+    return interrupt(pid);
+}
+
 bool ProcessControl::freeze(qint64 pid)
 {
     using Suspend = LONG(WINAPI *)(HANDLE);

@@ -12,6 +12,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include <utility>
@@ -74,6 +75,20 @@ QString RenderFixture::file(const QString &name, const QByteArray &content) cons
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("The file could not be written.");
     return path(name);
+}
+
+void RenderFixture::fakeTool(const char *variable, int call, const QString &action) const
+{
+    const QString counter = path(QStringLiteral("calls"));
+    QFile::remove(counter);
+    const QStringList orders{QStandardPaths::findExecutable(QStringLiteral("ffmpeg")), counter,
+                             QString::number(call), action};
+    qputenv(
+        "VELMORA_FAKE_ENCODER",
+        QFile::encodeName(file(QStringLiteral("orders"), orders.join(QLatin1Char('\n')).toUtf8())));
+    const QString program = QStandardPaths::findExecutable(
+        QStringLiteral("fakeencoder"), {QCoreApplication::applicationDirPath()});
+    qputenv(variable, QFile::encodeName(program));
 }
 
 RenderRequest RenderFixture::request(const QStringList &photos, const QString &outputFile) const

@@ -49,6 +49,11 @@ public:
     /// A file with these bytes.
     QString file(const QString &name, const QByteArray &content) const;
 
+    /// Has renders start, in place of the program that the environment variable names, one that is
+    /// FFmpeg but does @p action in its run number @p call; see tests/fakes/fakeencoder.cpp, which
+    /// the test must depend on.
+    void fakeTool(const char *variable, int call, const QString &action) const;
+
     /// A request for a video of 160x90 with one slide of a second per photo, no title slide, and
     /// transitions of a second.
     RenderRequest request(const QStringList &photos, const QString &outputFile) const;

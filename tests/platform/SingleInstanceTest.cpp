@@ -23,6 +23,7 @@ private slots:
     void deliversManyPaths();
     void killedOwnerIsReplaced();
     void silentOwnerTimesOut();
+    void releasedOwnerIsReplaced();
     void foldersAreIndependent();
     void survivesForeignClients_data();
     void survivesForeignClients();
@@ -113,6 +114,20 @@ void SingleInstanceTest::silentOwnerTimesOut()
     QVERIFY(owner.waitForFinished());
     QVERIFY(!second.sendMessage(QStringLiteral("Wake up!"), 200));
     QVERIFY(!second.isRunning()); // The place was free by then.
+}
+
+void SingleInstanceTest::releasedOwnerIsReplaced()
+{
+    const QTemporaryDir folder;
+    SingleInstance first(folder.path());
+    QSignalSpy old(&first, &SingleInstance::messageReceived);
+    first.release();
+    const SingleInstance next(folder.path());
+    QVERIFY(!next.isRunning());
+    QSignalSpy received(&next, &SingleInstance::messageReceived);
+    QCOMPARE(send(folder.path(), QStringLiteral("hello"), 5000), QByteArray("delivered"));
+    QTRY_COMPARE(received.size(), 1);
+    QCOMPARE(old.size(), 0);
 }
 
 void SingleInstanceTest::foldersAreIndependent()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "helpers/DeadLock.h"
 #include "helpers/HttpServer.h"
 #include "helpers/ProcessControl.h"
 #include "helpers/TestProcess.h"
@@ -36,6 +37,7 @@ private slots:
     void crashIsToldAtTheNextStart();
     void startsAlthoughFirstIsSilent();
     void startsOnGarbage();
+    void sweepsWhatAKilledRenderLeft();
 
 private:
     std::unique_ptr<QProcess> start(const QStringList &arguments = {})
@@ -103,7 +105,7 @@ void VelmoraStartTest::firstStart()
     m_metrics = server.url().toString();
     QFile services(m_data->filePath(QStringLiteral("services.ini")));
     QVERIFY(services.open(QIODevice::WriteOnly));
-    services.write("[metrics]\naddress=http://127.0.0.1:1/\nbatch=2\n");
+    services.write("[metrics]\naddress=http://127.0.0.1:1/\n");
     services.close();
     QFile settings(m_data->filePath(QStringLiteral("settings.ini")));
     QVERIFY(settings.open(QIODevice::WriteOnly));
@@ -240,6 +242,20 @@ void VelmoraStartTest::startsOnGarbage()
     // There is no such translation, so that the texts stay English.
     QVERIFY(log().contains("Load translation: velmora_xx"));
     QVERIFY(!program->waitForFinished(1000));
+    end(*program);
+}
+
+void VelmoraStartTest::sweepsWhatAKilledRenderLeft()
+{
+    const QString render = m_data->filePath(QStringLiteral("cache/data/render-dead01"));
+    QVERIFY(QDir().mkpath(render + QStringLiteral("/video")));
+    QFile lock(render + QStringLiteral("/render.lock"));
+    QVERIFY(lock.open(QIODevice::WriteOnly));
+    lock.write(deadLock());
+    lock.close();
+    const auto program = start();
+    QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(render), 90000);
+    QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 90000);
     end(*program);
 }
 

@@ -5,6 +5,8 @@
 #include "helpers/HttpServer.h"
 #include "services/MetricSetup.h"
 
+#include <QElapsedTimer>
+#include <QNetworkAccessManager>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QSignalSpy>
@@ -170,6 +172,22 @@ private slots:
         sender.record(QStringLiteral("upld"), 1);
         sender.flush(5000);
         QCOMPARE(request(server, 0), QStringLiteral("GET /?c&m1=upld:1 HTTP/1.1"));
+    }
+
+    void flushGivesUpOnASilentService()
+    {
+        HttpServer server;
+        server.hold();
+        MetricSender sender;
+        sender.configure(server.url(), QStringLiteral("c"), 1, true);
+        sender.record(QStringLiteral("upld"), 1);
+        QTRY_COMPARE(server.requests.size(), 1);
+        QElapsedTimer elapsed;
+        elapsed.start();
+        sender.flush(200);
+        QVERIFY(elapsed.elapsed() < 5000);
+        // Networking must not outlive the application object, as the program's sender does.
+        QVERIFY(!sender.findChild<QNetworkAccessManager *>());
     }
 
     void setUpFollowsConfiguration()

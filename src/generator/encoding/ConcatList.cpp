@@ -44,7 +44,7 @@ bool ConcatList::write(const QString &listFile, const QStringList &files, QStrin
     QSaveFile list(listFile);
     if (!list.open(QIODevice::WriteOnly)) {
         *error = unwritableList(list);
-        qCCritical(generatorLog).noquote() << "Open merge file error:" << *error;
+        qCCritical(generatorLog).noquote() << "Open merge file error:" << listFile;
         return false;
     }
     qCInfo(generatorLog).noquote() << "MERGE FILE LIST:" << listFile;
@@ -52,7 +52,7 @@ bool ConcatList::write(const QString &listFile, const QStringList &files, QStrin
         const QByteArray text = line(file);
         if (text.isEmpty()) {
             *error = unwritableName(file);
-            qCCritical(generatorLog).noquote() << *error;
+            qCCritical(generatorLog) << "A file name has a line break:" << file;
             return false;
         }
         qCInfo(generatorLog).noquote() << "APPEND FILE:" << QString::fromUtf8(text);
@@ -61,7 +61,7 @@ bool ConcatList::write(const QString &listFile, const QStringList &files, QStrin
     if (list.commit())
         return true;
     *error = unwritableList(list);
-    qCCritical(generatorLog).noquote() << *error;
+    qCCritical(generatorLog).noquote() << "The merge file is not written:" << listFile;
     return false;
 }
 

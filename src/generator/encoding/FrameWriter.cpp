@@ -21,7 +21,7 @@ namespace
 constexpr int kQuality = 100;
 constexpr int kPixelFormat = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? TJPF_BGRX : TJPF_XRGB;
 
-bool isDiskFull(const QFile &file, qint64 needed)
+bool hasNoRoom(const QFile &file, qint64 needed)
 {
     if (!file.isOpen())
         return false;
@@ -30,9 +30,9 @@ bool isDiskFull(const QFile &file, qint64 needed)
            (storage.isValid() && storage.bytesAvailable() < needed);
 }
 
-QString writeError(const QFile &file, qint64 needed)
+QString writeError(const QFile &file, bool diskFull)
 {
-    if (isDiskFull(file, needed))
+    if (diskFull)
         return QCoreApplication::translate("velmora::VideoUtil", "The disk is full.");
     return QCoreApplication::translate("velmora::FrameWriter", "%1 cannot be written: %2")
         .arg(QDir::toNativeSeparators(file.fileName()), file.errorString());
@@ -66,6 +66,7 @@ FrameWriter::~FrameWriter() = default;
 bool FrameWriter::write(const QImage &frame, const QString &path, QString *error)
 {
     unsigned long size = 0;
+    m_diskFull = false;
     return compress(frame.convertToFormat(QImage::Format_RGB32), &size, error) &&
            store(path, static_cast<qint64>(size), error);
 }
@@ -73,6 +74,7 @@ bool FrameWriter::write(const QImage &frame, const QString &path, QString *error
 bool FrameWriter::write(const JpegBlocks &frame, const QString &path, QString *error)
 {
     const size_t size = frame.write(m_buffer);
+    m_diskFull = false;
     if (size > 0)
         return store(path, static_cast<qint64>(size), error);
     *error = compressionError(frame.size());
@@ -107,13 +109,14 @@ bool FrameWriter::compress(const QImage &frame, unsigned long *size, QString *er
     return result == 0;
 }
 
-bool FrameWriter::store(const QString &path, qint64 size, QString *error) const
+bool FrameWriter::store(const QString &path, qint64 size, QString *error)
 {
     QFile file(path);
     const char *data = reinterpret_cast<const char *>(m_buffer.data());
     if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(data, size) == size)
         return true;
-    *error = writeError(file, size);
+    m_diskFull = hasNoRoom(file, size);
+    *error = writeError(file, m_diskFull);
     return false;
 }
 

@@ -28,6 +28,8 @@ public:
     /// then be incomplete.
     bool write(const QImage &frame, const QString &path, QString *error);
     bool write(const JpegBlocks &frame, const QString &path, QString *error);
+    /// Whether the last write() found no room.
+    bool isDiskFull() const { return m_diskFull; }
     /// The blocks of the file that write() would make of @p frame.
     bool toBlocks(const QImage &frame, JpegBlocks *blocks, QString *error);
 
@@ -35,10 +37,11 @@ private:
     struct Compressor;
 
     bool compress(const QImage &frame, unsigned long *size, QString *error);
-    bool store(const QString &path, qint64 size, QString *error) const;
+    bool store(const QString &path, qint64 size, QString *error);
 
     std::unique_ptr<Compressor> m_compressor;
     std::vector<unsigned char> m_buffer;
+    bool m_diskFull = false;
 };
 
 } // namespace velmora

@@ -29,15 +29,6 @@ void appendTail(QByteArray &kept, const QByteArray &piece)
         kept.remove(0, kept.size() - kKeptOutput);
 }
 
-void endProcess(QProcess &process)
-{
-    process.terminate();
-    if (process.waitForFinished(kEndTimeout))
-        return;
-    process.kill();
-    process.waitForFinished(-1);
-}
-
 /// Lines of the encoder that are progress, statistics or follow-ups of the line that matters.
 bool isTelling(const QString &line)
 {
@@ -94,7 +85,7 @@ ToolResult ToolRunner::run(const QString &program, const QStringList &arguments)
         process->waitForFinished(kPollInterval);
         drain(*process, result);
         if (process->state() != QProcess::NotRunning && shouldEnd(elapsed.elapsed(), result))
-            endProcess(*process);
+            ProcessTree::end(*process, kEndTimeout);
     }
     drain(*process, result);
     result.crashed = result.crashed || process->exitStatus() == QProcess::CrashExit;

@@ -20,15 +20,6 @@ namespace
 /// The progress reader needs the newest lines only.
 constexpr int kKeptProgress = 16 * 1024;
 
-/// The file that is written first; it keeps the suffix, from which the encoder takes the format.
-QString temporaryName(const QString &outputFile)
-{
-    const QFileInfo info(outputFile);
-    const QString suffix = info.suffix().isEmpty() ? QString() : QLatin1Char('.') + info.suffix();
-    return info.path() + QLatin1Char('/') + info.completeBaseName() + QStringLiteral(".part") +
-           suffix;
-}
-
 OutputFormat formatOf(const EncodingContext &context)
 {
     return {context.size, context.extension, context.profile};
@@ -41,20 +32,29 @@ bool onOneVolume(const QString &file, const QString &target)
            QStorageInfo(QFileInfo(target).path()).device();
 }
 
-QString diskFull()
-{
-    return QCoreApplication::translate("velmora::VideoUtil", "The disk is full.");
-}
-
 } // namespace
 
 VideoUtil::VideoUtil(EncodingContext &context) : m_context(context) {}
 
-bool VideoUtil::fail(const QString &reason)
+bool VideoUtil::fail(Failure failure, const QString &reason, const QString &logged)
 {
+    m_failure = failure;
     m_errorText = reason;
-    qCWarning(generatorLog).noquote() << reason;
+    qCWarning(generatorLog).noquote() << logged;
     return false;
+}
+
+bool VideoUtil::failCancelled(const QString &file)
+{
+    return fail(Failure::Cancelled, QCoreApplication::translate("velmora::VideoUtil", "Cancelled."),
+                QStringLiteral("Cancelled: %1").arg(file));
+}
+
+bool VideoUtil::failWithFullDisk(const QString &file)
+{
+    return fail(Failure::DiskFull,
+                QCoreApplication::translate("velmora::VideoUtil", "The disk is full."),
+                QStringLiteral("The disk is full: %1").arg(file));
 }
 
 ToolResult VideoUtil::runEncoder(const QStringList &arguments, bool feedProgress) const
@@ -82,7 +82,7 @@ bool VideoUtil::executeUtility(QStringList arguments, const QString &outputFile,
     const QStringList quiet{QStringLiteral("-hide_banner"), QStringLiteral("-nostdin"),
                             QStringLiteral("-loglevel"), QStringLiteral("error"),
                             QStringLiteral("-stats")};
-    const QString temporaryFile = temporaryName(outputFile);
+    const QString temporaryFile = partFile(outputFile);
     arguments.append(temporaryFile);
     const ToolResult result = runEncoder(quiet + arguments, wait);
     const bool done = acceptOutput(result, temporaryFile, outputFile);
@@ -91,27 +91,47 @@ bool VideoUtil::executeUtility(QStringList arguments, const QString &outputFile,
     return done;
 }
 
+QString VideoUtil::partFile(const QString &outputFile)
+{
+    // It keeps the suffix, from which the encoder takes the format.
+    const QFileInfo info(outputFile);
+    const QString suffix = info.suffix().isEmpty() ? QString() : QLatin1Char('.') + info.suffix();
+    return info.path() + QLatin1Char('/') + info.completeBaseName() + QStringLiteral(".part") +
+           suffix;
+}
+
+bool VideoUtil::moveFile(const QString &from, const QString &to)
+{
+    qCInfo(generatorLog).noquote() << "rename from:" << from << " to:" << to;
+    QFile::remove(to);
+    return QFile::rename(from, to) ||
+           fail(Failure::Other,
+                QCoreApplication::translate("velmora::VideoUtil", "%1 cannot be written.")
+                    .arg(QDir::toNativeSeparators(to)),
+                QStringLiteral("The rename failed: %1").arg(to));
+}
+
 bool VideoUtil::acceptOutput(const ToolResult &result, const QString &temporaryFile,
                              const QString &outputFile)
 {
     if (result.cancelled)
-        return fail(QCoreApplication::translate("velmora::VideoUtil", "Cancelled."));
+        return failCancelled(outputFile);
     // The encoder does not always fail when the last block does not fit.
     if (result.standardError.contains("No space left on device"))
-        return fail(diskFull());
+        return failWithFullDisk(outputFile);
     if (!result.ok())
-        return fail(QCoreApplication::translate("velmora::VideoUtil", "The encoder failed: %1")
-                        .arg(result.reason()));
+        return fail(Failure::Other,
+                    QCoreApplication::translate("velmora::VideoUtil", "The encoder failed: %1")
+                        .arg(result.reason()),
+                    QStringLiteral("The encoder failed with code %1: %2")
+                        .arg(QString::number(result.exitCode), outputFile));
     if (QFileInfo(temporaryFile).size() <= 0)
         return fail(
+            Failure::Other,
             QCoreApplication::translate("velmora::VideoUtil", "The encoder wrote nothing to %1.")
-                .arg(QDir::toNativeSeparators(outputFile)));
-    qCInfo(generatorLog).noquote() << "rename from:" << temporaryFile << " to:" << outputFile;
-    QFile::remove(outputFile);
-    if (!QFile::rename(temporaryFile, outputFile))
-        return fail(QCoreApplication::translate("velmora::VideoUtil", "%1 cannot be written.")
-                        .arg(QDir::toNativeSeparators(outputFile)));
-    return true;
+                .arg(QDir::toNativeSeparators(outputFile)),
+            QStringLiteral("The encoder wrote nothing: %1").arg(outputFile));
+    return moveFile(temporaryFile, outputFile);
 }
 
 bool VideoUtil::encodeSegment(const QString &prefix, int frameCount, qint64 duration,
@@ -119,7 +139,9 @@ bool VideoUtil::encodeSegment(const QString &prefix, int frameCount, qint64 dura
 {
     if (frameCount < 1 || duration < 1)
         return fail(
-            QCoreApplication::translate("velmora::VideoUtil", "There are no frames to encode."));
+            Failure::Other,
+            QCoreApplication::translate("velmora::VideoUtil", "There are no frames to encode."),
+            QStringLiteral("There are no frames: %1").arg(outputFile));
     const QString images = m_context.cachePath + QStringLiteral("/images/");
     return executeUtility(
         EncoderCommands::segment(images, prefix, frameCount, duration, formatOf(m_context), motion),
@@ -131,13 +153,15 @@ bool VideoUtil::join(const QStringList &files, const QString &listFile, const QS
     // The encoder leaves out what it cannot open, and succeeds.
     for (const QString &file : files) {
         if (QFileInfo(file).size() <= 0)
-            return fail(QCoreApplication::translate("velmora::VideoUtil",
+            return fail(Failure::Other,
+                        QCoreApplication::translate("velmora::VideoUtil",
                                                     "The part %1 of the video is missing.")
-                            .arg(QDir::toNativeSeparators(file)));
+                            .arg(QDir::toNativeSeparators(file)),
+                        QStringLiteral("A part is missing: %1").arg(file));
     }
     QString error;
     if (!ConcatList::write(listFile, files, &error))
-        return fail(error);
+        return fail(Failure::Other, error, QStringLiteral("No list of parts: %1").arg(listFile));
     return executeUtility(EncoderCommands::join(listFile), outputFile, false);
 }
 
@@ -158,12 +182,8 @@ bool VideoUtil::finishWithoutSound(const QString &videoFile, const QString &outp
 {
     const bool isFinal =
         EncoderOptions::containerOptions(m_context.extension, m_context.profile).isEmpty();
-    if (isFinal && onOneVolume(videoFile, outputFile)) {
-        qCInfo(generatorLog).noquote() << "rename from:" << videoFile << " to:" << outputFile;
-        QFile::remove(outputFile);
-        if (QFile::rename(videoFile, outputFile))
-            return true;
-    }
+    if (isFinal && onOneVolume(videoFile, outputFile) && moveFile(videoFile, outputFile))
+        return true;
     return executeUtility(EncoderCommands::pictureOnly(videoFile, formatOf(m_context)), outputFile,
                           true);
 }

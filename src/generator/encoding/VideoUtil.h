@@ -33,21 +33,34 @@ struct EncodingContext {
 };
 
 /// Builds every command line of the encoder and runs it. One object per thread; all share one
-/// EncodingContext. Operations return false on failure, log the reason and keep it in errorText().
+/// EncodingContext. Operations return false on failure, log it and keep the reason in failure() and
+/// errorText().
 class VideoUtil
 {
 public:
+    enum class Failure {
+        None,
+        DiskFull,  ///< Of the folder that was written into.
+        Cancelled, ///< Nothing is wrong.
+        Other,
+    };
+
     explicit VideoUtil(EncodingContext &context);
 
+    /// Of the last operation that failed.
+    Failure failure() const { return m_failure; }
     /// Plain reason of the last failure, fit for the user: "The disk is full." and the like.
     const QString &errorText() const { return m_errorText; }
     const QString &cachePath() const { return m_context.cachePath; }
 
     /// Runs the encoder with @p arguments and the output file after them. With @p wait its standard
-    /// error is fed to the progress reader. The output is written under a temporary name beside @p
-    /// outputFile and renamed. True when the encoder succeeded and the file exists and is not
-    /// empty.
+    /// error is fed to the progress reader. The output is written as partFile() and renamed. True
+    /// when the encoder succeeded and the file exists and is not empty.
     bool executeUtility(QStringList arguments, const QString &outputFile, bool wait);
+    /// The file beside @p outputFile that executeUtility() writes until it is complete.
+    static QString partFile(const QString &outputFile);
+    /// Renames @p from, in place of an older @p to.
+    bool moveFile(const QString &from, const QString &to);
 
     // Frames: JPEG files "%1img%2_%3.jpg" in the images folder, numbered from 1.
     QString frameFile(const QString &prefix, int number) const;
@@ -92,7 +105,10 @@ public:
     static void printDebugInfo(const ToolResult &result);
 
 private:
-    bool fail(const QString &reason);
+    /// @p logged is the reason in English.
+    bool fail(Failure failure, const QString &reason, const QString &logged);
+    bool failCancelled(const QString &file);
+    bool failWithFullDisk(const QString &file);
     template <typename Frame> bool store(const Frame &frame, const QString &path);
     bool saveFadeFrame(const Fade &fade, const QImage &from, const QImage &to, const QString &path);
     ToolResult runEncoder(const QStringList &arguments, bool feedProgress) const;
@@ -100,6 +116,7 @@ private:
                       const QString &outputFile);
 
     EncodingContext &m_context;
+    Failure m_failure = Failure::None;
     QString m_errorText;
     QImage m_transitionFrame;
     FadeComposer m_fadeComposer;

@@ -22,7 +22,9 @@ template <typename Frame> bool VideoUtil::store(const Frame &frame, const QStrin
     if (m_frameWriter.write(frame, path, &error))
         return true;
     qCCritical(generatorLog).noquote() << "CAN NOT SAVE IMG TO:" << path;
-    return fail(error);
+    if (m_frameWriter.isDiskFull())
+        return failWithFullDisk(path);
+    return fail(Failure::Other, error, QStringLiteral("A frame was not saved"));
 }
 
 bool VideoUtil::saveFrame(const QImage &frame, const QString &prefix, int number)
@@ -49,7 +51,7 @@ bool VideoUtil::saveFadeFrame(const Fade &fade, const QImage &from, const QImage
     if (frame)
         return store(*frame, path);
     qCCritical(generatorLog).noquote() << "CAN NOT SAVE IMG TO:" << path;
-    return fail(error);
+    return fail(Failure::Other, error, QStringLiteral("A fade was not composed"));
 }
 
 void VideoUtil::removeFrames(const QString &prefix, int count) const

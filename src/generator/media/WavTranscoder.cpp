@@ -14,10 +14,9 @@ namespace velmora
 bool WavTranscoder::transcode(const QString &from, const QString &to)
 {
     const QString cannotRead = tr("The music file '%1' cannot be read: %2");
-    const QString cannotWrite = tr("The file '%1' cannot be written: %2");
     const QString source = QDir::toNativeSeparators(from);
-    const QString target = QDir::toNativeSeparators(to);
     m_errorText.clear();
+    m_diskFull = false;
     m_damagedCount = 0;
 
     MediaInput input;
@@ -28,18 +27,25 @@ bool WavTranscoder::transcode(const QString &from, const QString &to)
         return fail(cannotRead.arg(source, decoder.errorText()));
     WavWriter writer(to);
     if (!writer.open())
-        return fail(cannotWrite.arg(target, writer.errorText()));
+        return failToWrite(to, writer);
     PcmConverter converter;
     while (const AVFrame *frame = decoder.nextFrame()) {
         if (!writer.write(converter.convert(*frame)))
-            return fail(cannotWrite.arg(target, writer.errorText()));
+            return failToWrite(to, writer);
     }
     m_damagedCount = decoder.damagedCount();
     if (!writer.write(converter.flush()))
-        return fail(cannotWrite.arg(target, writer.errorText()));
+        return failToWrite(to, writer);
     if (writer.dataSize() == 0)
         return fail(cannotRead.arg(source, tr("Nothing in it can be played.")));
-    return writer.commit() || fail(cannotWrite.arg(target, writer.errorText()));
+    return writer.commit() || failToWrite(to, writer);
+}
+
+bool WavTranscoder::failToWrite(const QString &to, const WavWriter &writer)
+{
+    m_diskFull = writer.isDiskFull();
+    return fail(tr("The file '%1' cannot be written: %2")
+                    .arg(QDir::toNativeSeparators(to), writer.errorText()));
 }
 
 bool WavTranscoder::fail(const QString &reason)

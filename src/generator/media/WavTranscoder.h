@@ -7,6 +7,8 @@
 namespace velmora
 {
 
+class WavWriter;
+
 /// Decodes the first sound stream of a file of any format into a WAV file of PcmFormat, in this
 /// process and with little memory. Blocks for as long as that takes. One thread.
 class WavTranscoder
@@ -18,13 +20,17 @@ public:
     bool transcode(const QString &from, const QString &to);
     /// Names the file and the reason.
     const QString &errorText() const { return m_errorText; }
+    /// Whether transcode() failed for want of room for @p to.
+    bool isDiskFull() const { return m_diskFull; }
     /// Damaged pieces that were left out of the result.
     int damagedCount() const { return m_damagedCount; }
 
 private:
+    bool failToWrite(const QString &to, const WavWriter &writer);
     bool fail(const QString &reason);
 
     QString m_errorText;
+    bool m_diskFull = false;
     int m_damagedCount = 0;
 };
 

@@ -102,7 +102,8 @@ bool WavWriter::commit()
 bool WavWriter::fail()
 {
     // The resource that a write can run out of is space.
-    m_errorText = m_file.error() == QFileDevice::ResourceError
+    m_diskFull = m_file.error() == QFileDevice::ResourceError;
+    m_errorText = m_diskFull
                       ? QCoreApplication::translate("velmora::WavWriter", "The disk is full.")
                       : m_file.errorString();
     return false;

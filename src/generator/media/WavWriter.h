@@ -25,6 +25,7 @@ public:
     bool commit();
     qint64 dataSize() const { return m_dataSize; } ///< bytes
     const QString &errorText() const { return m_errorText; }
+    bool isDiskFull() const { return m_diskFull; } ///< Whether that is why the last step failed.
 
     /// The header of a file with @p dataSize bytes of samples; its length is always the same.
     static QByteArray header(quint64 dataSize);
@@ -36,6 +37,7 @@ private:
     QFile m_file;
     qint64 m_dataSize = 0;
     QString m_errorText;
+    bool m_diskFull = false;
 };
 
 } // namespace velmora

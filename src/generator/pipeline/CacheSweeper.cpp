@@ -2,7 +2,9 @@
 #include "generator/pipeline/CacheSweeper.h"
 
 #include "app/Paths.h"
+#include "app/TaskThread.h"
 #include "generator/GeneratorLog.h"
+#include "generator/encoding/VideoUtil.h"
 #include "generator/pipeline/OutputTarget.h"
 
 #include <QDateTime>
@@ -28,14 +30,22 @@ bool isBeingMade(const QDir &folder)
     return made.secsTo(QDateTime::currentDateTime()) < kYoungestUnlocked;
 }
 
-void removeUnfinishedVideo(const QDir &folder)
+/// False while something keeps it, as an encoder may that is about to end.
+bool removeUnfinishedVideo(const QDir &folder)
 {
     QFile note(folder.filePath(CacheSweeper::kOutputNote));
     if (!note.open(QIODevice::ReadOnly))
-        return;
+        return true;
     const QString video = QString::fromUtf8(note.read(kLongestNote));
-    if (OutputTarget::isTemporaryName(QFileInfo(video).fileName()) && QFile::remove(video))
-        qCInfo(generatorLog) << "Removed the unfinished video" << video;
+    if (!OutputTarget::isTemporaryName(QFileInfo(video).fileName()))
+        return true;
+    bool gone = true;
+    for (const QString &file : {video, VideoUtil::partFile(video)}) {
+        if (QFile::remove(file))
+            qCInfo(generatorLog) << "Removed the unfinished video" << file;
+        gone = gone && !QFileInfo::exists(file);
+    }
+    return gone;
 }
 
 } // namespace
@@ -54,9 +64,10 @@ int CacheSweeper::sweep(const QString &cacheFolder)
         lock.setStaleLockTime(0);
         if (!lock.tryLock(0))
             continue;
-        removeUnfinishedVideo(folder);
+        const bool complete = removeUnfinishedVideo(folder);
         lock.unlock();
-        if (folder.removeRecursively()) {
+        // Without the folder nobody would know of the video.
+        if (complete && folder.removeRecursively()) {
             ++removed;
             qCInfo(generatorLog) << "Removed the cache of a dead render" << folder.path();
         }
@@ -80,6 +91,14 @@ void CacheSweeper::sweepAll(const QString &cacheFolder)
 {
     sweep(cacheFolder);
     sweepLocks(lockFolder());
+}
+
+void CacheSweeper::sweepAllOn(TaskThread &thread, const QString &cacheFolder)
+{
+    thread.add([cacheFolder] {
+        sweepAll(cacheFolder);
+        return TaskThread::Report([] {});
+    });
 }
 
 QString CacheSweeper::lockFolder()

@@ -6,6 +6,8 @@
 namespace velmora
 {
 
+class TaskThread;
+
 /// Removes what renders that were killed have left behind. A render holds a lock file in its cache
 /// folder as long as it lives, so that the folders of other running renders are left alone.
 namespace CacheSweeper
@@ -25,6 +27,8 @@ int sweep(const QString &cacheFolder);
 void sweepLocks(const QString &lockFolder);
 /// Both, with the locks that all renders of the user share.
 void sweepAll(const QString &cacheFolder);
+/// Has that done on @p thread.
+void sweepAllOn(TaskThread &thread, const QString &cacheFolder);
 /// The folder of these locks.
 QString lockFolder();
 

@@ -145,14 +145,13 @@ bool GeneratorThread::joinSlides()
     for (const PlannedSlide &slide : m_plan.slides())
         segments.append(videoFile(QStringLiteral("vid_c%1").arg(slide.index)));
     const QString total = videoFile(QStringLiteral("vid_c_total"));
-    if (segments.size() == 1) {
-        QFile::rename(segments.constFirst(), total);
-    } else {
-        VideoUtil util(m_context);
-        if (!util.join(segments, m_cache.file(QStringLiteral("merge-files.txt")), total)) {
-            failWithTool(util);
-            return false;
-        }
+    VideoUtil util(m_context);
+    const QString list = m_cache.file(QStringLiteral("merge-files.txt"));
+    const bool done = segments.size() == 1 ? util.moveFile(segments.constFirst(), total)
+                                           : util.join(segments, list, total);
+    if (!done) {
+        failWithTool(util);
+        return false;
     }
     for (const QString &segment : qAsConst(segments))
         QFile::remove(segment);
@@ -216,7 +215,7 @@ void GeneratorThread::conclude(bool done)
         emit cancelled();
         return;
     }
-    qCWarning(generatorLog).noquote() << error.code << error.text;
+    qCWarning(generatorLog).noquote() << "The render failed:" << error.code;
     if (error.code != RenderErrorCode::kCache)
         MetricSender::instance().record(QStringLiteral("err1"), 1);
     emit failed(error);
@@ -266,7 +265,7 @@ void GeneratorThread::fail(const RenderError &error)
 {
     const std::lock_guard<std::mutex> locker(m_mutex);
     // Whatever fails after the first failure or after a cancel fails because of it.
-    if (!m_context.cancelled)
+    if (!m_context.cancelled && !RenderFailure::comesOfTermination(error))
         m_error = error;
     m_context.cancelled = true;
 }

@@ -29,6 +29,7 @@ constexpr int kRandomLetters = 6;
 constexpr int kLockPatience = 200;    // ms; another start may just be looking at the lock
 constexpr int kTrialSize = 64 * 1024; // bytes
 constexpr int kShownName = 60;        // characters of a long name in messages
+constexpr int kMostNames = 1000;      // that are tried for a video that cannot have its own
 
 class Texts
 {
@@ -78,22 +79,51 @@ RenderError OutputTarget::prepare(const QString &fileName, const QString &format
     RenderError error = checkName();
     if (!error.isSet())
         error = lock(lockFolder);
+    if (!error.isSet()) {
+        removeStrays();
+        m_temporaryFile = QStringLiteral("%1/%2%3.%4")
+                              .arg(m_folder, m_temporaryStem, randomLetters(), m_extension);
+        error = tryWriting();
+    }
     if (error.isSet())
-        return error;
-    removeStrays();
-    m_temporaryFile =
-        QStringLiteral("%1/%2%3.%4").arg(m_folder, m_temporaryStem, randomLetters(), m_extension);
-    return tryWriting();
+        qCWarning(generatorLog) << "The video cannot be written:" << m_fileName;
+    return error;
 }
 
 RenderError OutputTarget::commit()
 {
     std::error_code failure;
     std::filesystem::rename(filePath(m_temporaryFile), filePath(m_fileName), failure);
-    if (failure)
-        return outputError(Texts::tr("The finished video could not be put in place as \"%1\": %2.")
-                               .arg(m_fileName, QString::fromStdString(failure.message())));
-    m_temporaryFile.clear();
+    if (!failure) {
+        m_temporaryFile.clear();
+        return {};
+    }
+    const QString text = Texts::tr("The finished video could not be put in place as \"%1\": %2.")
+                             .arg(m_fileName, QString::fromStdString(failure.message()));
+    qCWarning(generatorLog) << "Error" << failure.value() << "on putting in place" << m_fileName;
+    const QString kept = keepUnderFreeName();
+    if (kept.isEmpty())
+        return outputError(text);
+    return outputError(text + QLatin1Char('\n') +
+                       Texts::tr("The video was kept as \"%1\".").arg(kept));
+}
+
+/// Returns the name, empty without success.
+QString OutputTarget::keepUnderFreeName()
+{
+    const QFileInfo wished(m_fileName);
+    const QString stem = shortened(wished.completeBaseName(), kLongestName - kTemporaryReserve);
+    for (int number = 2; number <= kMostNames; ++number) {
+        const QString name = QStringLiteral("%1/%2 (%3).%4")
+                                 .arg(m_folder, stem, QString::number(number), wished.suffix());
+        if (QFileInfo::exists(name))
+            continue;
+        if (!QFile::rename(m_temporaryFile, name))
+            return {};
+        qCInfo(generatorLog) << "Kept the video as" << name;
+        m_temporaryFile.clear();
+        return name;
+    }
     return {};
 }
 

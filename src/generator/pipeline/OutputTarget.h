@@ -34,7 +34,9 @@ public:
     const QString &extension() const { return m_extension; } ///< Lower case, without a dot.
     const QString &temporaryFile() const { return m_temporaryFile; }
 
-    /// Puts the finished temporary file in place.
+    /// Puts the finished temporary file in place. When that is not possible, for example while a
+    /// player has the older video open, it is kept beside it under a free name, which the error
+    /// then tells.
     RenderError commit();
     /// Removes the temporary file, if any, and gives up the lock.
     void release();
@@ -50,6 +52,7 @@ private:
     RenderError tryWriting() const;
     RenderError lock(const QString &lockFolder);
     void removeStrays() const;
+    QString keepUnderFreeName();
 
     QString m_fileName;
     QString m_extension;

@@ -2,6 +2,7 @@
 #include "generator/pipeline/RenderFailure.h"
 
 #include "generator/encoding/VideoUtil.h"
+#include "platform/TerminationWatcher.h"
 #include "project/slides/ProjectItemSimple.h"
 
 #include <QCoreApplication>
@@ -11,12 +12,17 @@ namespace velmora
 
 RenderError RenderFailure::ofTool(const VideoUtil &util, const QString &folder)
 {
-    if (util.errorText() != QCoreApplication::translate("velmora::VideoUtil", "The disk is full."))
+    if (util.failure() != VideoUtil::Failure::DiskFull)
         return {RenderErrorCode::kEncoder, util.errorText()};
     return {RenderErrorCode::kDiskFull,
             QCoreApplication::translate("velmora::RenderFailure",
                                         "The disk that holds the folder \"%1\" is full.")
                 .arg(folder)};
+}
+
+bool RenderFailure::comesOfTermination(const RenderError &error)
+{
+    return error.code == RenderErrorCode::kEncoder && isTerminationRequested();
 }
 
 RenderError RenderFailure::ofPhoto(const ProjectItem &item, const QString &reason)

@@ -15,6 +15,9 @@ namespace RenderFailure
 
 /// Of the last operation of @p util, which wrote into @p folder.
 RenderError ofTool(const VideoUtil &util, const QString &folder);
+/// Whether an encoder has failed, and the system's request to end this process, which need not have
+/// been dealt with yet, accounts for it: a terminal sends Ctrl-C to both. Any thread.
+bool comesOfTermination(const RenderError &error);
 /// Of a slide's picture.
 RenderError ofPhoto(const ProjectItem &item, const QString &reason);
 

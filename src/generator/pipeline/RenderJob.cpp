@@ -7,6 +7,7 @@
 #include "generator/pipeline/GeneratorThread.h"
 #include "generator/pipeline/InputCheck.h"
 #include "generator/pipeline/OutputTarget.h"
+#include "generator/pipeline/RenderFailure.h"
 
 #include <QThread>
 
@@ -67,6 +68,7 @@ public:
     RenderError checkProject() const;
     void onChecked();
     void startGenerator();
+    void endFailed(const RenderError &error);
     void end(const std::function<void()> &tell);
 
     RenderJob *const q;
@@ -132,11 +134,11 @@ void RenderJob::Private::onChecked()
         error = fault;
     }
     if (error.isSet())
-        qCWarning(generatorLog).noquote() << error.code << error.text;
+        qCWarning(generatorLog).noquote() << "The checks failed:" << error.code;
     if (cancelRequested)
         end([this] { emit q->cancelled(); });
     else if (error.isSet())
-        end([this, error] { emit q->failed(error); });
+        endFailed(error);
     else
         startGenerator();
 }
@@ -158,10 +160,18 @@ void RenderJob::Private::startGenerator()
         end([this, fileName] { emit q->finished(fileName); });
     });
     connect(thread, &GeneratorThread::failed, q,
-            [this](const RenderError &error) { end([this, error] { emit q->failed(error); }); });
+            [this](const RenderError &error) { endFailed(error); });
     connect(thread, &GeneratorThread::cancelled, q,
             [this] { end([this] { emit q->cancelled(); }); });
     thread->start();
+}
+
+void RenderJob::Private::endFailed(const RenderError &error)
+{
+    if (RenderFailure::comesOfTermination(error))
+        end([this] { emit q->cancelled(); });
+    else
+        end([this, error] { emit q->failed(error); });
 }
 
 /// Cleans up and only then tells the outcome, so that its receiver finds nothing left behind.

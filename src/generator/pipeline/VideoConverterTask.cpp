@@ -76,12 +76,11 @@ bool GeneratorThread::VideoConverterTask::joinStages(VideoUtil &util)
     QStringList segments;
     for (const PlannedStage &planned : m_slide.stages)
         segments.append(segmentFile(planned.stage.prefix()));
-    if (segments.size() == 1)
-        return QFile::rename(segments.constFirst(), segmentFile('c'));
     // A list of its own: two slides may be joined at the same time.
     const QString list =
         m_generator.m_cache.file(QStringLiteral("merge-files-%1.txt").arg(m_slide.index));
-    const bool done = util.join(segments, list, segmentFile('c'));
+    const bool done = segments.size() == 1 ? util.moveFile(segments.constFirst(), segmentFile('c'))
+                                           : util.join(segments, list, segmentFile('c'));
     if (!done)
         m_generator.failWithTool(util);
     for (const QString &segment : qAsConst(segments))

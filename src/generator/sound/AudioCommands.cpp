@@ -81,15 +81,17 @@ QStringList AudioCommands::silence(qint64 length, const QString &layout, int sam
 QStringList AudioCommands::prepend(const QString &silence, const QString &music)
 {
     return filtered({silence, music}, QStringLiteral("[0:a:0][1:a:0] concat=n=2:v=0:a=1[out]"))
-           << QStringLiteral("-map") << QStringLiteral("[out]") << QStringLiteral("-y");
+           << QStringLiteral("-map") << QStringLiteral("[out]") << largeFile()
+           << QStringLiteral("-y");
 }
 
 QStringList AudioCommands::loop(const QString &listFile)
 {
     // The list holds absolute paths, which the reader otherwise refuses.
-    return {QStringLiteral("-f"), QStringLiteral("concat"), QStringLiteral("-safe"),
-            QStringLiteral("0"),  QStringLiteral("-i"),     listFile,
-            QStringLiteral("-c"), QStringLiteral("copy")};
+    return QStringList{QStringLiteral("-f"), QStringLiteral("concat"), QStringLiteral("-safe"),
+                       QStringLiteral("0"),  QStringLiteral("-i"),     listFile,
+                       QStringLiteral("-c"), QStringLiteral("copy")}
+           << largeFile();
 }
 
 QStringList AudioCommands::transcode(const QString &input, qint64 length)

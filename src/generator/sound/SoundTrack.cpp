@@ -3,7 +3,6 @@
 
 #include "generator/GeneratorLog.h"
 #include "generator/encoding/ConcatList.h"
-#include "generator/encoding/VideoUtil.h"
 #include "generator/media/MediaFileInfo.h"
 #include "generator/media/SoundChecker.h"
 #include "generator/sound/AudioCommands.h"
@@ -11,7 +10,6 @@
 #include "generator/sound/SoundPlan.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 namespace velmora
@@ -160,36 +158,39 @@ bool SoundTrack::prependSilence(qint64 length)
 
 bool SoundTrack::run(const QStringList &arguments, const QString &output)
 {
-    return m_util.executeUtility(arguments, output, false) || fail(m_util.errorText());
+    return m_util.executeUtility(arguments, output, false) || failWithTool();
 }
 
 bool SoundTrack::move(const QString &from, const QString &to)
 {
-    QFile::remove(to);
-    return QFile::rename(from, to) ||
-           fail(tr("%1 cannot be written.").arg(QDir::toNativeSeparators(to)));
+    return m_util.moveFile(from, to) || failWithTool();
 }
 
 bool SoundTrack::fail(const QString &reason)
 {
+    m_failure = VideoUtil::Failure::Other;
     m_errorText = reason;
+    return false;
+}
+
+bool SoundTrack::failWithTool()
+{
+    m_failure = m_util.failure();
+    m_errorText = m_util.errorText();
     return false;
 }
 
 bool SoundTrack::failToRead(const QString &source, const QString &reason)
 {
+    qCWarning(generatorLog).noquote() << "The music cannot be used:" << source;
     return fail(
         tr("The music file '%1' cannot be read: %2").arg(QDir::toNativeSeparators(source), reason));
 }
 
 bool SoundTrack::failToConvert(const QString &source)
 {
-    const QString reason = m_util.errorText();
-    for (const char *other : {"The disk is full.", "Cancelled."}) {
-        if (reason == QCoreApplication::translate("velmora::VideoUtil", other))
-            return fail(reason);
-    }
-    return failToRead(source, reason);
+    return m_util.failure() == VideoUtil::Failure::Other ? failToRead(source, m_util.errorText())
+                                                         : failWithTool();
 }
 
 QString SoundTrack::trackFile(const char *name) const

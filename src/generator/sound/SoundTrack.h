@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "generator/encoding/VideoUtil.h"
 #include "project/documents/AudioItemList.h"
 
 #include <QCoreApplication>
@@ -10,7 +11,6 @@
 namespace velmora
 {
 
-class VideoUtil;
 struct SoundPlan;
 
 /// Makes the one sound track of a video from the project's music, step by step, each leaving its
@@ -28,6 +28,7 @@ public:
     QString prepare(const AudioItemList &list, int offset, int fade, int length);
     /// Names the music file where one is the reason.
     const QString &errorText() const { return m_errorText; }
+    VideoUtil::Failure failure() const { return m_failure; }
 
 private:
     bool convertAll(const AudioItemList &list, QStringList &files);
@@ -39,6 +40,7 @@ private:
     bool run(const QStringList &arguments, const QString &output);
     bool move(const QString &from, const QString &to);
     bool fail(const QString &reason);
+    bool failWithTool(); ///< For the reason of the last run.
     bool failToRead(const QString &source, const QString &reason);
     /// Blames @p source unless the last run ended for a reason that has nothing to do with it.
     bool failToConvert(const QString &source);
@@ -48,6 +50,7 @@ private:
     QString m_cachePath;
     QString m_folder;
     QString m_errorText;
+    VideoUtil::Failure m_failure = VideoUtil::Failure::None;
 };
 
 } // namespace velmora

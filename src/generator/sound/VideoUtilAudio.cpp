@@ -35,7 +35,7 @@ QString VideoUtil::prepareAudio(const AudioItemList &list, const QString &folder
     SoundTrack track(*this, m_context.cachePath, folder);
     const QString path = track.prepare(list, offset, fade, length);
     if (path.isEmpty())
-        fail(track.errorText());
+        fail(track.failure(), track.errorText(), QStringLiteral("There is no sound track"));
     return path;
 }
 
@@ -80,7 +80,7 @@ bool VideoUtil::loopAudio(const QString &source, const int count, const QString 
         files.append(QFileInfo(source).absoluteFilePath());
     QString reason;
     if (!ConcatList::write(listFile, files, &reason))
-        return fail(reason);
+        return fail(Failure::Other, reason, QStringLiteral("No list to loop: %1").arg(listFile));
     const QStringList arguments = AudioCommands::loop(listFile);
     qCInfo(generatorLog).noquote() << " Run args:" << arguments.join(QLatin1Char(' '));
     return executeUtility(arguments, output, false);

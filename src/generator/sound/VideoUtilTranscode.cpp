@@ -2,6 +2,7 @@
 #include "generator/GeneratorLog.h"
 #include "generator/encoding/VideoUtil.h"
 #include "generator/media/MediaFileInfo.h"
+#include "generator/media/TranscoderExit.h"
 #include "generator/sound/AudioCommands.h"
 #include "generator/sound/TranscoderLocator.h"
 
@@ -27,15 +28,6 @@ void logFiles(const QString &from, const QString &to)
         << QStringLiteral("To file '%1', exists: %2").arg(to, QLatin1String(existence(to)));
 }
 
-QString plainReason(const ToolResult &result)
-{
-    if (result.cancelled)
-        return QCoreApplication::translate("velmora::VideoUtil", "Cancelled.");
-    if (result.standardError.contains("The disk is full."))
-        return QCoreApplication::translate("velmora::VideoUtil", "The disk is full.");
-    return result.reason();
-}
-
 } // namespace
 
 bool VideoUtil::transcodeMp3ToWav(const QString &from, const QString &to)
@@ -46,8 +38,11 @@ bool VideoUtil::transcodeMp3ToWav(const QString &from, const QString &to)
     logFiles(source, target);
     const QString program = locateTranscoder();
     if (program.isEmpty())
-        return fail(QCoreApplication::translate(
-            "velmora::VideoUtil", "The program \"transcoder\" is missing beside this program."));
+        return fail(
+            Failure::Other,
+            QCoreApplication::translate(
+                "velmora::VideoUtil", "The program \"transcoder\" is missing beside this program."),
+            QStringLiteral("The transcoder is missing"));
     const ToolResult result = ToolRunner(&m_context.cancelled).run(program, {source, target});
     printDebugInfo(result);
     if (result.ok() && QFileInfo(target).size() > 0) {
@@ -57,7 +52,11 @@ bool VideoUtil::transcodeMp3ToWav(const QString &from, const QString &to)
     qCWarning(generatorLog) << "[FAILED]";
     qCWarning(generatorLog).noquote()
         << QStringLiteral("Transcode %1. Error code:%2 ").arg(source).arg(result.exitCode);
-    return fail(plainReason(result));
+    if (result.cancelled)
+        return failCancelled(target);
+    if (!result.crashed && result.exitCode == TranscoderExit::DiskFull)
+        return failWithFullDisk(target);
+    return fail(Failure::Other, result.reason(), QStringLiteral("No transcoding: %1").arg(target));
 }
 
 bool VideoUtil::transcodeFFmpegToWav(const QString &from, const QString &to)

@@ -221,10 +221,12 @@ void Composer::onError(QProcess::ProcessError error)
 {
     qCWarning(generatorLog).noquote() << QStringLiteral("Error:%1").arg(error) << nameOf(error);
     // Every other error is followed by finished().
-    if (error == QProcess::FailedToStart)
-        fail({kGeneratorError,
-              tr("The render program %1 could not be started: %2")
-                  .arg(QDir::toNativeSeparators(m_program), m_process->errorString())});
+    if (error != QProcess::FailedToStart)
+        return;
+    qCWarning(generatorLog).noquote() << "The worker does not start:" << m_program;
+    fail(
+        {kGeneratorError, tr("The render program %1 could not be started: %2")
+                              .arg(QDir::toNativeSeparators(m_program), m_process->errorString())});
 }
 
 void Composer::onReadyReadStandardError()
@@ -314,13 +316,9 @@ void Composer::onFinished(int exitCode, QProcess::ExitStatus exitStatus)
 /// A worker that was killed has cleaned up nothing.
 void Composer::sweepAfterWorker()
 {
-    const QString folder = Paths::cacheFolder();
     if (!m_sweeper)
         m_sweeper = std::make_unique<TaskThread>();
-    m_sweeper->add([folder] {
-        CacheSweeper::sweepAll(folder);
-        return TaskThread::Report([] {});
-    });
+    CacheSweeper::sweepAllOn(*m_sweeper, Paths::cacheFolder());
 }
 
 void Composer::fail(const RenderError &reason)
@@ -330,7 +328,7 @@ void Composer::fail(const RenderError &reason)
     if (!wanted)
         return;
     m_failure = reason;
-    qCWarning(generatorLog).noquote() << reason.code << reason.text;
+    qCWarning(generatorLog).noquote() << "The render failed:" << reason.code;
     emit failed(kGeneratorError);
 }
 

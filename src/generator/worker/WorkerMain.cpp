@@ -24,9 +24,10 @@ struct WorkerArguments {
     QString requestFile;
 };
 
-int refuse(const QString &reason)
+/// @p logged is the reason in English.
+int refuse(const QString &reason, const QString &logged)
 {
-    qCCritical(generatorLog).noquote() << reason;
+    qCCritical(generatorLog).noquote() << logged;
     ProtocolPrinter::failed({RenderErrorCode::kRequest, reason});
     return kExitBadArguments;
 }
@@ -61,12 +62,13 @@ int runWorker(const QStringList &arguments, const AppSettings &settings)
     QString error;
     const std::optional<WorkerArguments> values = parse(arguments, &error);
     if (!values)
-        return refuse(error);
+        return refuse(error, QStringLiteral("Bad arguments"));
     RenderRequest request;
     if (!request.load(values->requestFile, settings, &error))
         return refuse(QCoreApplication::translate("velmora::WorkerMain",
                                                   "The request \"%1\" cannot be used: %2")
-                          .arg(values->requestFile, error));
+                          .arg(values->requestFile, error),
+                      QStringLiteral("Unusable request: %1").arg(values->requestFile));
     WorkerRun run(std::move(request), settings, values->sessionId, values->cacheFolder);
     return run.exec();
 }

@@ -67,4 +67,13 @@ void ProcessTree::kill(qint64 pid)
     signalTree(pid, SIGKILL);
 }
 
+void ProcessTree::end(QProcess &process, int graceMs)
+{
+    process.terminate();
+    if (process.waitForFinished(graceMs))
+        return;
+    process.kill();
+    process.waitForFinished(-1);
+}
+
 } // namespace velmora

@@ -6,6 +6,7 @@
 #include <QSocketNotifier>
 
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
@@ -21,10 +22,13 @@ constexpr std::array<int, 3> kSignals{SIGTERM, SIGINT, SIGHUP};
 
 // Written by the signal handler, which can reach nothing but globals.
 std::array<int, 2> g_pipe{-1, -1};
+std::atomic_bool g_requested{false};
+static_assert(std::atomic_bool::is_always_lock_free);
 
 void onSignal(int)
 {
     const int savedError = errno;
+    g_requested = true;
     const char byte = 0;
     const ssize_t written = ::write(g_pipe[1], &byte, 1);
     static_cast<void>(written); // a full pipe already holds a request
@@ -43,6 +47,7 @@ public:
         m_notifier = std::make_unique<QSocketNotifier>(g_pipe[0], QSocketNotifier::Read);
         QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(),
                          [this] { takeRequest(); });
+        g_requested = false;
         struct sigaction action = {};
         action.sa_handler = onSignal;
         action.sa_flags = SA_RESTART;
@@ -56,6 +61,7 @@ public:
             return;
         for (size_t i = 0; i < kSignals.size(); ++i)
             ::sigaction(kSignals[i], &m_before[i], nullptr);
+        g_requested = false;
         m_notifier.reset();
         ::close(g_pipe[0]);
         ::close(g_pipe[1]);
@@ -80,6 +86,11 @@ private:
 std::unique_ptr<TerminationWatcher> createTerminationWatcher(std::function<void()> onRequest)
 {
     return std::make_unique<SignalWatcher>(std::move(onRequest));
+}
+
+bool isTerminationRequested()
+{
+    return g_requested;
 }
 
 } // namespace velmora

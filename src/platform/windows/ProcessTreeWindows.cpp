@@ -131,4 +131,11 @@ void ProcessTree::kill(qint64 pid)
         QThreadPool::globalInstance()->start([pid] { runTaskkill(pid); });
 }
 
+void ProcessTree::end(QProcess &process, int graceMs)
+{
+    Q_UNUSED(graceMs) // QProcess::terminate() reaches programs with windows only.
+    process.kill();
+    process.waitForFinished(-1);
+}
+
 } // namespace velmora

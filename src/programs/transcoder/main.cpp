@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "generator/media/TranscoderExit.h"
 #include "generator/media/WavTranscoder.h"
 
 #include <QCoreApplication>
@@ -9,13 +10,12 @@
 namespace
 {
 
-enum ExitCode { Done = 0, Failed = 1, BadArguments = 2 };
-
 const char usage[] =
     "Usage: transcoder FROM TO\n"
     "Decodes the sound of the file FROM, for example an MP3 file, into the WAV file TO\n"
     "(44.1 kHz, stereo, 16 bit).\n"
-    "Exit codes: 0 done, 1 FROM cannot be read or TO cannot be written, 2 bad arguments.\n";
+    "Exit codes: 0 done, 1 FROM cannot be read or TO cannot be written, 2 bad arguments,\n"
+    "4 the disk is full.\n";
 
 } // namespace
 
@@ -28,23 +28,24 @@ int main(int argc, char *argv[])
     QTextStream error(stderr);
     if (arguments == QStringList{QStringLiteral("--help")}) {
         QTextStream(stdout) << usage;
-        return Done;
+        return velmora::TranscoderExit::Done;
     }
     if (arguments.size() != 2) {
         error << usage;
-        return BadArguments;
+        return velmora::TranscoderExit::BadArguments;
     }
     const QString target = QFileInfo(arguments.at(1)).canonicalFilePath();
     if (!target.isEmpty() && target == QFileInfo(arguments.at(0)).canonicalFilePath()) {
         error << "FROM and TO are the same file.\n";
-        return BadArguments;
+        return velmora::TranscoderExit::BadArguments;
     }
     velmora::WavTranscoder transcoder;
     if (!transcoder.transcode(arguments.at(0), arguments.at(1))) {
         error << transcoder.errorText() << '\n';
-        return Failed;
+        return transcoder.isDiskFull() ? velmora::TranscoderExit::DiskFull
+                                       : velmora::TranscoderExit::Failed;
     }
     if (transcoder.damagedCount() > 0)
         error << "Damaged pieces left out: " << transcoder.damagedCount() << '\n';
-    return Done;
+    return velmora::TranscoderExit::Done;
 }

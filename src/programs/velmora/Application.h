@@ -27,6 +27,8 @@ public:
     bool isRunning() const { return m_instance.isRunning(); }
     /// Delivers a text to the running instance; whether it was received within @p timeoutMs.
     bool sendMessage(const QString &text, int timeoutMs);
+    /// From now on another start is the first instance.
+    void releaseInstance() { m_instance.release(); }
 
     AppSettings &settings() { return m_settings; }
     QSettings &settingsStore() { return *m_store; }

@@ -4,6 +4,7 @@
 #include "app/Log.h"
 #include "app/Paths.h"
 #include "app/TaskThread.h"
+#include "generator/pipeline/CacheSweeper.h"
 #include "platform/ComApartment.h"
 #include "platform/DesktopNotification.h"
 #include "platform/FileManager.h"
@@ -31,6 +32,7 @@ namespace
 {
 
 constexpr int kHandOverTimeout = 5000; // ms
+constexpr int kMetricTimeout = 1000;   // ms that the end may wait for the last usage events
 
 void setUpFont()
 {
@@ -70,6 +72,9 @@ int runProgram(velmora::Application &application, const QStringList &files)
     HistoryStore history(Paths::historyFile(), application.settings());
     SplashScreen splash;
     playWhileLoading(splash, history);
+    // A render that was killed may have left much, and the next one may be far off.
+    TaskThread sweeper;
+    CacheSweeper::sweepAllOn(sweeper, Paths::cacheFolder());
     setUpFont();
     UploadController uploads(application.services(), application.settingsStore());
     const std::unique_ptr<TaskbarProgress> taskbar = createTaskbarProgress();
@@ -90,6 +95,7 @@ int runProgram(velmora::Application &application, const QStringList &files)
 
     setUpMetrics(MetricSender::instance(), application.services(), application.settingsStore());
     recordSystem(MetricSender::instance(), readSystemInfo());
+    MetricSender::instance().SendData(); // it is no whole batch
     // Dialogs need the event loop.
     QTimer::singleShot(0, &window, [&window, &early, files] {
         window.offerRestore();
@@ -109,7 +115,11 @@ int runInstance(int &argc, char **argv)
     if (application.isRunning() &&
         application.sendMessage(StartMessage::compose(files), kHandOverTimeout))
         return 0;
-    return runProgram(application, files);
+    const int result = runProgram(application, files);
+    // Another start need not wait for this.
+    application.releaseInstance();
+    MetricSender::instance().flush(kMetricTimeout);
+    return result;
 }
 
 } // namespace

@@ -84,6 +84,7 @@ private slots:
         FrameWriter writer;
         QString error;
         QVERIFY(!writer.write(gradient({8, 8}, QImage::Format_RGB32), path, &error));
+        QVERIFY(!writer.isDiskFull());
         QVERIFY2(error.contains(QDir::toNativeSeparators(path)), qPrintable(error));
     }
 
@@ -95,6 +96,7 @@ private slots:
         FrameWriter writer;
         QString error;
         QVERIFY(!writer.write(gradient({8, 8}, QImage::Format_RGB32), full, &error));
+        QVERIFY(writer.isDiskFull());
         QCOMPARE(error, QStringLiteral("The disk is full."));
     }
 };

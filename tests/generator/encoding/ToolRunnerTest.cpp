@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/encoding/ToolRunner.h"
 
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -89,18 +90,22 @@ private slots:
     void cancelEndsARunningProgram_data()
     {
         QTest::addColumn<QStringList>("manner");
-        QTest::newRow("obedient") << QStringList();
-        QTest::newRow("deaf") << QStringList(QStringLiteral("deaf"));
+        QTest::addColumn<bool>("atOnce");
+        QTest::newRow("obedient") << QStringList() << true;
+        QTest::newRow("deaf") << QStringList(QStringLiteral("deaf")) << false;
     }
     void cancelEndsARunningProgram()
     {
         QFETCH(QStringList, manner);
+        QFETCH(bool, atOnce);
         const QTemporaryDir folder;
         const QString mark = folder.filePath(QStringLiteral("running"));
         std::atomic_bool cancelled{false};
+        QElapsedTimer sinceCancel;
         std::thread canceller([&] {
             while (!QFileInfo::exists(mark))
                 std::this_thread::yield();
+            sinceCancel.start();
             cancelled = true;
         });
         const ToolResult result =
@@ -108,6 +113,7 @@ private slots:
                 .run(kTool,
                      manner + QStringList{QStringLiteral("touch"), mark, QStringLiteral("hang")});
         canceller.join();
+        QVERIFY(!atOnce || sinceCancel.elapsed() < 1900); // no patience was needed
         QVERIFY(result.cancelled);
         QVERIFY(!result.ok());
     }

@@ -14,6 +14,8 @@
 
 using namespace velmora;
 
+Q_DECLARE_METATYPE(VideoUtil::Failure)
+
 namespace
 {
 
@@ -182,7 +184,10 @@ private slots:
     void failureKeepsTheOlderFile_data()
     {
         QTest::addColumn<QStringList>("behaviour");
+        QTest::addColumn<VideoUtil::Failure>("failure");
         QTest::addColumn<QString>("error");
+        const auto full = VideoUtil::Failure::DiskFull;
+        const auto other = VideoUtil::Failure::Other;
         const QString part = QStringLiteral("PART");
         QTest::newRow("fails") << QStringList{QStringLiteral("touch"),
                                               part,
@@ -190,21 +195,22 @@ private slots:
                                               QStringLiteral("no such codec"),
                                               QStringLiteral("exit"),
                                               QStringLiteral("1")}
-                               << QStringLiteral("The encoder failed: no such codec");
+                               << other << QStringLiteral("The encoder failed: no such codec");
         QTest::newRow("crashes") << QStringList{QStringLiteral("touch"), part,
                                                 QStringLiteral("crash")}
+                                 << other
                                  << QStringLiteral("The encoder failed: It ended unexpectedly.");
         QTest::newRow("disk full")
             << QStringList{QStringLiteral("err"),
                            QStringLiteral("av_interleaved_write_frame(): No space left on device"),
                            QStringLiteral("exit"), QStringLiteral("1")}
-            << QStringLiteral("The disk is full.");
+            << full << QStringLiteral("The disk is full.");
         // The encoder's way with some containers.
         QTest::newRow("disk full without a failure")
             << QStringList{QStringLiteral("touch"), part, QStringLiteral("err"),
                            QStringLiteral("Error closing file x: No space left on device")}
-            << QStringLiteral("The disk is full.");
-        QTest::newRow("writes nothing") << QStringList{QStringLiteral("touch"), part}
+            << full << QStringLiteral("The disk is full.");
+        QTest::newRow("writes nothing") << QStringList{QStringLiteral("touch"), part} << other
                                         << QStringLiteral("The encoder wrote nothing to ");
     }
     void failureKeepsTheOlderFile()
@@ -218,6 +224,7 @@ private slots:
         writeFile(output, "older");
         VideoUtil util(*m_context);
         QVERIFY(!util.executeUtility(behaviour, output, true));
+        QTEST(util.failure(), "failure");
         QVERIFY2(util.errorText().startsWith(error), qPrintable(util.errorText()));
         QCOMPARE(fileContent(output), QByteArray("older"));
         QVERIFY(!QFileInfo::exists(part));
@@ -229,6 +236,7 @@ private slots:
         makeFrames(util, QStringLiteral("_i1"), 1);
         m_context->cancelled = true;
         QVERIFY(!util.encodeSegment(QStringLiteral("_i1"), 1, 80000000, video("i1")));
+        QCOMPARE(util.failure(), VideoUtil::Failure::Cancelled);
         QVERIFY(QDir(m_folder->filePath(QStringLiteral("video"))).isEmpty());
     }
 

@@ -87,6 +87,7 @@ void WavWriterTest::reportsAMissingFolder()
     const QTemporaryDir folder;
     WavWriter writer(folder.filePath(QStringLiteral("missing/a.wav")));
     QVERIFY(!writer.open());
+    QVERIFY(!writer.isDiskFull());
     QVERIFY(!writer.errorText().isEmpty());
 }
 
@@ -104,6 +105,7 @@ void WavWriterTest::reportsAFullDisk()
     const bool written =
         writer.open() && writer.write(QByteArray(1024 * 1024, '\0')) && writer.commit();
     QVERIFY(!written);
+    QVERIFY(writer.isDiskFull());
     QCOMPARE(writer.errorText(), QStringLiteral("The disk is full."));
     QVERIFY(!QFile::exists(path));
 }

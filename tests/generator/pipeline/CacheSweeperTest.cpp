@@ -57,14 +57,34 @@ private slots:
         QVERIFY(QFileInfo::exists(path(QStringLiteral("render-young1"))));
     }
 
+    void removesTheUnfinishedVideoOfADeadRender_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("complete") << QStringLiteral(".holiday.part-abc123.mp4");
+        QTest::newRow("being multiplexed") << QStringLiteral(".holiday.part-abc123.part.mp4");
+    }
+
     void removesTheUnfinishedVideoOfADeadRender()
     {
-        const QString video = path(QStringLiteral(".holiday.part-abc123.mp4"));
-        write(video, "half");
+        QFETCH(QString, name);
+        write(path(name), "half");
         const QString dead = makeDead(QStringLiteral("render-dead01"));
-        write(dead + QLatin1Char('/') + CacheSweeper::kOutputNote, video.toUtf8());
+        write(dead + QLatin1Char('/') + CacheSweeper::kOutputNote,
+              path(QStringLiteral(".holiday.part-abc123.mp4")).toUtf8());
         CacheSweeper::sweep(m_cache->path());
-        QVERIFY(!QFileInfo::exists(video));
+        QVERIFY(!QFileInfo::exists(path(name)));
+        QVERIFY(!QFileInfo::exists(dead));
+    }
+
+    void keepsTheNoteOfAVideoThatCannotBeRemoved()
+    {
+        const QString video = path(QStringLiteral(".holiday.part-abc123.mp4"));
+        QVERIFY(QDir().mkpath(video)); // in place of a file that is open
+        const QString dead = makeDead(QStringLiteral("render-dead01"));
+        const QString note = dead + QLatin1Char('/') + CacheSweeper::kOutputNote;
+        write(note, video.toUtf8());
+        QCOMPARE(CacheSweeper::sweep(m_cache->path()), 0);
+        QVERIFY(QFileInfo::exists(note));
     }
 
     void removesNoOtherFileThatANoteNames()

@@ -132,6 +132,43 @@ private slots:
         QCOMPARE(read(path(QStringLiteral("a.mp4"))), QByteArray("new"));
     }
 
+    void keepsAVideoThatCannotBePutInPlace_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QStringList>("taken");
+        QTest::addColumn<QString>("kept");
+        const QString longest(251, QLatin1Char('x'));
+        QTest::newRow("first free name")
+            << QStringLiteral("50% %1.MP4") << QStringList() << QStringLiteral("50% %1 (2).MP4");
+        QTest::newRow("others taken")
+            << QStringLiteral("a.mp4")
+            << QStringList{QStringLiteral("a (2).mp4"), QStringLiteral("a (3).mp4")}
+            << QStringLiteral("a (4).mp4");
+        QTest::newRow("longest name") << longest + QStringLiteral(".mp4") << QStringList()
+                                      << longest.left(207) + QStringLiteral(" (2).mp4");
+    }
+
+    void keepsAVideoThatCannotBePutInPlace()
+    {
+        QFETCH(QString, name);
+        QFETCH(QStringList, taken);
+        QFETCH(QString, kept);
+        OutputTarget target;
+        QVERIFY(!prepare(target, name).isSet());
+        write(target.temporaryFile(), "video");
+        for (const QString &other : qAsConst(taken))
+            write(path(other), "older");
+        QVERIFY(QDir().mkpath(path(name))); // nothing can be renamed to a folder's name
+        const RenderError error = target.commit();
+        target.release();
+        QCOMPARE(error.code, QString(RenderErrorCode::kOutput));
+        QVERIFY2(error.text.contains(path(name)), qPrintable(error.text));
+        QVERIFY2(error.text.contains(path(kept)), qPrintable(error.text));
+        QCOMPARE(read(path(kept)), QByteArray("video"));
+        for (const QString &other : qAsConst(taken))
+            QCOMPARE(read(path(other)), QByteArray("older"));
+    }
+
     void leavesNothingWithoutCommit()
     {
         write(path(QStringLiteral("a.mp4")), "old");

@@ -2,16 +2,36 @@
 #include "generator/pipeline/CacheSweeper.h"
 #include "generator/pipeline/RenderJob.h"
 #include "helpers/DeadLock.h"
+#include "helpers/LogCapture.h"
 #include "helpers/ProcessControl.h"
 #include "helpers/RenderFixture.h"
+#include "platform/TerminationWatcher.h"
 #include "services/MetricSender.h"
 
 #include <QDir>
 #include <QFile>
-#include <QStandardPaths>
+#include <QTranslator>
 #include <QtTest>
 
 using namespace velmora;
+
+namespace
+{
+
+/// Marks what is translated.
+class MarkingTranslator : public QTranslator
+{
+public:
+    static inline const QString kMark = QStringLiteral("[translated]");
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return kMark + QString::fromUtf8(text);
+    }
+};
+
+} // namespace
 
 /// Renders that cannot succeed.
 class RenderFailuresTest : public QObject
@@ -31,21 +51,16 @@ class RenderFailuresTest : public QObject
         return made;
     }
 
-    /// In place of FFmpeg, a program that does @p action in its run number @p call; see
-    /// tests/fakes/fakeencoder.cpp.
     void fakeEncoder(int call, const QString &action) const
     {
-        const QString ffmpeg = QStandardPaths::findExecutable(QStringLiteral("ffmpeg"));
-        QVERIFY(!ffmpeg.isEmpty());
-        const QString counter = m_fixture.path(QStringLiteral("calls"));
-        QFile::remove(counter);
-        const QStringList orders{ffmpeg, counter, QString::number(call), action};
-        const QString file =
-            m_fixture.file(QStringLiteral("orders"), orders.join(QLatin1Char('\n')).toUtf8());
-        qputenv("VELMORA_FAKE_ENCODER", QFile::encodeName(file));
-        const QString program = QStandardPaths::findExecutable(
-            QStringLiteral("fakeencoder"), {QCoreApplication::applicationDirPath()});
-        qputenv("VELMORA_FFMPEG", QFile::encodeName(program));
+        m_fixture.fakeTool("VELMORA_FFMPEG", call, action);
+    }
+
+    /// The process whose id a fake program wrote to @p file.
+    static qint64 pidIn(const QString &file)
+    {
+        QFile pid(file);
+        return pid.open(QIODevice::ReadOnly) ? pid.readAll().toLongLong() : -1;
     }
 
 private slots:
@@ -74,6 +89,7 @@ private slots:
     void cleanup()
     {
         qunsetenv("VELMORA_FFMPEG");
+        qunsetenv("VELMORA_TRANSCODER");
         if (QTest::currentTestFunction() == QByteArray("withoutACacheNothingIsRendered"))
             QDir(m_fixture.cacheFolder()).removeRecursively(); // another folder was swept
         QFile old(m_fixture.output(QStringLiteral("video.mp4")));
@@ -116,10 +132,26 @@ private slots:
             QVERIFY(!outcome.error.text.isEmpty());
     }
 
+    void aFullDiskIsToldAsSuch_data()
+    {
+        QTest::addColumn<QByteArray>("program");
+        QTest::addColumn<QString>("action");
+        QTest::newRow("encoder") << QByteArray("VELMORA_FFMPEG")
+                                 << QStringLiteral("err|x: No space left on device|exit|1");
+        QTest::newRow("transcoder") << QByteArray("VELMORA_TRANSCODER") << QStringLiteral("exit|4");
+    }
+
     void aFullDiskIsToldAsSuch()
     {
-        fakeEncoder(2, QStringLiteral("err|x: No space left on device|exit|1"));
-        const RenderOutcome outcome = m_fixture.render(request());
+        QFETCH(QByteArray, program);
+        QFETCH(QString, action);
+        m_fixture.fakeTool(program.constData(), 1, action);
+        RenderRequest made = request();
+        const QString music = m_fixture.sound(QStringLiteral("music.mp3"), 2);
+        AudioItemList list;
+        list.items.append({music, QString()});
+        made.project->setAudio(list);
+        const RenderOutcome outcome = m_fixture.render(std::move(made));
         QCOMPARE(outcome.error.code, QString(RenderErrorCode::kDiskFull));
         QVERIFY2(outcome.error.text.contains(m_fixture.cacheFolder()),
                  qPrintable(outcome.error.text));
@@ -147,11 +179,58 @@ private slots:
         poll.start(20);
         const RenderOutcome outcome = RenderFixture::run(job);
         QCOMPARE(outcome.kind, RenderOutcome::Cancelled);
-        QFile file(mark);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const qint64 pid = file.readAll().toLongLong();
+        const qint64 pid = pidIn(mark);
         QVERIFY(pid > 0);
         QTRY_VERIFY(!ProcessControl::isAlive(pid));
+    }
+
+    // As when Ctrl-C in a terminal ends the encoder first.
+    void anEncoderThatEndsWithTheProgramIsNoFailure()
+    {
+        if (QSysInfo::productType() == QLatin1String("windows"))
+            QSKIP("There, no process can be interrupted alone.");
+        const QString mark = m_fixture.path(QStringLiteral("interrupted"));
+        fakeEncoder(2, QStringLiteral("pid|%1|hang").arg(mark));
+        const auto termination = createTerminationWatcher([] {});
+        QTimer poll;
+        connect(&poll, &QTimer::timeout, &poll, [&] {
+            const qint64 pid = pidIn(mark);
+            if (pid <= 0)
+                return;
+            poll.stop();
+            QVERIFY(ProcessControl::interrupt(QCoreApplication::applicationPid()));
+            ProcessControl::kill(pid);
+        });
+        poll.start(20);
+        QCOMPARE(m_fixture.render(request()).kind, RenderOutcome::Cancelled);
+    }
+
+    // A video of one slide is not joined, only renamed.
+    void aRenameThatFailsIsTold_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("slide") << QStringLiteral("vid_c0.mp4");
+        QTest::newRow("total") << QStringLiteral("vid_c_total.mp4");
+    }
+
+    void aRenameThatFailsIsTold()
+    {
+        QFETCH(QString, name);
+        RenderJob job(
+            m_fixture.request({m_photos.first()}, m_fixture.output(QStringLiteral("video.mp4"))),
+            m_fixture.settings, m_fixture.cacheFolder());
+        job.setPaused(true);
+        connect(&job, &RenderJob::stageChanged, &job, [&](const QString &stage) {
+            if (stage != QLatin1String("frames"))
+                return;
+            const QDir cache(m_fixture.cacheFolder());
+            const QString render = cache.entryList({QStringLiteral("render-*")}).value(0);
+            QVERIFY(cache.mkpath(QStringLiteral("%1/video/%2/x").arg(render, name)));
+            job.setPaused(false);
+        });
+        const RenderOutcome outcome = RenderFixture::run(job);
+        QVERIFY2(outcome.error.text.endsWith(name + QStringLiteral(" cannot be written.")),
+                 qPrintable(outcome.error.text));
     }
 
     void failuresAreCounted_data()
@@ -242,6 +321,32 @@ private slots:
         QCOMPARE(outcome.error.code, QString(RenderErrorCode::kCache));
         QVERIFY(outcome.error.text.contains(file));
         QVERIFY(MetricSender::instance().pending().filter(QStringLiteral("err5:")).size() > 0);
+    }
+
+    void theLogIsNotTranslated_data()
+    {
+        QTest::addColumn<QString>("action"); // of the first run
+        QTest::addColumn<QString>("output");
+        const QString video = QStringLiteral("video.mp4");
+        QTest::newRow("encoder") << QStringLiteral("exit|1") << video;
+        QTest::newRow("disk") << QStringLiteral("err|No space left on device") << video;
+        QTest::newRow("output") << QString() << QStringLiteral("none/video.mp4");
+    }
+
+    void theLogIsNotTranslated()
+    {
+        QFETCH(QString, action);
+        QFETCH(QString, output);
+        fakeEncoder(1, action);
+        MarkingTranslator translator;
+        QCoreApplication::installTranslator(&translator);
+        LogCapture log;
+        const RenderOutcome outcome =
+            m_fixture.render(m_fixture.request({m_photos.first()}, m_fixture.output(output)));
+        QCoreApplication::removeTranslator(&translator);
+        QVERIFY(outcome.error.text.contains(MarkingTranslator::kMark));
+        QVERIFY(!log.lines(QtWarningMsg).isEmpty());
+        QCOMPARE(log.lines().filter(MarkingTranslator::kMark), QStringList());
     }
 
     void aMissingEncoderIsNamed()

@@ -60,8 +60,8 @@ void AudioCommandsTest::commands_data()
         "-filter_complex aevalsrc=0:duration=4:c=mono:s=22050 -y");
     row("prepend", AudioCommands::prepend(a, b),
         "-i /c/a.wav -i /c/b.wav -filter_complex [0:a:0][1:a:0]#concat=n=2:v=0:a=1[out] "
-        "-map [out] -y");
-    row("loop", AudioCommands::loop(list), "-f concat -safe 0 -i /c/l.txt -c copy");
+        "-map [out] -rf64 auto -y");
+    row("loop", AudioCommands::loop(list), "-f concat -safe 0 -i /c/l.txt -c copy -rf64 auto");
     row("transcode", AudioCommands::transcode(a, 200000), "-i /c/a.wav");
     row("transcode a long file", AudioCommands::transcode(a, hours), "-i /c/a.wav -rf64 auto");
     row("normalise", AudioCommands::normalise(a),

@@ -35,6 +35,8 @@ class WorkerTest : public QObject
 {
     Q_OBJECT
 private slots:
+    void cleanup() { qunsetenv("VELMORA_FFMPEG"); }
+
     void init()
     {
         m_fixture.reset(); // gives the data folder back before the next one takes it
@@ -112,6 +114,21 @@ private slots:
         QVERIFY(!composer.errorText().isEmpty());
         for (const qint64 encoder : qAsConst(encoders))
             QTRY_VERIFY(!isAlive(encoder));
+        QTRY_COMPARE(leftovers(), QStringList());
+    }
+
+    void killedWhileMultiplexingLeavesNothing()
+    {
+        m_output = m_fixture->output(QStringLiteral("video.mp4"));
+        // Two slides are 3 segments, 1 join of a slide, 1 join of all; then comes the output.
+        m_fixture->settings.outputProfile = outputProfileKey(OutputProfile::PlaysEverywhere);
+        m_fixture->fakeTool("VELMORA_FFMPEG", 6, QStringLiteral("touch|OUTPUT|hang"));
+        Composer composer;
+        composer.run(request(2));
+        QTRY_COMPARE_WITH_TIMEOUT(composer.stage(), QStringLiteral("multiplex"), kRenderTimeout);
+        QTRY_VERIFY(!unfinishedVideos().isEmpty());
+        QVERIFY(ProcessControl::kill(workerPid()));
+        QTRY_VERIFY(!composer.isRunning());
         QTRY_COMPARE(leftovers(), QStringList());
     }
 
@@ -200,7 +217,9 @@ private:
         m_fixture->settings.transitionTime = 1;
         const QString path = m_fixture->path(QStringLiteral("request.json"));
         const RenderRequest render = m_fixture->request(photos, m_output);
-        return render.project->saveToFile(path) ? path : QString();
+        QString error;
+        return RenderRequest::save(*render.project, m_fixture->settings, path, &error) ? path
+                                                                                       : QString();
     }
 
     QStringList workerArguments(const QString &requestFile) const
@@ -221,6 +240,12 @@ private:
         if (locks.hasNext())
             QLockFile(locks.next()).getLockInfo(&pid, &host, &name);
         return pid;
+    }
+
+    QStringList unfinishedVideos() const
+    {
+        return QDir(m_fixture->outputFolder())
+            .entryList({QStringLiteral(".*.part-*")}, QDir::Files | QDir::Hidden);
     }
 
     /// What a render of the editor's could leave: session values, cached files, parts of videos.

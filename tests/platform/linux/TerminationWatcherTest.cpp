@@ -23,8 +23,10 @@ private slots:
         QFETCH(int, signal);
         int requests = 0;
         const auto watcher = createTerminationWatcher([&requests] { ++requests; });
+        QVERIFY(!isTerminationRequested());
         std::raise(signal);
         QCOMPARE(requests, 0);
+        QVERIFY(isTerminationRequested());
         QTRY_COMPARE(requests, 1);
         std::raise(signal);
         QTRY_COMPARE(requests, 2);

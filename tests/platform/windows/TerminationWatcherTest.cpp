@@ -20,6 +20,7 @@ private slots:
         int requests = 0;
         const auto watcher = createTerminationWatcher([&requests] { ++requests; });
         QVERIFY(GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0));
+        QTRY_VERIFY(isTerminationRequested());
         QTRY_COMPARE(requests, 1);
         QVERIFY(GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0));
         QTRY_COMPARE(requests, 2);

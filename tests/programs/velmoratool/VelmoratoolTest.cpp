@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Identity.h"
 #include "generator/worker/WorkerProtocol.h"
+#include "helpers/HttpServer.h"
 #include "helpers/ProcessControl.h"
 #include "helpers/RenderFixture.h"
 #include "helpers/VideoProbe.h"
+#include "platform/ProcessTree.h"
 #include "programs/velmoratool/HelpText.h"
 
 #include <QCoreApplication>
@@ -34,6 +36,7 @@ private slots:
     void protocolLinesAreWhole();
     void interruptLeavesNothing_data();
     void interruptLeavesNothing();
+    void usageIsSentAtTheEnd();
     void documentRendersAlike();
     void terminalShowsABar();
     void manPageIsComplete();
@@ -263,20 +266,24 @@ void VelmoratoolTest::protocolLinesAreWhole()
 void VelmoratoolTest::interruptLeavesNothing_data()
 {
     QTest::addColumn<bool>("interrupted");
-    QTest::newRow("Ctrl-C") << true;
-    QTest::newRow("end of session") << false;
+    QTest::addColumn<bool>("wholeGroup");
+    QTest::newRow("interrupt") << true << false;
+    QTest::newRow("Ctrl-C in a terminal") << true << true;
+    QTest::newRow("end of session") << false << false;
 }
 
 void VelmoratoolTest::interruptLeavesNothing()
 {
     QFETCH(bool, interrupted);
-    if (!interrupted && onWindows())
-        QSKIP("Windows asks programs without windows through their console only.");
+    QFETCH(bool, wholeGroup);
+    if ((!interrupted || wholeGroup) && onWindows())
+        QSKIP("Windows asks programs without windows through their console only, all at once.");
     const QString output = m_fixture.file(QStringLiteral("out/kept.mp4"), "older video");
     QStringList arguments = tiny({m_photo, m_photo, m_photo, m_photo}, output);
     arguments << QStringLiteral("--json") << QStringLiteral("--time=60")
               << QStringLiteral("--transition-length=60") << QStringLiteral("--size=640x360");
-    QProcess process;
+    const auto tool = ProcessTree::createProcess(ProcessTree::Group::Own);
+    QProcess &process = *tool;
     setLocale(process, QStringLiteral("C.UTF-8"));
     ProcessControl::allowInterrupts();
     process.start(program(), arguments);
@@ -286,7 +293,8 @@ void VelmoratoolTest::interruptLeavesNothing()
         m_output += QString::fromUtf8(process.readAllStandardOutput());
     }
     if (interrupted)
-        QVERIFY(ProcessControl::interrupt(process.processId()));
+        QVERIFY(wholeGroup ? ProcessControl::interruptGroup(process.processId())
+                           : ProcessControl::interrupt(process.processId()));
     else
         process.terminate();
     QVERIFY(process.waitForFinished(60'000));
@@ -303,6 +311,29 @@ void VelmoratoolTest::interruptLeavesNothing()
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("older video"));
     QVERIFY(file.remove());
+}
+
+void VelmoratoolTest::usageIsSentAtTheEnd()
+{
+    HttpServer server;
+    const QString settings = m_fixture.path(QStringLiteral("data/settings.ini"));
+    QVERIFY(QDir().mkpath(QFileInfo(settings).path()));
+    m_fixture.file(QStringLiteral("data/settings.ini"), "[General]\nsendStatistics=true\n");
+    const QString output = m_fixture.output(QStringLiteral("counted.mp4"));
+    QProcess process;
+    setLocale(process, QStringLiteral("C.UTF-8"));
+    QProcessEnvironment environment = process.processEnvironment();
+    environment.insert(QStringLiteral("VELMORA_METRICS_ADDRESS"), server.url().toString());
+    process.setProcessEnvironment(environment);
+    process.start(program(), tiny({m_photo}, output));
+    QTRY_COMPARE_WITH_TIMEOUT(process.state(), QProcess::NotRunning, 120'000);
+    QVERIFY(QFile::remove(settings));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+    const QByteArray requests = server.requests.join();
+    QVERIFY2(requests.contains("m2=gres:160x90") && requests.contains("m1=end:1"),
+             requests.constData());
+    QVERIFY(QFile::remove(output));
 }
 
 void VelmoratoolTest::documentRendersAlike()
