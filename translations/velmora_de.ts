@@ -431,6 +431,10 @@
         <translation>Der Ordner „%1“ existiert nicht mehr.</translation>
     </message>
     <message>
+        <source>There is no program to show the folder "%1".</source>
+        <translation>Es gibt kein Programm, das den Ordner „%1“ anzeigen kann.</translation>
+    </message>
+    <message>
         <source>Open File</source>
         <translation>Datei öffnen</translation>
     </message>
@@ -1746,6 +1750,10 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
     <message>
         <source>File '%1' not found</source>
         <translation>Die Datei „%1“ wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <source>There is no program to show the folder of '%1'.</source>
+        <translation>Es gibt kein Programm, das den Ordner von „%1“ anzeigen kann.</translation>
     </message>
 </context>
 <context>

@@ -431,6 +431,10 @@
         <translation>La carpeta «%1» ya no existe.</translation>
     </message>
     <message>
+        <source>There is no program to show the folder "%1".</source>
+        <translation>No hay ningún programa para mostrar la carpeta «%1».</translation>
+    </message>
+    <message>
         <source>Open File</source>
         <translation>Abrir archivo</translation>
     </message>
@@ -1746,6 +1750,10 @@ Pulse «Cancelar» para cancelar la operación.</translation>
     <message>
         <source>File '%1' not found</source>
         <translation>No se encuentra el archivo «%1»</translation>
+    </message>
+    <message>
+        <source>There is no program to show the folder of '%1'.</source>
+        <translation>No hay ningún programa para mostrar la carpeta de «%1».</translation>
     </message>
 </context>
 <context>

@@ -431,6 +431,10 @@
         <translation>Le dossier « %1 » n'existe plus.</translation>
     </message>
     <message>
+        <source>There is no program to show the folder "%1".</source>
+        <translation>Aucun programme ne peut afficher le dossier « %1 ».</translation>
+    </message>
+    <message>
         <source>Open File</source>
         <translation>Ouvrir un fichier</translation>
     </message>
@@ -1746,6 +1750,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>File '%1' not found</source>
         <translation>Fichier « %1 » introuvable</translation>
+    </message>
+    <message>
+        <source>There is no program to show the folder of '%1'.</source>
+        <translation>Aucun programme ne peut afficher le dossier de « %1 ».</translation>
     </message>
 </context>
 <context>

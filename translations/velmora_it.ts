@@ -431,6 +431,10 @@
         <translation>La cartella "%1" non esiste più.</translation>
     </message>
     <message>
+        <source>There is no program to show the folder "%1".</source>
+        <translation>Non c'è un programma per mostrare la cartella "%1".</translation>
+    </message>
+    <message>
         <source>Open File</source>
         <translation>Apri file</translation>
     </message>
@@ -1746,6 +1750,10 @@ Premere "Annulla" per annullare l'operazione.</translation>
     <message>
         <source>File '%1' not found</source>
         <translation>File "%1" non trovato</translation>
+    </message>
+    <message>
+        <source>There is no program to show the folder of '%1'.</source>
+        <translation>Non c'è un programma per mostrare la cartella di "%1".</translation>
     </message>
 </context>
 <context>

@@ -431,6 +431,10 @@
         <translation>フォルダー「%1」はもうありません。</translation>
     </message>
     <message>
+        <source>There is no program to show the folder "%1".</source>
+        <translation>フォルダー「%1」を表示するプログラムがありません。</translation>
+    </message>
+    <message>
         <source>Open File</source>
         <translation>ファイルを開く</translation>
     </message>
@@ -1746,6 +1750,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>File '%1' not found</source>
         <translation>ファイル「%1」が見つかりません</translation>
+    </message>
+    <message>
+        <source>There is no program to show the folder of '%1'.</source>
+        <translation>「%1」のフォルダーを表示するプログラムがありません。</translation>
     </message>
 </context>
 <context>

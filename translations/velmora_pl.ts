@@ -431,6 +431,10 @@
         <translation>Folder „%1” już nie istnieje.</translation>
     </message>
     <message>
+        <source>There is no program to show the folder "%1".</source>
+        <translation>Brak programu, który pokaże folder „%1”.</translation>
+    </message>
+    <message>
         <source>Open File</source>
         <translation>Otwórz plik</translation>
     </message>
@@ -1746,6 +1750,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>File '%1' not found</source>
         <translation>Nie znaleziono pliku „%1”</translation>
+    </message>
+    <message>
+        <source>There is no program to show the folder of '%1'.</source>
+        <translation>Brak programu, który pokaże folder z plikiem „%1”.</translation>
     </message>
 </context>
 <context>

@@ -431,6 +431,10 @@
         <translation>Папка «%1» больше не существует.</translation>
     </message>
     <message>
+        <source>There is no program to show the folder "%1".</source>
+        <translation>Нет программы для показа папки «%1».</translation>
+    </message>
+    <message>
         <source>Open File</source>
         <translation>Открыть файл</translation>
     </message>
@@ -1746,6 +1750,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>File '%1' not found</source>
         <translation>Файл «%1» не найден</translation>
+    </message>
+    <message>
+        <source>There is no program to show the folder of '%1'.</source>
+        <translation>Нет программы для показа папки с файлом «%1».</translation>
     </message>
 </context>
 <context>

@@ -431,6 +431,10 @@
         <translation>文件夹“%1”已不存在。</translation>
     </message>
     <message>
+        <source>There is no program to show the folder "%1".</source>
+        <translation>没有可以显示文件夹“%1”的程序。</translation>
+    </message>
+    <message>
         <source>Open File</source>
         <translation>打开文件</translation>
     </message>
@@ -1746,6 +1750,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>File '%1' not found</source>
         <translation>找不到文件“%1”</translation>
+    </message>
+    <message>
+        <source>There is no program to show the folder of '%1'.</source>
+        <translation>没有可以显示“%1”所在文件夹的程序。</translation>
     </message>
 </context>
 <context>
