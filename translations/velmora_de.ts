@@ -2006,6 +2006,10 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <source>Some video files could not be moved to the trash. They are where they were.</source>
         <translation>Einige Videodateien konnten nicht in den Papierkorb verschoben werden. Sie sind, wo sie waren.</translation>
     </message>
+    <message>
+        <source>Some video files could not be taken out of the trash.</source>
+        <translation>Einige Videodateien konnten nicht aus dem Papierkorb geholt werden.</translation>
+    </message>
     <message numerus="yes">
         <source>Videos removed from the history: %n</source>
         <translation><numerusform>%n Video aus dem Verlauf entfernt.</numerusform><numerusform>%n Videos aus dem Verlauf entfernt.</numerusform></translation>

@@ -2006,6 +2006,10 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <source>Some video files could not be moved to the trash. They are where they were.</source>
         <translation>Algunos archivos de vídeo no se han podido mover a la papelera. Siguen donde estaban.</translation>
     </message>
+    <message>
+        <source>Some video files could not be taken out of the trash.</source>
+        <translation>Algunos archivos de vídeo no se han podido sacar de la papelera.</translation>
+    </message>
     <message numerus="yes">
         <source>Videos removed from the history: %n</source>
         <translation><numerusform>%n vídeo quitado del historial.</numerusform><numerusform>%n vídeos quitados del historial.</numerusform></translation>

@@ -2006,6 +2006,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>Some video files could not be moved to the trash. They are where they were.</source>
         <translation>Certains fichiers vidéo n'ont pas pu être mis à la corbeille. Ils sont restés à leur place.</translation>
     </message>
+    <message>
+        <source>Some video files could not be taken out of the trash.</source>
+        <translation>Certains fichiers vidéo n'ont pas pu être retirés de la corbeille.</translation>
+    </message>
     <message numerus="yes">
         <source>Videos removed from the history: %n</source>
         <translation><numerusform>%n vidéo retirée de l'historique.</numerusform><numerusform>%n vidéos retirées de l'historique.</numerusform></translation>

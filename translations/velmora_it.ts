@@ -2006,6 +2006,10 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <source>Some video files could not be moved to the trash. They are where they were.</source>
         <translation>Alcuni file video non possono essere spostati nel cestino. Sono rimasti dov'erano.</translation>
     </message>
+    <message>
+        <source>Some video files could not be taken out of the trash.</source>
+        <translation>Alcuni file video non possono essere ripresi dal cestino.</translation>
+    </message>
     <message numerus="yes">
         <source>Videos removed from the history: %n</source>
         <translation><numerusform>%n video rimosso dalla cronologia.</numerusform><numerusform>%n video rimossi dalla cronologia.</numerusform></translation>

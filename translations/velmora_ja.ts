@@ -2006,6 +2006,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>Some video files could not be moved to the trash. They are where they were.</source>
         <translation>一部の動画ファイルをごみ箱に移動できませんでした。元の場所にあります。</translation>
     </message>
+    <message>
+        <source>Some video files could not be taken out of the trash.</source>
+        <translation>一部の動画ファイルをごみ箱から戻せませんでした。</translation>
+    </message>
     <message numerus="yes">
         <source>Videos removed from the history: %n</source>
         <translation><numerusform>%n 本の動画を履歴から削除しました。</numerusform></translation>

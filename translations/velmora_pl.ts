@@ -2006,6 +2006,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>Some video files could not be moved to the trash. They are where they were.</source>
         <translation>Niektórych plików nie udało się przenieść do kosza. Pozostały na swoim miejscu.</translation>
     </message>
+    <message>
+        <source>Some video files could not be taken out of the trash.</source>
+        <translation>Niektórych plików nie udało się przywrócić z kosza.</translation>
+    </message>
     <message numerus="yes">
         <source>Videos removed from the history: %n</source>
         <translation><numerusform>Usunięto z historii %n film.</numerusform><numerusform>Usunięto z historii %n filmy.</numerusform><numerusform>Usunięto z historii %n filmów.</numerusform></translation>

@@ -2006,6 +2006,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>Some video files could not be moved to the trash. They are where they were.</source>
         <translation>Некоторые видеофайлы не удалось переместить в корзину. Они остались на месте.</translation>
     </message>
+    <message>
+        <source>Some video files could not be taken out of the trash.</source>
+        <translation>Некоторые видеофайлы не удалось вернуть из корзины.</translation>
+    </message>
     <message numerus="yes">
         <source>Videos removed from the history: %n</source>
         <translation><numerusform>%n видео убрано из истории.</numerusform><numerusform>%n видео убраны из истории.</numerusform><numerusform>%n видео убраны из истории.</numerusform></translation>

@@ -2006,6 +2006,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>Some video files could not be moved to the trash. They are where they were.</source>
         <translation>部分视频文件无法移到回收站，它们仍在原处。</translation>
     </message>
+    <message>
+        <source>Some video files could not be taken out of the trash.</source>
+        <translation>部分视频文件无法从回收站取回。</translation>
+    </message>
     <message numerus="yes">
         <source>Videos removed from the history: %n</source>
         <translation><numerusform>已从历史记录中移除 %n 个视频。</numerusform></translation>

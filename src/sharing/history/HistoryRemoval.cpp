@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <utility>
+
 namespace velmora
 {
 
@@ -24,14 +26,21 @@ QString trashNote(const QString &trashed)
 
 } // namespace
 
-HistoryRemoval::HistoryRemoval(HistoryStore &history) : m_history(history) {}
+HistoryRemoval::HistoryRemoval(HistoryStore &history, QObject *parent)
+    : QObject(parent), m_history(history)
+{
+}
 
-HistoryRemoval::~HistoryRemoval() = default;
+HistoryRemoval::~HistoryRemoval()
+{
+    m_thread.finish();
+}
 
 bool HistoryRemoval::remove(const QVector<const ProjectFile *> &projects, Videos videos,
                             QString *error)
 {
     forget();
+    ++m_removal;
     QStringList files;
     const auto &all = m_history.projects();
     std::vector<std::pair<int, const ProjectFile *>> found;
@@ -54,17 +63,28 @@ bool HistoryRemoval::remove(const QVector<const ProjectFile *> &projects, Videos
 
 void HistoryRemoval::moveToTrash(const QStringList &videos)
 {
-    for (const QString &video : videos) {
-        QString trashed;
-        if (!QFile::exists(video))
-            continue;
-        if (QFile::moveToTrash(video, &trashed)) {
-            m_trash.append({video, trashed});
-            continue;
+    ++m_tasks;
+    m_thread.add([this, videos, removal = m_removal]() -> TaskThread::Report {
+        QVector<Trashed> moved;
+        QStringList kept;
+        for (const QString &video : videos) {
+            QString place;
+            if (!QFile::exists(video))
+                continue;
+            if (QFile::moveToTrash(video, &place)) {
+                moved.append({video, place});
+                continue;
+            }
+            qCWarning(lcSharing).noquote() << "Cannot be moved to the trash:" << video;
+            kept.append(video);
         }
-        qCWarning(lcSharing).noquote() << "Cannot be moved to the trash:" << video;
-        m_kept.append(video);
-    }
+        return [this, moved, kept, removal] {
+            --m_tasks;
+            if (removal == m_removal && !m_removed.empty())
+                m_trash = moved;
+            emit trashed(kept);
+        };
+    });
 }
 
 void HistoryRemoval::putBack()
@@ -76,14 +96,25 @@ void HistoryRemoval::putBack()
 
 void HistoryRemoval::restoreVideos()
 {
-    for (const auto &[video, trashed] : qAsConst(m_trash)) {
-        // A new video of that name stays; the old one is still in the trash.
-        if (trashed.isEmpty() || !QFile::rename(trashed, video))
+    if (m_trash.isEmpty())
+        return;
+    ++m_tasks;
+    m_thread.add([this, trash = std::exchange(m_trash, {})]() -> TaskThread::Report {
+        QStringList lost;
+        for (const auto &[video, place] : trash) {
+            // A new video of that name stays; the old one is still in the trash.
+            if (!place.isEmpty() && QFile::rename(place, video)) {
+                QFile::remove(trashNote(place));
+                continue;
+            }
             qCWarning(lcSharing).noquote() << "Cannot be taken out of the trash:" << video;
-        else
-            QFile::remove(trashNote(trashed));
-    }
-    m_trash.clear();
+            lost.append(video);
+        }
+        return [this, lost] {
+            --m_tasks;
+            emit restored(lost);
+        };
+    });
 }
 
 bool HistoryRemoval::undo(QString *error)
@@ -105,7 +136,6 @@ void HistoryRemoval::forget()
 {
     m_removed.clear();
     m_trash.clear();
-    m_kept.clear();
 }
 
 } // namespace velmora

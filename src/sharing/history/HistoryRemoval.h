@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QPair>
+#include "app/TaskThread.h"
+
+#include <QObject>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -16,33 +18,46 @@ class HistoryStore;
 class ProjectFile;
 
 /// Takes entries out of the history, their videos to the trash if that is wanted, and undoes the
-/// last time it did so. The history file is written each time. GUI thread.
-class HistoryRemoval
+/// last time it did so. The history file is written each time; the videos follow on a thread of
+/// their own. GUI thread.
+class HistoryRemoval : public QObject
 {
+    Q_OBJECT
 public:
     enum class Videos { Keep, Trash };
 
-    explicit HistoryRemoval(HistoryStore &history);
-    ~HistoryRemoval();
+    explicit HistoryRemoval(HistoryStore &history, QObject *parent = nullptr);
+    /// Waits for the videos that are on their way.
+    ~HistoryRemoval() override;
 
     /// Forgets what was removed before. When the history cannot be written, nothing is removed and
-    /// the result is false with a reason in @p error.
+    /// the result is false with a reason in @p error. With Trash, trashed() follows.
     bool remove(const QVector<const ProjectFile *> &projects, Videos videos, QString *error);
-    /// The videos that could not be moved to the trash; they are where they were.
-    const QStringList &keptVideos() const { return m_kept; }
 
-    bool canUndo() const { return !m_removed.empty(); }
+    /// Not while videos are on their way.
+    bool canUndo() const { return !m_removed.empty() && m_tasks == 0; }
     /// How many entries undo() brings back.
     int count() const { return static_cast<int>(m_removed.size()); }
-    /// Brings entries and videos back; false as above, and then it can be tried again.
+    /// Brings entries and videos back; false as above, and then it can be tried again. restored()
+    /// follows if there were videos.
     bool undo(QString *error);
     /// The entries can no longer be brought back.
     void forget();
+
+signals:
+    /// The videos are in the trash, but for the files @p kept, which are where they were.
+    void trashed(const QStringList &kept);
+    /// The videos are back, but for the files @p lost, which are in the trash.
+    void restored(const QStringList &lost);
 
 private:
     struct Removed {
         int position = 0; ///< In the history before the removal.
         std::unique_ptr<ProjectFile> project;
+    };
+    struct Trashed {
+        QString video; ///< Where it was.
+        QString place; ///< In the trash; empty where the trash does not tell.
     };
 
     void putBack();
@@ -50,9 +65,11 @@ private:
     void restoreVideos();
 
     HistoryStore &m_history;
-    std::vector<Removed> m_removed;           ///< Ascending by position.
-    QVector<QPair<QString, QString>> m_trash; ///< Where a video was, and where it is in the trash.
-    QStringList m_kept;
+    std::vector<Removed> m_removed; ///< Ascending by position.
+    QVector<Trashed> m_trash;       ///< Of the entries in m_removed.
+    int m_removal = 0;              ///< Counts the times that something was removed.
+    int m_tasks = 0;                ///< On the thread.
+    TaskThread m_thread;
 };
 
 } // namespace velmora

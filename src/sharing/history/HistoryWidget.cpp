@@ -25,7 +25,7 @@ namespace velmora
 HistoryWidget::HistoryWidget(HistoryStore &history, const AppSettings &settings, QWidget *parent)
     : QWidget(parent), m_history(history), m_ui(std::make_unique<Ui::HistoryWidget>()),
       m_model(new HistoryModel(history, settings, this)),
-      m_removal(std::make_unique<HistoryRemoval>(history))
+      m_removal(new HistoryRemoval(history, this))
 {
     m_ui->setupUi(this);
     setUpList();
@@ -80,6 +80,8 @@ void HistoryWidget::setUpUndoBar()
     m_ui->undoBar->hide();
     m_ui->btnCloseUndo->setIcon(Theme::icon(QStringLiteral("close")));
     connect(m_ui->btnUndo, &QPushButton::clicked, this, &HistoryWidget::undoRemoval);
+    connect(m_removal, &HistoryRemoval::trashed, this, &HistoryWidget::onVideosTrashed);
+    connect(m_removal, &HistoryRemoval::restored, this, &HistoryWidget::onVideosRestored);
     connect(m_ui->btnCloseUndo, &QToolButton::clicked, this, [this] {
         m_removal->forget();
         m_ui->undoBar->hide();
@@ -208,6 +210,17 @@ void HistoryWidget::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
 }
 
+void HistoryWidget::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        m_ui->retranslateUi(this);
+        updateUndoBar();
+        updateUploadTexts();
+        m_ui->listHistory->viewport()->update();
+    }
+    QWidget::changeEvent(event);
+}
+
 void HistoryWidget::onDeleteProject(const QString &fileName)
 {
     const ProjectFile *project = selectedProject();
@@ -258,21 +271,47 @@ void HistoryWidget::remove(const QVector<const ProjectFile *> &projects, bool tr
     reload();
     emit historyChanged();
     m_ui->undoBar->setVisible(removed);
-    if (!removed) {
+    updateUndoBar();
+    m_ui->listHistory->setFocus();
+    m_ui->btnUndo->setFocus(); // If it is enabled already.
+    if (!removed)
         tellFailure(error);
-        return;
-    }
-    showUndoBar(m_removal->count());
-    if (!m_removal->keptVideos().isEmpty())
-        MessageDialog::inform(this, tr("Remove from the history"),
-                              tr("Some video files could not be moved to the trash. They are where "
-                                 "they were."));
 }
 
-void HistoryWidget::showUndoBar(int count)
+void HistoryWidget::updateUndoBar()
 {
-    m_ui->lblUndo->setText(tr("Videos removed from the history: %n", nullptr, count));
-    m_ui->btnUndo->setFocus();
+    m_ui->lblUndo->setText(tr("Videos removed from the history: %n", nullptr, m_removal->count()));
+    m_ui->btnUndo->setEnabled(m_removal->canUndo());
+}
+
+void HistoryWidget::onVideosTrashed(const QStringList &kept)
+{
+    updateUndoBar();
+    if (!kept.isEmpty())
+        tellAboutVideos(
+            tr("Some video files could not be moved to the trash. They are where they were."),
+            kept);
+}
+
+void HistoryWidget::onVideosRestored(const QStringList &lost)
+{
+    reload();
+    updateUndoBar();
+    if (!lost.isEmpty())
+        tellAboutVideos(tr("Some video files could not be taken out of the trash."), lost);
+}
+
+void HistoryWidget::tellAboutVideos(const QString &text, const QStringList &videos)
+{
+    MessageDialog::Message message;
+    message.title = tr("History");
+    message.text = text;
+    QStringList names;
+    for (const QString &video : videos)
+        names.append(QFileInfo(video).fileName());
+    message.details = names.join(QLatin1Char('\n'));
+    message.buttons = QStringList{MessageDialog::tr("CLOSE")};
+    MessageDialog::ask(this, message);
 }
 
 void HistoryWidget::undoRemoval()

@@ -103,6 +103,7 @@ signals:
 protected:
     void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void setUpList();
@@ -112,17 +113,22 @@ private:
     void updateButtons();
     void playVideo(const QString &fileName);
     void remove(const QVector<const ProjectFile *> &projects, bool trashVideos);
-    void showUndoBar(int count);
+    void updateUndoBar();
+    void onVideosTrashed(const QStringList &kept);
+    void onVideosRestored(const QStringList &lost);
     void tellFailure(const QString &error);
+    void tellAboutVideos(const QString &text, const QStringList &videos);
+    void updateUploadTexts();
     void endUpload();
     void showElapsed();
 
     HistoryStore &m_history;
     std::unique_ptr<Ui::HistoryWidget> m_ui;
     HistoryModel *m_model;
-    std::unique_ptr<HistoryRemoval> m_removal;
+    HistoryRemoval *m_removal;
     QPointer<UploadController> m_uploads;
     QString m_service;      ///< Of the upload that runs; empty without one.
+    QString m_uploadedFile; ///< By the upload that runs, or by the last one.
     bool m_started = false; ///< uploadProgressStarted() was emitted for it.
     QTimer m_timer;
     QElapsedTimer m_elapsed;
