@@ -996,6 +996,48 @@
     </message>
 </context>
 <context>
+    <name>VideoDialog</name>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Bild des Videos</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Position in the video (arrow keys)</source>
+        <translation>Position im Video (Pfeiltasten)</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>Position im Video</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VideoDialog</name>
+    <message>
+        <source>Pause (Space)</source>
+        <translation>Anhalten (Leertaste)</translation>
+    </message>
+    <message>
+        <source>Play (Space)</source>
+        <translation>Abspielen (Leertaste)</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayerWidget</name>
     <message>
         <source>Full preview</source>

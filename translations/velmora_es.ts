@@ -996,6 +996,48 @@
     </message>
 </context>
 <context>
+    <name>VideoDialog</name>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Imagen del vídeo</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tiempo</translation>
+    </message>
+    <message>
+        <source>Position in the video (arrow keys)</source>
+        <translation>Posición en el vídeo (teclas de flecha)</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>Posición en el vídeo</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Duración</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VideoDialog</name>
+    <message>
+        <source>Pause (Space)</source>
+        <translation>Pausa (Espacio)</translation>
+    </message>
+    <message>
+        <source>Play (Space)</source>
+        <translation>Reproducir (Espacio)</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayerWidget</name>
     <message>
         <source>Full preview</source>

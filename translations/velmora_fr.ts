@@ -996,6 +996,48 @@
     </message>
 </context>
 <context>
+    <name>VideoDialog</name>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Image de la vidéo</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Position in the video (arrow keys)</source>
+        <translation>Position dans la vidéo (touches fléchées)</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>Position dans la vidéo</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Durée</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VideoDialog</name>
+    <message>
+        <source>Pause (Space)</source>
+        <translation>Pause (Espace)</translation>
+    </message>
+    <message>
+        <source>Play (Space)</source>
+        <translation>Lire (Espace)</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayerWidget</name>
     <message>
         <source>Full preview</source>

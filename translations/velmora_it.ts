@@ -996,6 +996,48 @@
     </message>
 </context>
 <context>
+    <name>VideoDialog</name>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Immagine del video</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Position in the video (arrow keys)</source>
+        <translation>Posizione nel video (tasti freccia)</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>Posizione nel video</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Durata</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VideoDialog</name>
+    <message>
+        <source>Pause (Space)</source>
+        <translation>Pausa (Spazio)</translation>
+    </message>
+    <message>
+        <source>Play (Space)</source>
+        <translation>Riproduci (Spazio)</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Riproduci</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayerWidget</name>
     <message>
         <source>Full preview</source>

@@ -996,6 +996,48 @@
     </message>
 </context>
 <context>
+    <name>VideoDialog</name>
+    <message>
+        <source>Picture of the video</source>
+        <translation>動画の映像</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時間</translation>
+    </message>
+    <message>
+        <source>Position in the video (arrow keys)</source>
+        <translation>動画の位置 (矢印キー)</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>動画の位置</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>長さ</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VideoDialog</name>
+    <message>
+        <source>Pause (Space)</source>
+        <translation>一時停止 (スペース)</translation>
+    </message>
+    <message>
+        <source>Play (Space)</source>
+        <translation>再生 (スペース)</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayerWidget</name>
     <message>
         <source>Full preview</source>

@@ -9,6 +9,7 @@
 #include "sharing/history/HistoryRemoval.h"
 #include "sharing/history/HistoryRowWidget.h"
 #include "sharing/history/UploadServiceMenu.h"
+#include "sharing/playback/VideoDialog.h"
 #include "sharing/upload/UploadController.h"
 #include "ui_HistoryWidget.h"
 
@@ -184,11 +185,25 @@ void HistoryWidget::onRowDoubleClicked(const QModelIndex &index)
 void HistoryWidget::playVideo(const QString &fileName)
 {
     const QString path = QDir::toNativeSeparators(fileName);
-    if (!QFileInfo(fileName).isFile())
+    if (!QFileInfo(fileName).isFile()) {
         MessageDialog::inform(this, tr("Open file Error"), tr("File '%1' not found").arg(path));
-    else if (!QDesktopServices::openUrl(QUrl::fromLocalFile(fileName)))
+        return;
+    }
+    if (m_player)
+        return; // It is still loading.
+    m_player = new VideoDialog(fileName, window());
+    m_player->setAttribute(Qt::WA_DeleteOnClose);
+    connect(m_player, &VideoDialog::failed, this, [this, fileName] { playElsewhere(fileName); });
+    m_player->play();
+}
+
+/// By the desktop's player, which may have codecs that this system lacks otherwise.
+void HistoryWidget::playElsewhere(const QString &fileName)
+{
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(fileName)))
         MessageDialog::inform(this, tr("Open file Error"),
-                              tr("There is no program to play the file '%1'.").arg(path));
+                              tr("There is no program to play the file '%1'.")
+                                  .arg(QDir::toNativeSeparators(fileName)));
 }
 
 void HistoryWidget::focusInEvent(QFocusEvent *event)

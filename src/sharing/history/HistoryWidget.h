@@ -26,6 +26,7 @@ class HistoryRemoval;
 class HistoryStore;
 class ProjectFile;
 class UploadController;
+class VideoDialog;
 
 /// The list of all slideshows produced so far, and the pages on which an upload waits for its
 /// sign-in and shows its progress. Removals are written to the history file at once and can be
@@ -112,6 +113,7 @@ private:
     void showSortArrow();
     void updateButtons();
     void playVideo(const QString &fileName);
+    void playElsewhere(const QString &fileName);
     void remove(const QVector<const ProjectFile *> &projects, bool trashVideos);
     void updateUndoBar();
     void onVideosTrashed(const QStringList &kept);
@@ -126,6 +128,7 @@ private:
     std::unique_ptr<Ui::HistoryWidget> m_ui;
     HistoryModel *m_model;
     HistoryRemoval *m_removal;
+    QPointer<VideoDialog> m_player;
     QPointer<UploadController> m_uploads;
     QString m_service;      ///< Of the upload that runs; empty without one.
     QString m_uploadedFile; ///< By the upload that runs, or by the last one.

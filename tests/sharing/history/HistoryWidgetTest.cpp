@@ -8,6 +8,7 @@
 #include "sharing/history/HistoryHeader.h"
 #include "sharing/history/HistoryListView.h"
 #include "sharing/history/HistoryRowWidget.h"
+#include "sharing/playback/VideoDialog.h"
 #include "sharing/upload/UploadController.h"
 
 #include <QCheckBox>
@@ -211,6 +212,7 @@ private slots:
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
         QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
         QTRY_COMPARE(m_played, QStringList{m_history->path("new.mp4")});
+        QTRY_VERIFY(!m_widget->findChild<VideoDialog *>());
         QTest::keyClick(list, Qt::Key_Return);
         QTRY_COMPARE(m_played.size(), 2);
         // It may still be looked at.
