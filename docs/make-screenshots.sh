@@ -11,7 +11,11 @@ mkdir -p "$folder"
 export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 screen=(xvfb-run -a -s "-screen 0 1600x1000x24")
 "${screen[@]}" "$bin/editorgallery" "$folder" en 1280x800 examples/photos/*.jpg
-"${screen[@]}" "$bin/sharinggallery" "$folder" en examples/photos/*.jpg
+videos=$(mktemp -d)
+trap 'rm -rf "$videos"' EXIT
+"$bin/velmoratool" make --photos examples/photos --output "$videos/Summer at the lake.mp4" \
+    --size 1280x720 --time 3 >/dev/null
+"${screen[@]}" "$bin/sharinggallery" "$folder" en "$videos/Summer at the lake.mp4" examples/photos/*.jpg
 if [ -x "$bin/EmbeddedSignInTest" ]; then # Built with VELMORA_WITH_WEBENGINE.
     VELMORA_SCREENSHOTS=$folder "${screen[@]}" "$bin/EmbeddedSignInTest" >/dev/null 2>&1
 fi

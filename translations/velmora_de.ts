@@ -431,6 +431,10 @@
         <translation>Der Ordner „%1“ existiert nicht mehr.</translation>
     </message>
     <message>
+        <source>There is no program to show the folder "%1".</source>
+        <translation>Es gibt kein Programm, das den Ordner „%1“ anzeigen kann.</translation>
+    </message>
+    <message>
         <source>Open File</source>
         <translation>Datei öffnen</translation>
     </message>
@@ -989,6 +993,48 @@
     <message>
         <source>%1 sec</source>
         <translation>%1 Sek.</translation>
+    </message>
+</context>
+<context>
+    <name>VideoDialog</name>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Bild des Videos</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Position in the video (arrow keys)</source>
+        <translation>Position im Video (Pfeiltasten)</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>Position im Video</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VideoDialog</name>
+    <message>
+        <source>Pause (Space)</source>
+        <translation>Anhalten (Leertaste)</translation>
+    </message>
+    <message>
+        <source>Play (Space)</source>
+        <translation>Abspielen (Leertaste)</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +1793,10 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <source>File '%1' not found</source>
         <translation>Die Datei „%1“ wurde nicht gefunden</translation>
     </message>
+    <message>
+        <source>There is no program to show the folder of '%1'.</source>
+        <translation>Es gibt kein Programm, das den Ordner von „%1“ anzeigen kann.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::FrameWriter</name>
@@ -1997,6 +2047,10 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
     <message>
         <source>Some video files could not be moved to the trash. They are where they were.</source>
         <translation>Einige Videodateien konnten nicht in den Papierkorb verschoben werden. Sie sind, wo sie waren.</translation>
+    </message>
+    <message>
+        <source>Some video files could not be taken out of the trash.</source>
+        <translation>Einige Videodateien konnten nicht aus dem Papierkorb geholt werden.</translation>
     </message>
     <message numerus="yes">
         <source>Videos removed from the history: %n</source>

@@ -431,6 +431,10 @@
         <translation>La carpeta «%1» ya no existe.</translation>
     </message>
     <message>
+        <source>There is no program to show the folder "%1".</source>
+        <translation>No hay ningún programa para mostrar la carpeta «%1».</translation>
+    </message>
+    <message>
         <source>Open File</source>
         <translation>Abrir archivo</translation>
     </message>
@@ -989,6 +993,48 @@
     <message>
         <source>%1 sec</source>
         <translation>%1 s</translation>
+    </message>
+</context>
+<context>
+    <name>VideoDialog</name>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Imagen del vídeo</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tiempo</translation>
+    </message>
+    <message>
+        <source>Position in the video (arrow keys)</source>
+        <translation>Posición en el vídeo (teclas de flecha)</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>Posición en el vídeo</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Duración</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VideoDialog</name>
+    <message>
+        <source>Pause (Space)</source>
+        <translation>Pausa (Espacio)</translation>
+    </message>
+    <message>
+        <source>Play (Space)</source>
+        <translation>Reproducir (Espacio)</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +1793,10 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <source>File '%1' not found</source>
         <translation>No se encuentra el archivo «%1»</translation>
     </message>
+    <message>
+        <source>There is no program to show the folder of '%1'.</source>
+        <translation>No hay ningún programa para mostrar la carpeta de «%1».</translation>
+    </message>
 </context>
 <context>
     <name>velmora::FrameWriter</name>
@@ -1997,6 +2047,10 @@ Pulse «Cancelar» para cancelar la operación.</translation>
     <message>
         <source>Some video files could not be moved to the trash. They are where they were.</source>
         <translation>Algunos archivos de vídeo no se han podido mover a la papelera. Siguen donde estaban.</translation>
+    </message>
+    <message>
+        <source>Some video files could not be taken out of the trash.</source>
+        <translation>Algunos archivos de vídeo no se han podido sacar de la papelera.</translation>
     </message>
     <message numerus="yes">
         <source>Videos removed from the history: %n</source>

@@ -431,6 +431,10 @@
         <translation>Le dossier « %1 » n'existe plus.</translation>
     </message>
     <message>
+        <source>There is no program to show the folder "%1".</source>
+        <translation>Aucun programme ne peut afficher le dossier « %1 ».</translation>
+    </message>
+    <message>
         <source>Open File</source>
         <translation>Ouvrir un fichier</translation>
     </message>
@@ -989,6 +993,48 @@
     <message>
         <source>%1 sec</source>
         <translation>%1 s</translation>
+    </message>
+</context>
+<context>
+    <name>VideoDialog</name>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Image de la vidéo</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Position in the video (arrow keys)</source>
+        <translation>Position dans la vidéo (touches fléchées)</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>Position dans la vidéo</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Durée</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VideoDialog</name>
+    <message>
+        <source>Pause (Space)</source>
+        <translation>Pause (Espace)</translation>
+    </message>
+    <message>
+        <source>Play (Space)</source>
+        <translation>Lire (Espace)</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +1793,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>File '%1' not found</source>
         <translation>Fichier « %1 » introuvable</translation>
     </message>
+    <message>
+        <source>There is no program to show the folder of '%1'.</source>
+        <translation>Aucun programme ne peut afficher le dossier de « %1 ».</translation>
+    </message>
 </context>
 <context>
     <name>velmora::FrameWriter</name>
@@ -1997,6 +2047,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Some video files could not be moved to the trash. They are where they were.</source>
         <translation>Certains fichiers vidéo n'ont pas pu être mis à la corbeille. Ils sont restés à leur place.</translation>
+    </message>
+    <message>
+        <source>Some video files could not be taken out of the trash.</source>
+        <translation>Certains fichiers vidéo n'ont pas pu être retirés de la corbeille.</translation>
     </message>
     <message numerus="yes">
         <source>Videos removed from the history: %n</source>

@@ -431,6 +431,10 @@
         <translation>La cartella "%1" non esiste più.</translation>
     </message>
     <message>
+        <source>There is no program to show the folder "%1".</source>
+        <translation>Non c'è un programma per mostrare la cartella "%1".</translation>
+    </message>
+    <message>
         <source>Open File</source>
         <translation>Apri file</translation>
     </message>
@@ -989,6 +993,48 @@
     <message>
         <source>%1 sec</source>
         <translation>%1 sec</translation>
+    </message>
+</context>
+<context>
+    <name>VideoDialog</name>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Immagine del video</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Position in the video (arrow keys)</source>
+        <translation>Posizione nel video (tasti freccia)</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>Posizione nel video</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Durata</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VideoDialog</name>
+    <message>
+        <source>Pause (Space)</source>
+        <translation>Pausa (Spazio)</translation>
+    </message>
+    <message>
+        <source>Play (Space)</source>
+        <translation>Riproduci (Spazio)</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Riproduci</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +1793,10 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <source>File '%1' not found</source>
         <translation>File "%1" non trovato</translation>
     </message>
+    <message>
+        <source>There is no program to show the folder of '%1'.</source>
+        <translation>Non c'è un programma per mostrare la cartella di "%1".</translation>
+    </message>
 </context>
 <context>
     <name>velmora::FrameWriter</name>
@@ -1997,6 +2047,10 @@ Premere "Annulla" per annullare l'operazione.</translation>
     <message>
         <source>Some video files could not be moved to the trash. They are where they were.</source>
         <translation>Alcuni file video non possono essere spostati nel cestino. Sono rimasti dov'erano.</translation>
+    </message>
+    <message>
+        <source>Some video files could not be taken out of the trash.</source>
+        <translation>Alcuni file video non possono essere ripresi dal cestino.</translation>
     </message>
     <message numerus="yes">
         <source>Videos removed from the history: %n</source>

@@ -431,6 +431,10 @@
         <translation>フォルダー「%1」はもうありません。</translation>
     </message>
     <message>
+        <source>There is no program to show the folder "%1".</source>
+        <translation>フォルダー「%1」を表示するプログラムがありません。</translation>
+    </message>
+    <message>
         <source>Open File</source>
         <translation>ファイルを開く</translation>
     </message>
@@ -989,6 +993,48 @@
     <message>
         <source>%1 sec</source>
         <translation>%1 秒</translation>
+    </message>
+</context>
+<context>
+    <name>VideoDialog</name>
+    <message>
+        <source>Picture of the video</source>
+        <translation>動画の映像</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時間</translation>
+    </message>
+    <message>
+        <source>Position in the video (arrow keys)</source>
+        <translation>動画の位置 (矢印キー)</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>動画の位置</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>長さ</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VideoDialog</name>
+    <message>
+        <source>Pause (Space)</source>
+        <translation>一時停止 (スペース)</translation>
+    </message>
+    <message>
+        <source>Play (Space)</source>
+        <translation>再生 (スペース)</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +1793,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>File '%1' not found</source>
         <translation>ファイル「%1」が見つかりません</translation>
     </message>
+    <message>
+        <source>There is no program to show the folder of '%1'.</source>
+        <translation>「%1」のフォルダーを表示するプログラムがありません。</translation>
+    </message>
 </context>
 <context>
     <name>velmora::FrameWriter</name>
@@ -1997,6 +2047,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Some video files could not be moved to the trash. They are where they were.</source>
         <translation>一部の動画ファイルをごみ箱に移動できませんでした。元の場所にあります。</translation>
+    </message>
+    <message>
+        <source>Some video files could not be taken out of the trash.</source>
+        <translation>一部の動画ファイルをごみ箱から戻せませんでした。</translation>
     </message>
     <message numerus="yes">
         <source>Videos removed from the history: %n</source>

@@ -431,6 +431,10 @@
         <translation>Folder „%1” już nie istnieje.</translation>
     </message>
     <message>
+        <source>There is no program to show the folder "%1".</source>
+        <translation>Brak programu, który pokaże folder „%1”.</translation>
+    </message>
+    <message>
         <source>Open File</source>
         <translation>Otwórz plik</translation>
     </message>
@@ -989,6 +993,48 @@
     <message>
         <source>%1 sec</source>
         <translation>%1 s</translation>
+    </message>
+</context>
+<context>
+    <name>VideoDialog</name>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Obraz filmu</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Czas</translation>
+    </message>
+    <message>
+        <source>Position in the video (arrow keys)</source>
+        <translation>Pozycja w filmie (klawisze strzałek)</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>Pozycja w filmie</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Długość</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VideoDialog</name>
+    <message>
+        <source>Pause (Space)</source>
+        <translation>Wstrzymaj (Spacja)</translation>
+    </message>
+    <message>
+        <source>Play (Space)</source>
+        <translation>Odtwórz (Spacja)</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Wstrzymaj</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Odtwórz</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +1793,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>File '%1' not found</source>
         <translation>Nie znaleziono pliku „%1”</translation>
     </message>
+    <message>
+        <source>There is no program to show the folder of '%1'.</source>
+        <translation>Brak programu, który pokaże folder z plikiem „%1”.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::FrameWriter</name>
@@ -1997,6 +2047,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Some video files could not be moved to the trash. They are where they were.</source>
         <translation>Niektórych plików nie udało się przenieść do kosza. Pozostały na swoim miejscu.</translation>
+    </message>
+    <message>
+        <source>Some video files could not be taken out of the trash.</source>
+        <translation>Niektórych plików nie udało się przywrócić z kosza.</translation>
     </message>
     <message numerus="yes">
         <source>Videos removed from the history: %n</source>

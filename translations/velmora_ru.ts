@@ -431,6 +431,10 @@
         <translation>Папка «%1» больше не существует.</translation>
     </message>
     <message>
+        <source>There is no program to show the folder "%1".</source>
+        <translation>Нет программы для показа папки «%1».</translation>
+    </message>
+    <message>
         <source>Open File</source>
         <translation>Открыть файл</translation>
     </message>
@@ -989,6 +993,48 @@
     <message>
         <source>%1 sec</source>
         <translation>%1 с</translation>
+    </message>
+</context>
+<context>
+    <name>VideoDialog</name>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Изображение видео</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>Position in the video (arrow keys)</source>
+        <translation>Позиция в видео (клавиши со стрелками)</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>Позиция в видео</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Длительность</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VideoDialog</name>
+    <message>
+        <source>Pause (Space)</source>
+        <translation>Пауза (Пробел)</translation>
+    </message>
+    <message>
+        <source>Play (Space)</source>
+        <translation>Играть (Пробел)</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Играть</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +1793,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>File '%1' not found</source>
         <translation>Файл «%1» не найден</translation>
     </message>
+    <message>
+        <source>There is no program to show the folder of '%1'.</source>
+        <translation>Нет программы для показа папки с файлом «%1».</translation>
+    </message>
 </context>
 <context>
     <name>velmora::FrameWriter</name>
@@ -1997,6 +2047,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Some video files could not be moved to the trash. They are where they were.</source>
         <translation>Некоторые видеофайлы не удалось переместить в корзину. Они остались на месте.</translation>
+    </message>
+    <message>
+        <source>Some video files could not be taken out of the trash.</source>
+        <translation>Некоторые видеофайлы не удалось вернуть из корзины.</translation>
     </message>
     <message numerus="yes">
         <source>Videos removed from the history: %n</source>

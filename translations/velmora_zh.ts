@@ -431,6 +431,10 @@
         <translation>文件夹“%1”已不存在。</translation>
     </message>
     <message>
+        <source>There is no program to show the folder "%1".</source>
+        <translation>没有可以显示文件夹“%1”的程序。</translation>
+    </message>
+    <message>
         <source>Open File</source>
         <translation>打开文件</translation>
     </message>
@@ -989,6 +993,48 @@
     <message>
         <source>%1 sec</source>
         <translation>%1 秒</translation>
+    </message>
+</context>
+<context>
+    <name>VideoDialog</name>
+    <message>
+        <source>Picture of the video</source>
+        <translation>视频画面</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Position in the video (arrow keys)</source>
+        <translation>视频中的位置 (方向键)</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>视频中的位置</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>长度</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VideoDialog</name>
+    <message>
+        <source>Pause (Space)</source>
+        <translation>暂停 (空格)</translation>
+    </message>
+    <message>
+        <source>Play (Space)</source>
+        <translation>播放 (空格)</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +1793,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>File '%1' not found</source>
         <translation>找不到文件“%1”</translation>
     </message>
+    <message>
+        <source>There is no program to show the folder of '%1'.</source>
+        <translation>没有可以显示“%1”所在文件夹的程序。</translation>
+    </message>
 </context>
 <context>
     <name>velmora::FrameWriter</name>
@@ -1997,6 +2047,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Some video files could not be moved to the trash. They are where they were.</source>
         <translation>部分视频文件无法移到回收站，它们仍在原处。</translation>
+    </message>
+    <message>
+        <source>Some video files could not be taken out of the trash.</source>
+        <translation>部分视频文件无法从回收站取回。</translation>
     </message>
     <message numerus="yes">
         <source>Videos removed from the history: %n</source>

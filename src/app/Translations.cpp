@@ -6,7 +6,11 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QTranslator>
+
+#include <algorithm>
 
 namespace velmora
 {
@@ -41,6 +45,17 @@ bool Translations::load(QTranslator &translator, const QString &locale)
     }
     qCInfo(lcApp).noquote() << "Load translation:" << name << "result:" << loaded;
     return loaded;
+}
+
+bool Translations::loadQt(QTranslator &translator, const QString &locale)
+{
+    // The files of Qt name the country where a language has several ways to write it.
+    const QString name = QStringLiteral("qtbase_%1").arg(QLocale(locale).name());
+    const QStringList all =
+        QStringList(QLibraryInfo::location(QLibraryInfo::TranslationsPath)) + folders();
+    return std::any_of(all.begin(), all.end(), [&](const QString &folder) {
+        return translator.load(name, folder, QStringLiteral("_."), kSuffix);
+    });
 }
 
 QStringList Translations::available()

@@ -18,6 +18,10 @@ namespace Translations
 /// result. False when there is none or it is damaged: the program then runs untranslated.
 bool load(QTranslator &translator, const QString &locale);
 
+/// The same for the texts of Qt itself, "qtbase_%1.qm", which Qt's own folder may hold too. False
+/// when there are none: Qt's file dialogs and the like then speak English.
+bool loadQt(QTranslator &translator, const QString &locale);
+
 /// The codes for which there are files, sorted.
 QStringList available();
 

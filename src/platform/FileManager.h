@@ -15,8 +15,8 @@ public:
     virtual ~FileManager() = default;
 
     /// Opens the folder of @p path with the file selected, or just the folder when the file is
-    /// gone. False when the folder is gone too; otherwise returns at once, and what the file
-    /// manager makes of it is not known.
+    /// gone. False when the folder is gone too, or when no file manager can be started; otherwise
+    /// returns at once, and what the file manager makes of it is not known.
     virtual bool showInFolder(const QString &path) = 0;
 };
 

@@ -56,6 +56,14 @@ private slots:
         QVERIFY(Translations::load(translator, QStringLiteral("de_AT")));
         QCOMPARE(translator.translate("C", "Loading"), QStringLiteral("L\u00e4dt"));
         QVERIFY(Translations::available().contains(QStringLiteral("de")));
+
+        // Texts of Qt lie there too, under the names that Qt gives them.
+        QVERIFY(QFile::copy(path(QStringLiteral("velmora_de.qm")),
+                            path(QStringLiteral("qtbase_zh_CN.qm"))));
+        QTranslator qtTranslator;
+        QVERIFY(Translations::loadQt(qtTranslator, QStringLiteral("zh")));
+        QVERIFY(!Translations::loadQt(qtTranslator, QStringLiteral("eo")));
+        QCOMPARE(Translations::available().contains(QStringLiteral("zh_CN")), false);
     }
 
 private:

@@ -17,4 +17,13 @@ inline void crash()
 #endif
 }
 
+/// Ends the process by calls that never return.
+inline int overflowStack(int depth = 0)
+{
+    volatile char room[4096]; // used after the call, so that each call needs its own
+    room[0] = static_cast<char>(depth);
+    const int deepest = depth < 0 ? depth : overflowStack(depth + 1);
+    return deepest + room[0];
+}
+
 } // namespace velmora

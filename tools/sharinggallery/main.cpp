@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// sharinggallery FOLDER LANGUAGE PHOTOS...: saves the pages of history, final page, uploads,
-// burning and update notice as pictures, with PHOTOS in the rows of the history, and as HTML what a
-// browser shows after a sign-in.
+// sharinggallery FOLDER LANGUAGE VIDEO PHOTOS...: saves the pages of history, final page, player,
+// uploads, burning and update notice as pictures, with VIDEO in the player and PHOTOS in the rows
+// of the history, and as HTML what a browser shows after a sign-in.
 #include "app/AppSettings.h"
 #include "app/Identity.h"
 #include "app/Translations.h"
@@ -15,6 +15,7 @@
 #include "sharing/history/HistoryFixture.h"
 #include "sharing/history/HistoryWidget.h"
 #include "sharing/history/UploadServiceMenu.h"
+#include "sharing/playback/VideoDialog.h"
 #include "sharing/upload/UploadController.h"
 #include "sharing/upload/UploadFailWindow.h"
 #include "sharing/upload/UploadSuccessWindow.h"
@@ -156,6 +157,19 @@ void showHistory(const QStringList &photos)
     showResume(history, widget);
 }
 
+void showPlayer(const QString &video)
+{
+    VideoDialog player(video);
+    player.play();
+    const QDeadlineTimer deadline(10000);
+    while (!player.isVisible() && !deadline.hasExpired())
+        wait(20);
+    if (!player.isVisible())
+        return;
+    wait(1500);
+    save(player, "player.png");
+}
+
 void showUploadResults()
 {
     for (const char *service : {"youtube", "googledrive", "dropbox"}) {
@@ -256,14 +270,15 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     Theme::install(application);
     const QStringList arguments = QApplication::arguments();
-    if (arguments.size() < 3)
+    if (arguments.size() < 4)
         return 2;
     QTranslator translator;
     if (Translations::load(translator, arguments.at(2)))
         QCoreApplication::installTranslator(&translator);
     s_folder = arguments.at(1);
     QDir().mkpath(s_folder);
-    showHistory(arguments.mid(3));
+    showHistory(arguments.mid(4));
+    showPlayer(arguments.at(3));
     showUploadResults();
     const QTemporaryDir folder;
     const QString video = folder.filePath(QStringLiteral("Summer at the lake.mp4"));

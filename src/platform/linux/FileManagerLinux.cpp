@@ -16,10 +16,12 @@ namespace velmora
 namespace
 {
 
-void openFolder(const QString &folder)
+bool openFolder(const QString &folder)
 {
-    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(folder)))
+    const bool opened = QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
+    if (!opened)
         qCWarning(lcPlatform).noquote() << "Cannot open the folder" << folder;
+    return opened;
 }
 
 /// Asks "org.freedesktop.FileManager1"; desktops without it open the folder.
@@ -33,10 +35,8 @@ public:
         if (path.isEmpty() || !QFileInfo(folder).isDir())
             return false;
         const QDBusConnection bus = QDBusConnection::sessionBus();
-        if (!info.exists() || !bus.isConnected()) {
-            openFolder(folder);
-            return true;
-        }
+        if (!info.exists() || !bus.isConnected())
+            return openFolder(folder);
         const QString service = QStringLiteral("org.freedesktop.FileManager1");
         QDBusMessage call =
             QDBusMessage::createMethodCall(service, QStringLiteral("/org/freedesktop/FileManager1"),

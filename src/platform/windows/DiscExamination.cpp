@@ -23,17 +23,20 @@ qint64 freeBytes(IFileSystemImage *image)
 }
 
 /// A disc takes a further session when the drive can write it as it is, the service can read and go
-/// on with its file system, and there is room.
+/// on with its file system, and there is room. A disc that is closed is read for its name alone, so
+/// that the user knows what would be erased.
 void examineContent(IDiscFormat2Data *data, IFileSystemImage *image, bool writable,
                     DiscMedia *media)
 {
-    if (!writable || !importFileSystem(data, image))
+    if (!importFileSystem(data, image))
         return;
-    media->freeBytes = freeBytes(image);
-    media->appendable = media->freeBytes > 0;
     ComString name;
     if (stepSucceeded(image->get_VolumeName(name.receive()), "get_VolumeName"))
         media->volumeName = name.toString();
+    if (!writable)
+        return;
+    media->freeBytes = freeBytes(image);
+    media->appendable = media->freeBytes > 0;
 }
 
 /// Whether the disc can be erased, and what room it then has if that is the only way.

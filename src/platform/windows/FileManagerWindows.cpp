@@ -29,9 +29,10 @@ public:
         explorer.setNativeArguments(
             (info.exists() ? QStringLiteral("/select, \"%1\"") : QStringLiteral("\"%1\""))
                 .arg(target));
-        if (!explorer.startDetached())
+        const bool started = explorer.startDetached();
+        if (!started)
             qCWarning(lcPlatform).noquote() << "Cannot start explorer.exe";
-        return true;
+        return started;
     }
 };
 

@@ -13,7 +13,6 @@
 #include "project/frames/CaptionFont.h"
 
 #include <QDate>
-#include <QLibraryInfo>
 #include <QScreen>
 
 #include <exception>
@@ -49,8 +48,7 @@ bool Application::applyLanguage(const QString &locale)
     removeTranslator(&m_translator);
     removeTranslator(&m_qtTranslator);
     // The file dialogs and other parts of Qt have translations of their own.
-    const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-    if (m_qtTranslator.load(QStringLiteral("qtbase_%1").arg(locale), folder))
+    if (Translations::loadQt(m_qtTranslator, locale))
         installTranslator(&m_qtTranslator);
     return Translations::load(m_translator, locale) && installTranslator(&m_translator);
 }

@@ -85,7 +85,6 @@ void BurnDialog::run(const QString &video, const QString &diskTitle, QWidget *pa
 
 void BurnDialog::findDevices()
 {
-    m_ui->cbDevices->clear();
     setBusy(tr("Looking for drives…"));
     m_controller.findDevices();
 }

@@ -36,21 +36,28 @@ DiscProgress WriteThread::reporter(const QString &logText)
     };
 }
 
+/// Whether the burn goes on after a step. A disc that can be written once is spoilt by the first
+/// byte, so a cancelled burn must not get as far as that.
+bool WriteThread::proceeds(bool succeeded) const
+{
+    return succeeded && !m_cancelled;
+}
+
 bool WriteThread::burn()
 {
     const auto session = m_writer.openSession(m_job.recorderId);
-    if (!session)
+    if (!proceeds(session != nullptr))
         return false;
     if (m_job.erase) {
         qCInfo(lcSharing) << "Burn begin erasing";
-        if (!session->erase(reporter(QStringLiteral("Burn erase progress %1 from %2"))))
+        if (!proceeds(session->erase(reporter(QStringLiteral("Burn erase progress %1 from %2")))))
             return false;
     }
-    if (m_cancelled || !session->checkMedia())
+    if (!proceeds(session->checkMedia()))
         return false;
     qCInfo(lcSharing) << "Burn creating FS";
-    if (!session->createImage(m_job.video, m_job.fileName, m_job.volumeName) ||
-        !session->finishImage(m_job.finalize))
+    if (!proceeds(session->createImage(m_job.video, m_job.fileName, m_job.volumeName)) ||
+        !proceeds(session->finishImage(m_job.finalize)))
         return false;
     qCInfo(lcSharing) << "Burn writing";
     if (!session->write(reporter(QStringLiteral("Burn write progress %1 from %2")), m_cancelled))

@@ -23,7 +23,8 @@ public:
     /// Cancels and waits.
     ~WriteThread() override;
 
-    /// Ends a write early; erasing is never cut off. Any thread.
+    /// Ends the burn after the step in work, and a write early; erasing is never cut off. Any
+    /// thread.
     void cancel() { m_cancelled = true; }
     /// Once the thread has finished.
     bool succeeded() const { return m_succeeded; }
@@ -37,6 +38,7 @@ protected:
 
 private:
     bool burn();
+    bool proceeds(bool succeeded) const;
     DiscProgress reporter(const QString &logText);
 
     DiscWriter &m_writer;

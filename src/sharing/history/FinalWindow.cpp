@@ -61,12 +61,14 @@ void FinalWindow::refuseUploads(const QString &reason)
 
 void FinalWindow::openFolder()
 {
-    if (QFileInfo(m_video).isFile() && m_fileManager.showInFolder(m_video)) {
+    const QString path = QDir::toNativeSeparators(m_video);
+    if (!QFileInfo(m_video).isFile())
+        MessageDialog::inform(this, tr("Open file Error"), tr("File '%1' not found").arg(path));
+    else if (!m_fileManager.showInFolder(m_video))
+        MessageDialog::inform(this, tr("Open file Error"),
+                              tr("There is no program to show the folder of '%1'.").arg(path));
+    else
         accept();
-        return;
-    }
-    MessageDialog::inform(this, tr("Open file Error"),
-                          tr("File '%1' not found").arg(QDir::toNativeSeparators(m_video)));
 }
 
 } // namespace velmora

@@ -4,6 +4,7 @@
 #include "chrome/Theme.h"
 #include "sharing/history/HistoryRowWidget.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -16,6 +17,8 @@ namespace velmora
 
 namespace
 {
+
+constexpr int kButtonPadding = 8; // Of flat header buttons in the style sheet.
 
 int fittingWidth(int least, const QStringList &texts)
 {
@@ -36,43 +39,62 @@ HistoryColumns::Widths HistoryHeader::columnWidths()
                               HistoryRowWidget::tr("removed")})};
 }
 
-HistoryHeader::HistoryHeader(QWidget *parent) : QWidget(parent)
+HistoryHeader::HistoryHeader(QWidget *parent)
+    : QWidget(parent), m_date(createButton("btnDate")), m_fileName(createButton("btnFileName")),
+      m_resolution(new QLabel(this)), m_duration(new QLabel(this)), m_size(new QLabel(this)),
+      m_action(new QLabel(this))
 {
     using namespace HistoryColumns;
-    constexpr int kButtonPadding = 8; // Of flat header buttons in the style sheet.
-    m_date = createButton("btnDate", tr("Date"));
-    m_fileName = createButton("btnFileName", tr("File name"));
     connect(m_date, &QPushButton::clicked, this, &HistoryHeader::dateClicked);
     connect(m_fileName, &QPushButton::clicked, this, &HistoryHeader::fileNameClicked);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(Margin + PictureWidth + Gap - kButtonPadding, 4, Margin, 4);
     layout->setSpacing(Gap);
-    const Widths widths = columnWidths();
-    m_date->setFixedWidth(kButtonPadding + widths.date);
     layout->addWidget(m_date);
     // The text of the button stands above the text of the rows.
     layout->addSpacing(-kButtonPadding);
     layout->addWidget(m_fileName);
     layout->addStretch(1);
-    const auto addLabel = [&](const QString &text, int width) {
-        auto *label = new QLabel(text, this);
+    for (QLabel *label : {m_resolution, m_duration, m_size, m_action}) {
         label->setProperty("secondary", true);
-        label->setFixedWidth(width);
         layout->addWidget(label);
-    };
-    addLabel(tr("Resolution"), widths.resolution);
-    addLabel(tr("Duration"), widths.duration);
-    addLabel(tr("Size"), widths.size);
-    addLabel(tr("Action"), Action);
+    }
+    retranslate();
 }
 
-QPushButton *HistoryHeader::createButton(const char *name, const QString &text)
+void HistoryHeader::retranslate()
 {
-    auto *button = new QPushButton(text, this);
+    const HistoryColumns::Widths widths = columnWidths();
+    const auto set = [](auto *widget, const QString &text, int width) {
+        widget->setText(text);
+        widget->setFixedWidth(width);
+    };
+    set(m_date, tr("Date"), kButtonPadding + widths.date);
+    m_fileName->setText(tr("File name"));
+    set(m_resolution, tr("Resolution"), widths.resolution);
+    set(m_duration, tr("Duration"), widths.duration);
+    set(m_size, tr("Size"), widths.size);
+    set(m_action, tr("Action"), HistoryColumns::Action);
+    for (QPushButton *button : {m_date, m_fileName}) {
+        button->setToolTip(tr("Sort by this column"));
+        button->setAccessibleDescription(button->icon().isNull() ? QString()
+                                                                 : tr("Sorts the list"));
+    }
+}
+
+void HistoryHeader::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QWidget::changeEvent(event);
+}
+
+QPushButton *HistoryHeader::createButton(const char *name)
+{
+    auto *button = new QPushButton(this);
     button->setObjectName(QLatin1String(name));
     button->setProperty("flat", true);
     button->setProperty("columnHeader", true);
-    button->setToolTip(tr("Sort by this column"));
     button->setLayoutDirection(Qt::RightToLeft); // The arrow follows the text.
     button->setIconSize({16, 16});
     return button;
@@ -91,8 +113,7 @@ void HistoryHeader::showArrow(bool byDate, bool ascending)
         Theme::icon(ascending ? QStringLiteral("arrow-up") : QStringLiteral("arrow-down"));
     m_date->setIcon(byDate ? arrow : QIcon());
     m_fileName->setIcon(byDate ? QIcon() : arrow);
-    m_date->setAccessibleDescription(byDate ? tr("Sorts the list") : QString());
-    m_fileName->setAccessibleDescription(byDate ? QString() : tr("Sorts the list"));
+    retranslate();
 }
 
 } // namespace velmora

@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+class QLabel;
 class QPushButton;
 
 namespace velmora
@@ -29,11 +30,19 @@ signals:
     void dateClicked();
     void fileNameClicked();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
-    QPushButton *createButton(const char *name, const QString &text);
+    QPushButton *createButton(const char *name);
+    void retranslate();
 
     QPushButton *m_date;
     QPushButton *m_fileName;
+    QLabel *m_resolution;
+    QLabel *m_duration;
+    QLabel *m_size;
+    QLabel *m_action;
 };
 
 } // namespace velmora

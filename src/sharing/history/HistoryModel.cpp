@@ -175,8 +175,19 @@ void HistoryModel::probe(int row)
         m_prober->probe(entry.fileName);
 }
 
-void HistoryModel::onProbed(const QString &fileName)
+void HistoryModel::onProbed(const QString &fileName, const VideoFacts &facts)
 {
+    // The file may have changed since the list was read; with the facts of then, its duration would
+    // be asked for again and again.
+    bool moved = false;
+    for (HistoryEntry &entry : m_entries) {
+        if (entry.fileName != fileName)
+            continue;
+        moved = moved || entry.facts.date != facts.date;
+        entry.facts = facts;
+    }
+    if (moved)
+        sortRows();
     for (int row = 0; row < m_order.size(); ++row) {
         if (m_entries.at(m_order.at(row)).fileName == fileName)
             emit dataChanged(index(row), index(row));

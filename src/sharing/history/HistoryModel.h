@@ -57,7 +57,7 @@ public:
 
 private:
     void onLooked(const QHash<QString, VideoFacts> &facts);
-    void onProbed(const QString &fileName);
+    void onProbed(const QString &fileName, const VideoFacts &facts);
     void sort();
     void sortRows();
     QVector<qint64> dateKeys() const;

@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <utility>
+
 namespace velmora
 {
 
@@ -29,11 +31,15 @@ HistoryRemoval::HistoryRemoval(HistoryStore &history, QObject *parent)
 {
 }
 
-HistoryRemoval::~HistoryRemoval() = default;
+HistoryRemoval::~HistoryRemoval()
+{
+    m_thread.finish();
+}
 
 void HistoryRemoval::remove(const QVector<const ProjectFile *> &projects, Videos videos)
 {
     forget();
+    ++m_removal;
     QStringList files;
     const auto &all = m_history.projects();
     std::vector<std::pair<int, const ProjectFile *>> found;
@@ -68,17 +74,28 @@ void HistoryRemoval::save(const std::function<void(bool isSaved)> &then)
 
 void HistoryRemoval::moveToTrash(const QStringList &videos)
 {
-    for (const QString &video : videos) {
-        QString trashed;
-        if (!QFile::exists(video))
-            continue;
-        if (QFile::moveToTrash(video, &trashed)) {
-            m_trash.append({video, trashed});
-            continue;
+    ++m_tasks;
+    m_thread.add([this, videos, removal = m_removal]() -> TaskThread::Report {
+        QVector<Trashed> moved;
+        QStringList kept;
+        for (const QString &video : videos) {
+            QString place;
+            if (!QFile::exists(video))
+                continue;
+            if (QFile::moveToTrash(video, &place)) {
+                moved.append({video, place});
+                continue;
+            }
+            qCWarning(lcSharing).noquote() << "Cannot be moved to the trash:" << video;
+            kept.append(video);
         }
-        qCWarning(lcSharing).noquote() << "Cannot be moved to the trash:" << video;
-        m_kept.append(video);
-    }
+        return [this, moved, kept, removal] {
+            --m_tasks;
+            if (removal == m_removal && !m_removed.empty())
+                m_trash = moved;
+            emit trashed(kept);
+        };
+    });
 }
 
 void HistoryRemoval::putBack()
@@ -90,14 +107,25 @@ void HistoryRemoval::putBack()
 
 void HistoryRemoval::restoreVideos()
 {
-    for (const auto &[video, trashed] : qAsConst(m_trash)) {
-        // A new video of that name stays; the old one is still in the trash.
-        if (trashed.isEmpty() || !QFile::rename(trashed, video))
+    if (m_trash.isEmpty())
+        return;
+    ++m_tasks;
+    m_thread.add([this, trash = std::exchange(m_trash, {})]() -> TaskThread::Report {
+        QStringList lost;
+        for (const auto &[video, place] : trash) {
+            // A new video of that name stays; the old one is still in the trash.
+            if (!place.isEmpty() && QFile::rename(place, video)) {
+                QFile::remove(trashNote(place));
+                continue;
+            }
             qCWarning(lcSharing).noquote() << "Cannot be taken out of the trash:" << video;
-        else
-            QFile::remove(trashNote(trashed));
-    }
-    m_trash.clear();
+            lost.append(video);
+        }
+        return [this, lost] {
+            --m_tasks;
+            emit restored(lost);
+        };
+    });
 }
 
 void HistoryRemoval::undo()
@@ -120,7 +148,6 @@ void HistoryRemoval::forget()
 {
     m_removed.clear();
     m_trash.clear();
-    m_kept.clear();
 }
 
 } // namespace velmora

@@ -8,6 +8,7 @@
 #include "sharing/history/HistoryHeader.h"
 
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -87,41 +88,64 @@ HistoryRowWidget::HistoryRowWidget(QWidget *parent) : QWidget(parent)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(Margin, 0, Margin, 0);
     layout->setSpacing(Gap);
-    const Widths widths = HistoryHeader::columnWidths();
-    m_picture = createLabel(layout, "lblPicture", PictureWidth);
-    m_date = createLabel(layout, "lblDate", widths.date);
-    m_fileName = createLabel(layout, "lblFileName", 0);
-    m_resolution = createLabel(layout, "lblResolution", widths.resolution);
-    m_duration = createLabel(layout, "lblDuration", widths.duration);
-    m_size = createLabel(layout, "lblSize", widths.size);
+    m_picture = createLabel(layout, "lblPicture");
+    m_picture->setFixedWidth(PictureWidth);
+    m_date = createLabel(layout, "lblDate");
+    m_fileName = createLabel(layout, "lblFileName");
+    m_fileName->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    layout->setStretchFactor(m_fileName, 1);
+    m_resolution = createLabel(layout, "lblResolution");
+    m_duration = createLabel(layout, "lblDuration");
+    m_size = createLabel(layout, "lblSize");
     createButtons(layout);
+    retranslate();
     setPicture({});
     setSelected(false);
 }
 
-QLabel *HistoryRowWidget::createLabel(QHBoxLayout *layout, const char *name, int width)
+QLabel *HistoryRowWidget::createLabel(QHBoxLayout *layout, const char *name)
 {
     auto *label = new QLabel(this);
     label->setObjectName(QLatin1String(name));
     label->setTextFormat(Qt::PlainText);
-    if (width > 0) {
-        label->setFixedWidth(width);
-        layout->addWidget(label);
-    } else {
-        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        layout->addWidget(label, 1);
-    }
+    layout->addWidget(label);
     return label;
+}
+
+void HistoryRowWidget::retranslate()
+{
+    const HistoryColumns::Widths widths = HistoryHeader::columnWidths();
+    m_date->setFixedWidth(widths.date);
+    m_resolution->setFixedWidth(widths.resolution);
+    m_duration->setFixedWidth(widths.duration);
+    m_size->setFixedWidth(widths.size);
+    const auto name = [](QToolButton *button, const QString &text) {
+        button->setToolTip(text);
+        button->setAccessibleName(text);
+    };
+    name(m_open, tr("Open the project in the editor"));
+    name(m_preview, tr("Play the video"));
+    name(m_burn, tr("Burn the video to a disc"));
+    name(m_delete, tr("Remove the video from the history"));
+}
+
+void HistoryRowWidget::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+        setEntry(m_entry);
+    }
+    QWidget::changeEvent(event);
 }
 
 void HistoryRowWidget::createButtons(QHBoxLayout *layout)
 {
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(4);
-    m_open = createButton(buttons, "btnOpen", tr("Open the project in the editor"));
-    m_preview = createButton(buttons, "btnPreview", tr("Play the video"));
-    m_burn = createButton(buttons, "btnBurn", tr("Burn the video to a disc"));
-    m_delete = createButton(buttons, "btnDelete", tr("Remove the video from the history"));
+    m_open = createButton(buttons, "btnOpen");
+    m_preview = createButton(buttons, "btnPreview");
+    m_burn = createButton(buttons, "btnBurn");
+    m_delete = createButton(buttons, "btnDelete");
     buttons->addStretch();
     auto *holder = new QWidget(this);
     holder->setLayout(buttons);
@@ -134,13 +158,10 @@ void HistoryRowWidget::createButtons(QHBoxLayout *layout)
     connect(m_delete, &QToolButton::clicked, this, &HistoryRowWidget::onBtnDeleteClicked);
 }
 
-QToolButton *HistoryRowWidget::createButton(QHBoxLayout *layout, const char *name,
-                                            const QString &text)
+QToolButton *HistoryRowWidget::createButton(QHBoxLayout *layout, const char *name)
 {
     auto *button = new QToolButton(this);
     button->setObjectName(QLatin1String(name));
-    button->setToolTip(text);
-    button->setAccessibleName(text);
     button->setIconSize({24, 24});
     layout->addWidget(button);
     return button;

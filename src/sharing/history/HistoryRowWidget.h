@@ -43,11 +43,13 @@ signals:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
-    QLabel *createLabel(QHBoxLayout *layout, const char *name, int width);
-    QToolButton *createButton(QHBoxLayout *layout, const char *name, const QString &text);
+    QLabel *createLabel(QHBoxLayout *layout, const char *name);
+    QToolButton *createButton(QHBoxLayout *layout, const char *name);
     void createButtons(QHBoxLayout *layout);
+    void retranslate();
     void showFacts();
     void elideName();
 

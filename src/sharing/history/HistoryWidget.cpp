@@ -9,6 +9,7 @@
 #include "sharing/history/HistoryRemoval.h"
 #include "sharing/history/HistoryRowWidget.h"
 #include "sharing/history/UploadServiceMenu.h"
+#include "sharing/playback/VideoDialog.h"
 #include "sharing/upload/UploadController.h"
 #include "ui_HistoryWidget.h"
 
@@ -82,6 +83,8 @@ void HistoryWidget::setUpUndoBar()
     connect(m_ui->btnUndo, &QPushButton::clicked, this, &HistoryWidget::undoRemoval);
     connect(m_removal, &HistoryRemoval::saved, this, &HistoryWidget::onRemovalSaved);
     connect(m_removal, &HistoryRemoval::failed, this, &HistoryWidget::onRemovalFailed);
+    connect(m_removal, &HistoryRemoval::trashed, this, &HistoryWidget::onVideosTrashed);
+    connect(m_removal, &HistoryRemoval::restored, this, &HistoryWidget::onVideosRestored);
     connect(m_ui->btnCloseUndo, &QToolButton::clicked, this, [this] {
         m_removal->forget();
         m_ui->undoBar->hide();
@@ -184,11 +187,25 @@ void HistoryWidget::onRowDoubleClicked(const QModelIndex &index)
 void HistoryWidget::playVideo(const QString &fileName)
 {
     const QString path = QDir::toNativeSeparators(fileName);
-    if (!QFileInfo(fileName).isFile())
+    if (!QFileInfo(fileName).isFile()) {
         MessageDialog::inform(this, tr("Open file Error"), tr("File '%1' not found").arg(path));
-    else if (!QDesktopServices::openUrl(QUrl::fromLocalFile(fileName)))
+        return;
+    }
+    if (m_player)
+        return; // It is still loading.
+    m_player = new VideoDialog(fileName, window());
+    m_player->setAttribute(Qt::WA_DeleteOnClose);
+    connect(m_player, &VideoDialog::failed, this, [this, fileName] { playElsewhere(fileName); });
+    m_player->play();
+}
+
+/// By the desktop's player, which may have codecs that this system lacks otherwise.
+void HistoryWidget::playElsewhere(const QString &fileName)
+{
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(fileName)))
         MessageDialog::inform(this, tr("Open file Error"),
-                              tr("There is no program to play the file '%1'.").arg(path));
+                              tr("There is no program to play the file '%1'.")
+                                  .arg(QDir::toNativeSeparators(fileName)));
 }
 
 void HistoryWidget::focusInEvent(QFocusEvent *event)
@@ -208,6 +225,17 @@ void HistoryWidget::keyPressEvent(QKeyEvent *event)
         undoRemoval();
     else
         QWidget::keyPressEvent(event);
+}
+
+void HistoryWidget::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        m_ui->retranslateUi(this);
+        updateUndoBar();
+        updateUploadTexts();
+        m_ui->listHistory->viewport()->update();
+    }
+    QWidget::changeEvent(event);
 }
 
 void HistoryWidget::onDeleteProject(const QString &fileName)
@@ -259,6 +287,66 @@ void HistoryWidget::remove(const QVector<const ProjectFile *> &projects, bool tr
     m_ui->undoBar->hide();
     reload();
     emit historyChanged();
+    updateUndoBar(); // It cannot be pressed any more.
+    m_ui->listHistory->setFocus();
+}
+
+void HistoryWidget::updateUndoBar()
+{
+    m_ui->lblUndo->setText(tr("Videos removed from the history: %n", nullptr, m_removal->count()));
+    m_ui->btnUndo->setEnabled(m_removal->canUndo());
+}
+
+void HistoryWidget::onRemovalSaved()
+{
+    updateButtons();
+    if (m_removal->count() == 0) {
+        reload(); // The videos that are back.
+        return;
+    }
+    updateUndoBar();
+    m_ui->undoBar->show();
+    m_ui->btnUndo->setFocus(); // If it is enabled already.
+}
+
+void HistoryWidget::onRemovalFailed(const QString &error)
+{
+    reload();
+    emit historyChanged();
+    updateUndoBar();
+    m_ui->undoBar->setVisible(m_removal->canUndo());
+    MessageDialog::inform(this, tr("History"),
+                          tr("The history could not be changed: %1").arg(error));
+}
+
+void HistoryWidget::onVideosTrashed(const QStringList &kept)
+{
+    updateUndoBar();
+    if (!kept.isEmpty())
+        tellAboutVideos(
+            tr("Some video files could not be moved to the trash. They are where they were."),
+            kept);
+}
+
+void HistoryWidget::onVideosRestored(const QStringList &lost)
+{
+    reload();
+    updateUndoBar();
+    if (!lost.isEmpty())
+        tellAboutVideos(tr("Some video files could not be taken out of the trash."), lost);
+}
+
+void HistoryWidget::tellAboutVideos(const QString &text, const QStringList &videos)
+{
+    MessageDialog::Message message;
+    message.title = tr("History");
+    message.text = text;
+    QStringList names;
+    for (const QString &video : videos)
+        names.append(QFileInfo(video).fileName());
+    message.details = names.join(QLatin1Char('\n'));
+    message.buttons = QStringList{MessageDialog::tr("CLOSE")};
+    MessageDialog::ask(this, message);
 }
 
 void HistoryWidget::undoRemoval()
@@ -270,31 +358,6 @@ void HistoryWidget::undoRemoval()
     reload();
     emit historyChanged();
     m_ui->listHistory->setFocus();
-}
-
-void HistoryWidget::onRemovalSaved()
-{
-    updateButtons();
-    if (!m_removal->canUndo()) {
-        reload(); // The videos that came back.
-        return;
-    }
-    m_ui->lblUndo->setText(tr("Videos removed from the history: %n", nullptr, m_removal->count()));
-    m_ui->undoBar->show();
-    m_ui->btnUndo->setFocus();
-    if (!m_removal->keptVideos().isEmpty())
-        MessageDialog::inform(this, tr("Remove from the history"),
-                              tr("Some video files could not be moved to the trash. They are where "
-                                 "they were."));
-}
-
-void HistoryWidget::onRemovalFailed(const QString &error)
-{
-    reload();
-    emit historyChanged();
-    m_ui->undoBar->setVisible(m_removal->canUndo());
-    MessageDialog::inform(this, tr("History"),
-                          tr("The history could not be changed: %1").arg(error));
 }
 
 void HistoryWidget::on_btnResumeProject_clicked()

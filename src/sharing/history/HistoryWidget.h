@@ -26,6 +26,7 @@ class HistoryRemoval;
 class HistoryStore;
 class ProjectFile;
 class UploadController;
+class VideoDialog;
 
 /// The list of all slideshows produced so far, and the pages on which an upload waits for its
 /// sign-in and shows its progress. Removals are written to the history file at once and can be
@@ -103,6 +104,7 @@ signals:
 protected:
     void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void setUpList();
@@ -111,9 +113,15 @@ private:
     void showSortArrow();
     void updateButtons();
     void playVideo(const QString &fileName);
+    void playElsewhere(const QString &fileName);
     void remove(const QVector<const ProjectFile *> &projects, bool trashVideos);
+    void updateUndoBar();
     void onRemovalSaved();
     void onRemovalFailed(const QString &error);
+    void onVideosTrashed(const QStringList &kept);
+    void onVideosRestored(const QStringList &lost);
+    void tellAboutVideos(const QString &text, const QStringList &videos);
+    void updateUploadTexts();
     void endUpload();
     void showElapsed();
 
@@ -121,8 +129,10 @@ private:
     std::unique_ptr<Ui::HistoryWidget> m_ui;
     HistoryModel *m_model;
     HistoryRemoval *m_removal;
+    QPointer<VideoDialog> m_player;
     QPointer<UploadController> m_uploads;
     QString m_service;      ///< Of the upload that runs; empty without one.
+    QString m_uploadedFile; ///< By the upload that runs, or by the last one.
     bool m_started = false; ///< uploadProgressStarted() was emitted for it.
     QTimer m_timer;
     QElapsedTimer m_elapsed;

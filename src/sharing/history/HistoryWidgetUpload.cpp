@@ -32,23 +32,31 @@ void HistoryWidget::startUpload(const QString &fileName, const QString &title,
 {
     if (isUploading())
         return;
-    m_ui->progressBar->setValue(0);
-    m_ui->labelUploadTime->setText(tr("Elapsed: %1").arg(QStringLiteral("--:--:--")));
-    m_ui->btnCancel->setEnabled(true);
-    const UploadService *service = findUploadService(uploadService);
-    if (!service || !m_uploads) {
+    if (!findUploadService(uploadService) || !m_uploads) {
         qCWarning(lcSharing) << "IS NULL UPLOADER";
         return;
     }
-    m_ui->labelUploadText->setText(
-        tr("Uploading %1 to %2").arg(QFileInfo(fileName).fileName(), service->progressName));
-    m_ui->lblWaitingTitle->setText(tr("Connect to %1").arg(service->progressName));
     m_service = uploadService;
+    m_uploadedFile = QFileInfo(fileName).fileName();
     m_started = false;
+    m_ui->progressBar->setValue(0);
+    m_ui->btnCancel->setEnabled(true);
+    updateUploadTexts();
     m_ui->pages->setCurrentWidget(m_ui->pgUpload);
     m_ui->btnCancel->setFocus();
     emit beginUpload();
     m_uploads->upload(uploadService, fileName, title, window());
+}
+
+void HistoryWidget::updateUploadTexts()
+{
+    const UploadService *service = findUploadService(m_service);
+    if (!service)
+        return;
+    m_ui->labelUploadText->setText(
+        tr("Uploading %1 to %2").arg(m_uploadedFile, service->progressName));
+    m_ui->lblWaitingTitle->setText(tr("Connect to %1").arg(service->progressName));
+    showElapsed();
 }
 
 void HistoryWidget::onSignInStarted()
@@ -72,13 +80,16 @@ void HistoryWidget::onUploadStarted()
 
 void HistoryWidget::showElapsed()
 {
-    const qint64 seconds = m_elapsed.elapsed() / 1000;
-    const QLatin1Char zero('0');
-    m_ui->labelUploadTime->setText(tr("Elapsed: %1")
-                                       .arg(QStringLiteral("%1:%2:%3")
-                                                .arg(seconds / 3600, 2, 10, zero)
-                                                .arg(seconds / 60 % 60, 2, 10, zero)
-                                                .arg(seconds % 60, 2, 10, zero)));
+    QString time = QStringLiteral("--:--:--");
+    if (m_started) {
+        const qint64 seconds = m_elapsed.elapsed() / 1000;
+        const QLatin1Char zero('0');
+        time = QStringLiteral("%1:%2:%3")
+                   .arg(seconds / 3600, 2, 10, zero)
+                   .arg(seconds / 60 % 60, 2, 10, zero)
+                   .arg(seconds % 60, 2, 10, zero);
+    }
+    m_ui->labelUploadTime->setText(tr("Elapsed: %1").arg(time));
 }
 
 void HistoryWidget::uploadProgress(int percent)

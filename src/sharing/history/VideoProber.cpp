@@ -34,7 +34,7 @@ void VideoProber::onProbed(const QString &fileName, const VideoFacts &facts, qin
 {
     m_asked.remove(fileName);
     m_probes.insert(fileName, {facts, duration});
-    emit probed(fileName);
+    emit probed(fileName, facts);
 }
 
 qint64 VideoProber::duration(const QString &fileName, const VideoFacts &facts) const

@@ -30,7 +30,8 @@ public:
 
 signals:
     void looked(const QHash<QString, VideoFacts> &facts);
-    void probed(const QString &fileName);
+    /// @p facts are those of the file that was read, or show that it is gone.
+    void probed(const QString &fileName, const VideoFacts &facts);
 
 private:
     struct Probe {

@@ -195,6 +195,7 @@ void BaseOauth2Uploader::endSignIn()
     m_signIn->stop();
     m_signIn->deleteLater();
     m_signIn.clear();
+    closeSignInPage();
 }
 
 int uploadPercent(qint64 bytes, qint64 total)

@@ -43,6 +43,8 @@ protected:
     virtual QUrl authorizationUrl(const LoopbackReplyHandler &handler) const;
     /// Shows the sign-in page; here, in the system's browser.
     virtual void openSignInPage(const QUrl &address);
+    /// The sign-in has ended in some way, and what shows its page has no use any more.
+    virtual void closeSignInPage() {}
 
     /// Asks the user to sign in.
     void authorize();

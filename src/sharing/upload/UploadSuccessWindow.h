@@ -16,9 +16,6 @@ public:
     /// to open, and the button is hidden.
     UploadSuccessWindow(const QString &serviceKey, const QString &fileUrl,
                         QWidget *parent = nullptr);
-
-private:
-    QString m_fileUrl;
 };
 
 } // namespace velmora

@@ -61,17 +61,18 @@ void WebLoginDialog::finishWith(const QString &code)
     if (m_decided)
         return;
     m_decided = true;
-    emit authenticated(code);
     accept();
+    emit authenticated(code);
 }
 
 void WebLoginDialog::done(int result)
 {
-    if (!m_decided) {
-        m_decided = true;
-        emit failed(tr("Authorization error"));
-    }
+    const bool undecided = !m_decided;
+    m_decided = true;
+    // Hidden first: whoever hears of it may show a dialog of its own.
     CorDialog::done(result);
+    if (undecided)
+        emit failed(tr("Authorization error"));
 }
 
 } // namespace velmora

@@ -24,7 +24,8 @@ public slots:
     void on_webView_urlChanged(QString arg1);
 
 signals:
-    /// Closes the dialog. @p code is empty when the code goes to the loopback port instead.
+    /// The dialog was closed by it. @p code is empty when the code goes to the loopback port
+    /// instead.
     void authenticated(QString code);
     void failed(QString error); ///< The dialog was closed before that.
 

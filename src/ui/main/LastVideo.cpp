@@ -30,10 +30,14 @@ void LastVideo::showFolder(QWidget *window) const
 {
     if (path().isEmpty() || m_fileManager.showInFolder(path()))
         return;
-    MessageDialog::inform(
-        window, QCoreApplication::translate("MainView", "Open Folder"),
-        QCoreApplication::translate("MainView", "The folder \"%1\" does not exist any more.")
-            .arg(QDir::toNativeSeparators(QFileInfo(path()).absolutePath())));
+    const QString folder = QFileInfo(path()).absolutePath();
+    const QString reason =
+        QFileInfo(folder).isDir()
+            ? QCoreApplication::translate("MainView",
+                                          "There is no program to show the folder \"%1\".")
+            : QCoreApplication::translate("MainView", "The folder \"%1\" does not exist any more.");
+    MessageDialog::inform(window, QCoreApplication::translate("MainView", "Open Folder"),
+                          reason.arg(QDir::toNativeSeparators(folder)));
 }
 
 } // namespace velmora

@@ -4,8 +4,10 @@
 #include "app/Paths.h"
 #include "platform/DesktopNotification.h"
 #include "platform/TaskbarProgress.h"
+#include "project/documents/ProjectFile.h"
 #include "sharing/burning/BurnDialog.h"
 #include "sharing/history/FinalWindow.h"
+#include "sharing/history/HistoryRowWidget.h"
 #include "sharing/history/HistoryWidget.h"
 #include "ui/UiLog.h"
 #include "ui/editor/MainWindowWidget.h"
@@ -166,19 +168,27 @@ void MainView::onFinished(const QString &fileName)
 {
     updateLastVideo();
     onBtnHistoryClicked();
-    m_history->select(fileName);
+    const bool listed = m_history->select(fileName);
     tellInBackground(tr("The video is ready"), QFileInfo(fileName).fileName());
-    offerNextSteps(fileName);
+    offerNextSteps(fileName, listed ? m_history->selectedProject() : nullptr);
 }
 
-void MainView::offerNextSteps(const QString &video)
+/// @p entry is the video's in the history, if it got one. Until the user has chosen, another one
+/// may be selected there, so nothing relies on it.
+void MainView::offerNextSteps(const QString &video, const ProjectFile *entry)
 {
+    const QString title = entry ? entry->name() : QFileInfo(video).completeBaseName();
+    const QString diskTitle = entry ? starterText(*entry) : QString();
     auto *window = new FinalWindow(video, m_parts.fileManager, this);
     window->setAttribute(Qt::WA_DeleteOnClose);
     if (m_history->isUploading())
         window->refuseUploads(tr("Another video is being uploaded."));
-    connect(window, &FinalWindow::uploadService, this, &MainView::onUploadClicked);
-    connect(window, &FinalWindow::burnDvd, m_history, &HistoryWidget::on_btnBurn_clicked);
+    connect(window, &FinalWindow::uploadService, this, [this, video, title](const QString &key) {
+        m_stack->setCurrentIndex(History);
+        m_history->startUpload(video, title, key);
+    });
+    connect(window, &FinalWindow::burnDvd, this,
+            [this, video, diskTitle] { onBurnDvd(diskTitle, video); });
     window->open();
 }
 

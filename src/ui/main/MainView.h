@@ -27,6 +27,7 @@ class HistoryWidget;
 class MainMenu;
 class MainWindowWidget;
 class ProjectDocument;
+class ProjectFile;
 class QuietMoment;
 class ServicesConfig;
 class SettingsWidget;
@@ -118,7 +119,7 @@ private:
     void openNow(const QStringList &files);
     void addFiles(const QStringList &files);
     void updateLastVideo();
-    void offerNextSteps(const QString &video);
+    void offerNextSteps(const QString &video, const ProjectFile *entry);
     void tellInBackground(const QString &title, const QString &text);
 
     Parts m_parts;

@@ -128,6 +128,7 @@ const QHash<QString, std::function<void()>> &actions()
         {QStringLiteral("--exit"), [] { std::exit(next().toInt()); }},
         {QStringLiteral("--block"), [] { block(); }},
         {QStringLiteral("--crash"), crash},
+        {QStringLiteral("--overflow-stack"), [] { overflowStack(); }},
         {QStringLiteral("--ignore-terminate"), [] { std::signal(SIGTERM, SIG_IGN); }},
         {QStringLiteral("--raise"), [] { std::raise(next().toInt()); }},
         {QStringLiteral("--run"), [] { startChild(std::make_unique<QProcess>()); }},

@@ -16,12 +16,20 @@ class CrashDumpTest : public QObject
     Q_OBJECT
 
 private slots:
+    void crashLeavesDump_data()
+    {
+        QTest::addColumn<QString>("crash");
+        QTest::newRow("access violation") << QStringLiteral("--crash");
+        QTest::newRow("stack overflow") << QStringLiteral("--overflow-stack");
+    }
+
     void crashLeavesDump()
     {
-        const QString file = m_folder.filePath(QStringLiteral("gr\u00fc\u00dfe \u65e5.dmp"));
+        QFETCH(QString, crash);
+        const QString file =
+            m_folder.filePath(QStringLiteral("gr\u00fc\u00dfe \u65e5%1.dmp").arg(crash));
         QProcess process;
-        process.start(testProcessPath(),
-                      {QStringLiteral("--crash-dump"), file, QStringLiteral("--crash")});
+        process.start(testProcessPath(), {QStringLiteral("--crash-dump"), file, crash});
         QVERIFY(process.waitForFinished(kLongestDump));
         // The process ends by the exception as if there were no handler.
         QCOMPARE(process.exitStatus(), QProcess::CrashExit);

@@ -108,9 +108,13 @@ void DiscWriterTest::looksAtDiscs_data()
                                          << QStringLiteral("appendable erasable 1000 Holidays");
     QTest::newRow("full and rewritable")
         << false << 4 << 0 << true << none << QStringLiteral("erasable 2295104 Holidays");
-    QTest::newRow("closed") << false << 0x4000 << 1000 << false << none << QStringLiteral("0 ");
+    QTest::newRow("closed") << false << 0x4000 << 1000 << false << none
+                            << QStringLiteral("0 Holidays");
     QTest::newRow("closed and rewritable")
-        << false << 0x4000 << 1000 << true << none << QStringLiteral("erasable 2295104 ");
+        << false << 0x4000 << 1000 << true << none << QStringLiteral("erasable 2295104 Holidays");
+    QTest::newRow("closed and foreign")
+        << false << 0x4000 << 1000 << true << QStringLiteral("MsftFileSystemImage ImportFileSystem")
+        << QStringLiteral("erasable 2295104 ");
     QTest::newRow("foreign") << false << 4 << 1000 << true
                              << QStringLiteral("MsftFileSystemImage ImportFileSystem")
                              << QStringLiteral("erasable 2295104 ");

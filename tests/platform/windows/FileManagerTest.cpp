@@ -27,6 +27,7 @@ private slots:
     void cleanupTestCase() { QDir::setCurrent(QDir::tempPath()); }
     void showsFiles_data();
     void showsFiles();
+    void programThatDoesNotStart();
 
 private:
     QString path(const QString &name) const { return m_folder.filePath(name); }
@@ -70,6 +71,16 @@ void FileManagerTest::showsFiles()
     QVERIFY2(line.startsWith(QStringLiteral("explorer.exe ")), qPrintable(line));
     QCOMPARE(line.section(QLatin1Char(' '), 1).trimmed(), arguments.arg(folder));
     QVERIFY(note.remove());
+}
+
+void FileManagerTest::programThatDoesNotStart()
+{
+    const QString program = path(QStringLiteral("explorer.exe"));
+    QTRY_VERIFY(QFile::remove(program)); // The last copy may still be ending.
+    QFile broken(program);
+    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no program") > 0);
+    broken.close();
+    QVERIFY(!createFileManager()->showInFolder(path(QStringLiteral("Мои видео/gone.mp4"))));
 }
 
 int main(int argc, char **argv)

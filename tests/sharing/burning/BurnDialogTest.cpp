@@ -81,10 +81,13 @@ private slots:
         QCOMPARE(devices->count(), 2);
         QCOMPARE(devices->itemText(0), QStringLiteral("[/dev/sr0] (DVDRAM GH0 - 4483 MB Free)"));
         QVERIFY(ready());
+        devices->setCurrentIndex(1);
         m_state->media = blank(700);
         QSignalSpy found(m_controller.get(), &BurnController::devicesChanged);
         click("btnRefresh");
+        QVERIFY(!ready());
         QVERIFY(found.wait());
+        QCOMPARE(devices->currentIndex(), 1); // What was chosen stays so.
         QCOMPARE(devices->itemText(1), QStringLiteral("[/dev/sr1] (DVDRAM GH1 - 700 MB Free)"));
     }
 
@@ -291,6 +294,25 @@ private slots:
         QTRY_COMPARE(page(), QStringLiteral("pgResult"));
         QCOMPARE(find<QLabel>("lbResult")->text(), QStringLiteral("Error"));
         QCOMPARE(m_state->noted().size(), steps); // Nothing follows a step that failed.
+    }
+
+    void stoppedStep_data() { failingStep_data(); }
+
+    void stoppedStep()
+    {
+        QFETCH(int, steps);
+        m_state->media = used(700, true);
+        m_state->slowStep = QString::fromLatin1(QTest::currentDataTag());
+        open();
+        click("btnBurn");
+        QTRY_COMPARE(page(), QStringLiteral("pgNotEmpty"));
+        click("btnYes");
+        QVERIFY(m_state->begun.tryAcquire(1, 20000));
+        m_controller->cancel();
+        m_state->mayEnd.release();
+        QTRY_COMPARE(page(), QStringLiteral("pgResult"));
+        QCOMPARE(find<QLabel>("lbResult")->text(), QStringLiteral("Error"));
+        QCOMPARE(m_state->noted().size(), steps); // Above all, no write after it.
     }
 
     void cancelAsksFirst()

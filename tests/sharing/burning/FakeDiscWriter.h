@@ -22,15 +22,24 @@ public:
         QString failingStep; ///< "open", "erase", "check", "image", "finish", "write" or nothing.
         bool hold = false;   ///< A write waits until it is cancelled.
         QSemaphore writing;  ///< Gets one per write that began.
-        QString hindrance;   ///< Why nothing can be burned.
+        QString slowStep;    ///< One of the same that waits for mayEnd.
+        QSemaphore begun;    ///< Gets one when the slow step has begun.
+        QSemaphore mayEnd;
+        QString hindrance;            ///< Why nothing can be burned.
         std::atomic_bool slow{false}; ///< Nobody is told yet which drives there are.
         QSemaphore asked;             ///< Gets one whenever somebody wants to know them.
         QSemaphore gone;              ///< Gets one when the writer is destroyed.
 
         void note(const QString &step)
         {
-            const std::lock_guard<std::mutex> lock(mutex);
-            steps.append(step);
+            {
+                const std::lock_guard<std::mutex> lock(mutex);
+                steps.append(step);
+            }
+            if (slowStep.isEmpty() || !step.startsWith(slowStep))
+                return;
+            begun.release();
+            mayEnd.acquire();
         }
         QStringList noted()
         {

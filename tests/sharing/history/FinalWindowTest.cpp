@@ -19,8 +19,9 @@ public:
     bool showInFolder(const QString &path) override
     {
         shown.append(path);
-        return true;
+        return starts;
     }
+    bool starts = true;
     QStringList shown;
 };
 
@@ -99,20 +100,30 @@ private slots:
         QVERIFY(window.isHidden());
     }
 
-    void missingFile()
+    void folderThatIsNotShown_data()
     {
-        const QString gone = m_folder.filePath(QStringLiteral("gone.mp4"));
+        QTest::addColumn<QString>("video");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("no file") << m_folder.filePath(QStringLiteral("gone.mp4"))
+                                 << QStringLiteral("File '%1' not found");
+        QTest::newRow("no program")
+            << m_video << QStringLiteral("There is no program to show the folder of '%1'.");
+    }
+
+    void folderThatIsNotShown()
+    {
+        QFETCH(QString, video);
+        QFETCH(QString, reason);
         NotingFileManager manager;
-        FinalWindow window(gone, manager);
+        manager.starts = false;
+        FinalWindow window(video, manager);
         window.show();
         DialogDriver driver;
         driver.press(QStringLiteral("CLOSE"));
         QTest::mouseClick(window.findChild<QPushButton *>(QStringLiteral("btnOpen")),
                           Qt::LeftButton);
         QCOMPARE(driver.title(), QStringLiteral("Open file Error"));
-        QCOMPARE(driver.text(),
-                 QStringLiteral("File '%1' not found").arg(QDir::toNativeSeparators(gone)));
-        QVERIFY(manager.shown.isEmpty());
+        QCOMPARE(driver.text(), reason.arg(QDir::toNativeSeparators(video)));
         QVERIFY(window.isVisible());
     }
 

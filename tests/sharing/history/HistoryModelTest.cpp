@@ -118,6 +118,42 @@ private slots:
         QTRY_COMPARE(model.entry(0).facts.duration, 3000);
     }
 
+    void videoChangesAfterTheList_data()
+    {
+        QTest::addColumn<int>("size"); // Of the new video; below 0 when there is none.
+        QTest::newRow("removed") << -1;
+        QTest::newRow("replaced") << 20;
+    }
+
+    void videoChangesAfterTheList()
+    {
+        QFETCH(int, size);
+        HistoryFixture history;
+        const ProjectFile *project = history.add("a.mp4", 10, QDate(2026, 1, 1));
+        history.add("unchanged.mp4", 10, QDate(2025, 1, 1));
+        HistoryModel model(history.store, history.settings);
+        model.reload();
+        QTRY_VERIFY(isKnown(model));
+        QVERIFY(QFile::remove(history.path("a.mp4")));
+        if (size >= 0)
+            HistoryFixture::write(history.path("a.mp4"), size, QDate(2026, 2, 1));
+        QStringList changed;
+        // The list asks for the duration of each row that changes.
+        connect(&model, &QAbstractItemModel::dataChanged, this, [&](const QModelIndex &index) {
+            changed.append(index.data().toString());
+            model.probe(index.row());
+        });
+        model.probe(0);
+        QTRY_COMPARE(changed, QStringList{QStringLiteral("a.mp4")});
+        const HistoryEntry entry = model.entry(model.rowOf(project));
+        QCOMPARE(entry.facts.exists, size >= 0);
+        QCOMPARE(entry.facts.size, qMax(size, 0));
+        // One reader reads one file after the other: what comes next was asked for last.
+        model.probe(model.rowOf(history.path("unchanged.mp4")));
+        QTRY_COMPARE(changed.size(), 2);
+        QCOMPARE(changed.last(), QStringLiteral("unchanged.mp4"));
+    }
+
     void sameFileTwice()
     {
         HistoryFixture history;

@@ -3,10 +3,12 @@
 #include "chrome/Theme.h"
 #include "helpers/DialogDriver.h"
 #include "helpers/LogCapture.h"
+#include "helpers/PseudoTranslator.h"
 #include "sharing/history/HistoryFixture.h"
 #include "sharing/history/HistoryHeader.h"
 #include "sharing/history/HistoryListView.h"
 #include "sharing/history/HistoryRowWidget.h"
+#include "sharing/playback/VideoDialog.h"
 #include "sharing/upload/UploadController.h"
 
 #include <QCheckBox>
@@ -18,6 +20,8 @@
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <QToolButton>
+
+#include <algorithm>
 
 using namespace velmora;
 
@@ -114,6 +118,41 @@ private slots:
         }
     }
 
+    void languageChanges()
+    {
+        show();
+        DialogDriver driver;
+        driver.press(QStringLiteral("REMOVE"));
+        clickIn(row("old.mp4"), "btnDelete");
+        m_widget->startUpload(m_history->path("new.mp4"), QStringLiteral("x"),
+                              QStringLiteral("dropbox"));
+        PseudoTranslator translator;
+        qApp->installTranslator(&translator);
+        // Before the upload has begun, which nothing is configured for.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
+        m_uploads->cancel();
+        QCOMPARE(find<QLabel>("lblTitle")->text(), PseudoTranslator::of("History"));
+        QStringList names{QStringLiteral("1024x768")};
+        for (const char *name : {"old.mp4", "new.mp4", "gone.mp4"})
+            names << QLatin1String(name) << QDir::toNativeSeparators(m_history->path(name));
+        const QString untranslated =
+            PseudoTranslator::untranslated(*m_widget, names).join(QLatin1Char('\n'));
+        const auto *header = find<HistoryHeader>("header");
+        const QList<QLabel *> labels = header->findChildren<QLabel *>();
+        const bool wide = std::all_of(labels.begin(), labels.end(), [](const QLabel *label) {
+            return label->width() >= label->sizeHint().width();
+        });
+        const int headerLeft = labels.first()->mapTo(m_widget.get(), {}).x();
+        const auto *inRow = row("new.mp4")->findChild<QLabel *>(QStringLiteral("lblResolution"));
+        const int rowLeft = inRow->mapTo(m_widget.get(), {}).x();
+        qApp->removeTranslator(&translator);
+        QCOMPARE(untranslated, QString());
+        QVERIFY(wide);
+        QCOMPARE(rowLeft, headerLeft);
+        QTRY_COMPARE(find<QLabel>("lblTitle")->text(), QStringLiteral("History"));
+        QCOMPARE(driver.failure(), QString());
+    }
+
     void removedVideo()
     {
         show();
@@ -161,8 +200,8 @@ private slots:
         QCOMPARE(m_widget->selectedFile(), m_history->path("old.mp4"));
         clickIn(row("new.mp4"), "btnBurn");
         QCOMPARE(burnt.first().at(1).toString(), m_history->path("new.mp4"));
-        clickIn(row("new.mp4"), "btnPreview");
-        QCOMPARE(m_played, QStringList{m_history->path("new.mp4")});
+        clickIn(row("new.mp4"), "btnPreview"); // No video really, so the desktop gets it.
+        QTRY_COMPARE(m_played, QStringList{m_history->path("new.mp4")});
     }
 
     void doubleClickPlays()
@@ -172,9 +211,10 @@ private slots:
         const QPoint place = list->visualRect(list->model()->index(0, 0)).center();
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
         QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
-        QCOMPARE(m_played, QStringList{m_history->path("new.mp4")});
+        QTRY_COMPARE(m_played, QStringList{m_history->path("new.mp4")});
+        QTRY_VERIFY(!m_widget->findChild<VideoDialog *>());
         QTest::keyClick(list, Qt::Key_Return);
-        QCOMPARE(m_played.size(), 2);
+        QTRY_COMPARE(m_played.size(), 2);
         // It may still be looked at.
         const QString video = m_history->path("new.mp4");
         QTRY_VERIFY(!QFile::exists(video) || QFile::remove(video));
@@ -250,8 +290,17 @@ private slots:
         QVERIFY(!find<QFrame>("undoBar")->isVisible());
     }
 
+    void videosGoToTheTrashOnlyWhenTicked_data()
+    {
+        QTest::addColumn<bool>("taken"); // Another video has got the name meanwhile.
+        QTest::newRow("brought back") << false;
+        QTest::newRow("name is taken") << true;
+    }
+
     void videosGoToTheTrashOnlyWhenTicked()
     {
+        QFETCH(bool, taken);
+        const QString video = m_history->path("old.mp4");
         show();
         DialogDriver driver;
         driver.expect([](QDialog *dialog) {
@@ -264,16 +313,31 @@ private slots:
         });
         clickIn(row("old.mp4"), "btnDelete");
         QCOMPARE(driver.failure(), QString());
-        QTRY_VERIFY(find<QFrame>("undoBar")->isVisible());
-        if (QFile::exists(m_history->path("old.mp4")))
+        QCOMPARE(count(), 2); // The list does not wait for the trash.
+        QVERIFY(!find<QPushButton>("btnUndo")->isEnabled());
+        driver.press(QStringLiteral("CLOSE")); // Where there is no trash.
+        QTRY_VERIFY(find<QPushButton>("btnUndo")->isEnabled());
+        QVERIFY(find<QFrame>("undoBar")->isVisible());
+        if (QFile::exists(video)) {
+            QCOMPARE(driver.failure(), QString());
             QSKIP("There is no trash for this folder.");
+        }
         QVERIFY(QFile::exists(m_history->path("new.mp4")));
         QString trashed;
         if (QFile::moveToTrash(m_history->path("new.mp4"), &trashed) && trashed.isEmpty())
             QSKIP("This trash does not tell where it puts a file, as Wine's does not.");
+        if (taken)
+            HistoryFixture::write(video, 7, QDate(2026, 1, 1));
         click("btnUndo");
-        QTRY_COMPARE(QFileInfo(m_history->path("old.mp4")).size(), 3 * 1048576);
-        QCOMPARE(m_history->saved().size(), 3);
+        QTRY_COMPARE(m_history->saved().size(), 3);
+        if (!taken) {
+            QTRY_COMPARE(QFileInfo(video).size(), 3 * 1048576);
+            QTRY_COMPARE(text(row("old.mp4"), "lblSize"), QStringLiteral("3.0 MB"));
+            return;
+        }
+        QTRY_COMPARE(driver.text(),
+                     QStringLiteral("Some video files could not be taken out of the trash."));
+        QCOMPARE(QFileInfo(video).size(), 7);
     }
 
     void historyThatCannotBeWritten()

@@ -150,11 +150,14 @@ private slots:
         WebLoginDialog dialog(std::make_unique<FakePage>());
         QSignalSpy authenticated(&dialog, &WebLoginDialog::authenticated);
         QSignalSpy failed(&dialog, &WebLoginDialog::failed);
+        bool hidden = false; // What follows may show a dialog of its own.
+        connect(&dialog, &WebLoginDialog::failed, this, [&] { hidden = dialog.isHidden(); });
         dialog.show();
         QTest::mouseClick(child<QToolButton>(dialog, "btnCloseTop"), Qt::LeftButton);
         dialog.on_webView_titleChanged(QStringLiteral("Success code=late"));
         QCOMPARE(failed.size(), 1);
         QCOMPARE(failed.at(0).at(0).toString(), QStringLiteral("Authorization error"));
+        QVERIFY(hidden);
         QCOMPARE(authenticated.size(), 0);
     }
 

@@ -70,6 +70,9 @@ private slots:
     void cancelReturnsToTheList();
     void videoIsBurnt();
     void slideshowIsRemovedAndResumed();
+    void unlistedVideoGoesOut_data();
+    void unlistedVideoGoesOut();
+    void newVersionIsTold();
 
 private:
     void configure(const QHash<QString, QString> &extra = {});
@@ -366,6 +369,51 @@ void SharingFlowTest::slideshowIsRemovedAndResumed()
     QCOMPARE(m->photos(), QStringList(QStringLiteral("a.png")));
     QCOMPARE(m->view->document().project()->items().first()->caption().text,
              QStringLiteral("By the sea"));
+}
+
+void SharingFlowTest::unlistedVideoGoesOut_data()
+{
+    QTest::addColumn<QString>("button");
+    for (const char *button : {"btnUploadYoutube", "btnBurnDvd"})
+        QTest::newRow(button) << QString::fromLatin1(button);
+}
+
+/// The final page acts on the video that was made, whatever is selected in the history behind it.
+void SharingFlowTest::unlistedVideoGoesOut()
+{
+    QFETCH(QString, button);
+    addFinishedVideo();
+    QFile made(m->folder.filePath(QStringLiteral("made.mp4")));
+    QVERIFY(made.open(QIODevice::WriteOnly) && made.write("the new one") > 0);
+    made.close();
+    m->view->onFinished(made.fileName());
+    QCOMPARE(history().selectedFile(), m_video);
+    QString sent;
+    m->dialogs.expect([&](QDialog *dialog) { clickIn(dialog, button.toLatin1().constData()); });
+    m->dialogs.expect([&](QDialog *dialog) {
+        const auto *burnt = find<QLineEdit>(dialog, "leFileName");
+        sent = burnt ? burnt->text()
+                     : m_services.files().at(0).toObject().value(QLatin1String("title")).toString();
+        dialog->reject();
+    });
+    QTRY_VERIFY(!sent.isEmpty());
+    QVERIFY2(sent.startsWith(QLatin1String("made")), qPrintable(sent));
+}
+
+void SharingFlowTest::newVersionIsTold()
+{
+    m->services = m_services.config();
+    m->show();
+    QString version;
+    m->dialogs.expect([&](QDialog *dialog) {
+        version = find<QLabel>(dialog, "lblVersion")->text();
+        clickIn(dialog, "btnDownload");
+    });
+    m->view->runUpdateChecker();
+    QTRY_COMPARE(version, QStringLiteral("99.0.0"));
+    QTRY_COMPARE(m_browser.visited.size(), 1); // The page that offers it.
+    QVERIFY(m_services.problems().isEmpty());
+    QCOMPARE(m_services.steps(), QStringList(QStringLiteral("update")));
 }
 
 QTEST_MAIN(SharingFlowTest)

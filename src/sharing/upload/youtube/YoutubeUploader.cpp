@@ -14,14 +14,14 @@ namespace velmora
 
 YoutubeUploader::~YoutubeUploader()
 {
-    closeDialog();
+    YoutubeUploader::closeSignInPage();
 }
 
 std::unique_ptr<LoopbackReplyHandler> YoutubeUploader::createReplyHandler()
 {
     auto handler = std::make_unique<YoutubeHandler>(setup().port);
     connect(handler.get(), &YoutubeHandler::convertedCallbackReceived, this,
-            &YoutubeUploader::closeDialog);
+            &YoutubeUploader::closeSignInPage);
     return handler;
 }
 
@@ -35,13 +35,11 @@ void YoutubeUploader::openSignInPage(const QUrl &address)
     m_dialog = new WebLoginDialog(std::move(page), window());
     connect(m_dialog, &WebLoginDialog::authenticated, this, &YoutubeUploader::acceptCode);
     connect(m_dialog, &WebLoginDialog::failed, this, &YoutubeUploader::fail);
-    // However the upload ends, the page has no use any more.
-    connect(this, &BaseUploader::failed, m_dialog, &QDialog::close);
     m_dialog->navigate(address);
     m_dialog->open();
 }
 
-void YoutubeUploader::closeDialog()
+void YoutubeUploader::closeSignInPage()
 {
     if (!m_dialog)
         return;
@@ -50,12 +48,6 @@ void YoutubeUploader::closeDialog()
     // Not when it closes: its page may still be on the way to the loopback port.
     m_dialog->deleteLater();
     m_dialog.clear();
-}
-
-void YoutubeUploader::onToken(const QString &accessToken, const QString &refreshToken)
-{
-    closeDialog();
-    MultipartUploader::onToken(accessToken, refreshToken);
 }
 
 QUrl YoutubeUploader::uploadUrl() const

@@ -23,13 +23,11 @@ public slots:
 protected:
     std::unique_ptr<LoopbackReplyHandler> createReplyHandler() override;
     void openSignInPage(const QUrl &address) override;
-    void onToken(const QString &accessToken, const QString &refreshToken) override;
+    void closeSignInPage() override;
     QUrl uploadUrl() const override;
     void onUploaded(const UploadAnswer &answer) override;
 
 private:
-    void closeDialog();
-
     QPointer<WebLoginDialog> m_dialog;
     QString m_videoId;
 };

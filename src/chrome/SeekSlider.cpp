@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/preview/SeekSlider.h"
+#include "chrome/SeekSlider.h"
 
 #include <QMouseEvent>
 #include <QStyle>
