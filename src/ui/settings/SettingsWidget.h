@@ -61,7 +61,7 @@ private:
     void showSettings();
     void showVersion();
     void fillLanguages();
-    void store();
+    bool store(); ///< False if the settings hold for this run only.
     void slideTo(bool open);
     void place();
     void onSlideFinished();
