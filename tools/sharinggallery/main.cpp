@@ -254,6 +254,7 @@ int main(int argc, char **argv)
     applyIdentity();
     QApplication application(argc, argv);
     Theme::install(application);
+    Theme::useProgramFont();
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 3)
         return 2;

@@ -3,6 +3,7 @@
 #include "app/Identity.h"
 #include "app/Log.h"
 #include "app/Paths.h"
+#include "chrome/Theme.h"
 #include "platform/ComApartment.h"
 #include "platform/DesktopNotification.h"
 #include "platform/FileManager.h"
@@ -31,13 +32,6 @@ namespace
 
 constexpr int kHandOverTimeout = 5000; // ms
 
-void setUpFont()
-{
-    QFont font(QStringLiteral("Segoe UI"));
-    font.setPixelSize(11);
-    QApplication::setFont(font);
-}
-
 /// Applies what the user changed in the settings panel.
 void applySettings(velmora::Application &application)
 {
@@ -56,7 +50,7 @@ int runProgram(velmora::Application &application, const QStringList &files)
                      [&early](const QString &text) { early.append(text); });
     SplashScreen splash;
     splash.play();
-    setUpFont();
+    Theme::useProgramFont();
     HistoryStore history(Paths::historyFile(), application.settings());
     history.load();
     UploadController uploads(application.services(), application.settingsStore());
