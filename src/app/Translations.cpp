@@ -17,7 +17,9 @@ namespace
 const QLatin1String kPrefix("velmora_");
 const QLatin1String kSuffix(".qm");
 
-QStringList folders()
+} // namespace
+
+QStringList Translations::folders()
 {
     QStringList list = {Paths::translationsFolder()};
     if (QCoreApplication::instance()) {
@@ -27,8 +29,6 @@ QStringList folders()
     }
     return list;
 }
-
-} // namespace
 
 bool Translations::load(QTranslator &translator, const QString &locale)
 {

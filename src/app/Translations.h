@@ -14,6 +14,9 @@ namespace velmora
 namespace Translations
 {
 
+/// Where the files are looked for, in this order.
+QStringList folders();
+
 /// Loads the file for @p locale ("de", also for "de_AT" when there is no nearer one) and logs the
 /// result. False when there is none or it is damaged: the program then runs untranslated.
 bool load(QTranslator &translator, const QString &locale);

@@ -5,7 +5,6 @@
 #include "app/FirstRun.h"
 #include "app/Log.h"
 #include "app/Paths.h"
-#include "app/Translations.h"
 #include "chrome/Theme.h"
 #include "platform/InstalledVersion.h"
 #include "platform/SystemInfo.h"
@@ -13,7 +12,6 @@
 #include "project/frames/CaptionFont.h"
 
 #include <QDate>
-#include <QLibraryInfo>
 #include <QScreen>
 
 #include <exception>
@@ -42,17 +40,6 @@ Application::~Application() = default;
 bool Application::sendMessage(const QString &text, int timeoutMs)
 {
     return m_instance.sendMessage(text, timeoutMs);
-}
-
-bool Application::applyLanguage(const QString &locale)
-{
-    removeTranslator(&m_translator);
-    removeTranslator(&m_qtTranslator);
-    // The file dialogs and other parts of Qt have translations of their own.
-    const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-    if (m_qtTranslator.load(QStringLiteral("qtbase_%1").arg(locale), folder))
-        installTranslator(&m_qtTranslator);
-    return Translations::load(m_translator, locale) && installTranslator(&m_translator);
 }
 
 bool Application::notify(QObject *receiver, QEvent *event)
