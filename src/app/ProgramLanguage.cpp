@@ -29,7 +29,7 @@ bool loadTextsOfQt(QTranslator &translator, const QString &locale)
 
 bool ProgramLanguage::apply(const QString &locale)
 {
-    if (locale == m_locale)
+    if (!m_locale.isNull() && locale == m_locale)
         return m_isTranslated;
     m_locale = locale;
     QCoreApplication::removeTranslator(&m_texts);

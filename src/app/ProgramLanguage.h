@@ -17,7 +17,7 @@ public:
     bool apply(const QString &locale);
 
 private:
-    QString m_locale;
+    QString m_locale; ///< Null: none was applied yet.
     bool m_isTranslated = false;
     QTranslator m_texts;
     QTranslator m_textsOfQt;

@@ -43,7 +43,7 @@ public slots:
     void onChangeResolution(int index);
 
 signals:
-    void saved();  ///< The settings have changed and are stored.
+    void saved();  ///< The settings have changed; what could be stored, is.
     void hidden(); ///< Once per open(): the panel has slid out.
 
 protected:
