@@ -39,6 +39,8 @@ done
 for name in "${selected[@]}"; do recolour "$name" selected '#06202f'; done
 for name in "${white[@]}"; do recolour "$name" white '#ffffff'; done
 for name in "${accent[@]}"; do recolour "$name" accent '#0873a8'; done
+rsvg-convert --zoom 2 --output images/photos-large.png icons/svg/photos.svg
+rsvg-convert --zoom 4 --output images/photos-large@2x.png icons/svg/photos.svg
 recolour window-close white '#ffffff'
 recolour arrow-down disabled '#8a97a1'
 for size in "${application_sizes[@]}"; do

@@ -55,20 +55,12 @@
         <translation>Wiederholt die Wiedergabeliste, bis die Diashow endet.</translation>
     </message>
     <message>
-        <source>Help for Loop</source>
-        <translation>Hilfe zu Schleife</translation>
-    </message>
-    <message>
         <source>Offset</source>
         <translation>Versatz</translation>
     </message>
     <message>
         <source>Choose offset of selected audio file. Negative offset means audio file will start playing immediately, shifted by specified time. Positive offset means audio file will start playing from the specified time.</source>
         <translation>Wählen Sie den Versatz der ausgewählten Tondatei. Bei negativem Versatz beginnt die Tondatei sofort, um die angegebene Zeit verschoben. Bei positivem Versatz beginnt die Wiedergabe der Tondatei ab der angegebenen Zeit.</translation>
-    </message>
-    <message>
-        <source>Help for Offset</source>
-        <translation>Hilfe zu Versatz</translation>
     </message>
     <message>
         <source>Fade</source>
@@ -79,8 +71,8 @@
         <translation>Wählen Sie die Dauer der Blende für die Tonspur. 0 bedeutet keine Blende.</translation>
     </message>
     <message>
-        <source>Help for Fade</source>
-        <translation>Hilfe zu Blende</translation>
+        <source>?</source>
+        <translation>?</translation>
     </message>
 </context>
 <context>
@@ -2232,6 +2224,22 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <source>Add Audio</source>
         <translation>Musik hinzufügen</translation>
     </message>
+    <message>
+        <source>Photos are still being added</source>
+        <translation>Es werden noch Fotos hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Audio files are still being added</source>
+        <translation>Es werden noch Tondateien hinzugefügt</translation>
+    </message>
+    <message>
+        <source>The photos are still being sorted</source>
+        <translation>Die Fotos werden noch sortiert</translation>
+    </message>
+    <message>
+        <source>A text is still being edited</source>
+        <translation>Es wird noch ein Text bearbeitet</translation>
+    </message>
 </context>
 <context>
     <name>velmora::MakeCommand</name>
@@ -2430,6 +2438,10 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
     <message>
         <source>cannot be read</source>
         <translation>kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>holds no photos</source>
+        <translation>enthält keine Fotos</translation>
     </message>
 </context>
 <context>
@@ -2734,6 +2746,10 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
     <message>
         <source>Choose the folder</source>
         <translation>Den Ordner wählen</translation>
+    </message>
+    <message>
+        <source>The settings hold until the program ends, because they cannot be written to the file %1.</source>
+        <translation>Die Einstellungen gelten bis zum Ende des Programms, weil sie nicht in die Datei %1 geschrieben werden können.</translation>
     </message>
 </context>
 <context>

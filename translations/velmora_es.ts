@@ -55,20 +55,12 @@
         <translation>Repite la lista de reproducción hasta el final de la presentación.</translation>
     </message>
     <message>
-        <source>Help for Loop</source>
-        <translation>Ayuda sobre Bucle</translation>
-    </message>
-    <message>
         <source>Offset</source>
         <translation>Desfase</translation>
     </message>
     <message>
         <source>Choose offset of selected audio file. Negative offset means audio file will start playing immediately, shifted by specified time. Positive offset means audio file will start playing from the specified time.</source>
         <translation>Elija el desfase del archivo de audio seleccionado. Con un desfase negativo, el archivo de audio empieza de inmediato, desplazado el tiempo indicado. Con un desfase positivo, se reproduce desde el tiempo indicado.</translation>
-    </message>
-    <message>
-        <source>Help for Offset</source>
-        <translation>Ayuda sobre Desfase</translation>
     </message>
     <message>
         <source>Fade</source>
@@ -79,8 +71,8 @@
         <translation>Elija la duración del fundido de la pista de audio. 0 significa sin fundido.</translation>
     </message>
     <message>
-        <source>Help for Fade</source>
-        <translation>Ayuda sobre Fundido</translation>
+        <source>?</source>
+        <translation>?</translation>
     </message>
 </context>
 <context>
@@ -2232,6 +2224,22 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <source>Add Audio</source>
         <translation>Añadir audio</translation>
     </message>
+    <message>
+        <source>Photos are still being added</source>
+        <translation>Todavía se están añadiendo fotos</translation>
+    </message>
+    <message>
+        <source>Audio files are still being added</source>
+        <translation>Todavía se están añadiendo archivos de audio</translation>
+    </message>
+    <message>
+        <source>The photos are still being sorted</source>
+        <translation>Todavía se están ordenando las fotos</translation>
+    </message>
+    <message>
+        <source>A text is still being edited</source>
+        <translation>Todavía se está editando un texto</translation>
+    </message>
 </context>
 <context>
     <name>velmora::MakeCommand</name>
@@ -2430,6 +2438,10 @@ Pulse «Cancelar» para cancelar la operación.</translation>
     <message>
         <source>cannot be read</source>
         <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>holds no photos</source>
+        <translation>no contiene fotos</translation>
     </message>
 </context>
 <context>
@@ -2734,6 +2746,10 @@ Pulse «Cancelar» para cancelar la operación.</translation>
     <message>
         <source>Choose the folder</source>
         <translation>Elegir la carpeta</translation>
+    </message>
+    <message>
+        <source>The settings hold until the program ends, because they cannot be written to the file %1.</source>
+        <translation>Los ajustes solo valen hasta que se cierre el programa, porque no se pueden escribir en el archivo %1.</translation>
     </message>
 </context>
 <context>

@@ -55,20 +55,12 @@
         <translation>Répète la liste de lecture jusqu'à la fin du diaporama.</translation>
     </message>
     <message>
-        <source>Help for Loop</source>
-        <translation>Aide sur Boucle</translation>
-    </message>
-    <message>
         <source>Offset</source>
         <translation>Décalage</translation>
     </message>
     <message>
         <source>Choose offset of selected audio file. Negative offset means audio file will start playing immediately, shifted by specified time. Positive offset means audio file will start playing from the specified time.</source>
         <translation>Choisissez le décalage du fichier audio sélectionné. Avec un décalage négatif, le fichier audio démarre tout de suite, décalé du temps indiqué. Avec un décalage positif, il est lu à partir du temps indiqué.</translation>
-    </message>
-    <message>
-        <source>Help for Offset</source>
-        <translation>Aide sur Décalage</translation>
     </message>
     <message>
         <source>Fade</source>
@@ -79,8 +71,8 @@
         <translation>Choisissez la durée du fondu de la piste audio. 0 : pas de fondu.</translation>
     </message>
     <message>
-        <source>Help for Fade</source>
-        <translation>Aide sur Fondu</translation>
+        <source>?</source>
+        <translation>?</translation>
     </message>
 </context>
 <context>
@@ -2232,6 +2224,22 @@ Press "Cancel" to cancel the operation.</source>
         <source>Add Audio</source>
         <translation>Ajouter audio</translation>
     </message>
+    <message>
+        <source>Photos are still being added</source>
+        <translation>Des photos sont encore en cours d'ajout</translation>
+    </message>
+    <message>
+        <source>Audio files are still being added</source>
+        <translation>Des fichiers audio sont encore en cours d'ajout</translation>
+    </message>
+    <message>
+        <source>The photos are still being sorted</source>
+        <translation>Le tri des photos est encore en cours</translation>
+    </message>
+    <message>
+        <source>A text is still being edited</source>
+        <translation>Un texte est encore en cours de modification</translation>
+    </message>
 </context>
 <context>
     <name>velmora::MakeCommand</name>
@@ -2430,6 +2438,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>cannot be read</source>
         <translation>ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>holds no photos</source>
+        <translation>ne contient pas de photos</translation>
     </message>
 </context>
 <context>
@@ -2734,6 +2746,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Choose the folder</source>
         <translation>Choisir le dossier</translation>
+    </message>
+    <message>
+        <source>The settings hold until the program ends, because they cannot be written to the file %1.</source>
+        <translation>Les paramètres ne sont valables que jusqu'à la fermeture du programme, car ils ne peuvent pas être écrits dans le fichier %1.</translation>
     </message>
 </context>
 <context>

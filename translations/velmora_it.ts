@@ -55,20 +55,12 @@
         <translation>Ripete la playlist fino alla fine della presentazione.</translation>
     </message>
     <message>
-        <source>Help for Loop</source>
-        <translation>Guida su Ripeti</translation>
-    </message>
-    <message>
         <source>Offset</source>
         <translation>Scarto</translation>
     </message>
     <message>
         <source>Choose offset of selected audio file. Negative offset means audio file will start playing immediately, shifted by specified time. Positive offset means audio file will start playing from the specified time.</source>
         <translation>Scegliere lo scarto del file audio selezionato. Con uno scarto negativo il file audio parte subito, spostato del tempo indicato. Con uno scarto positivo viene riprodotto a partire dal tempo indicato.</translation>
-    </message>
-    <message>
-        <source>Help for Offset</source>
-        <translation>Guida su Scarto</translation>
     </message>
     <message>
         <source>Fade</source>
@@ -79,8 +71,8 @@
         <translation>Scegliere la durata della dissolvenza della traccia audio. 0 significa nessuna dissolvenza.</translation>
     </message>
     <message>
-        <source>Help for Fade</source>
-        <translation>Guida su Dissolvenza</translation>
+        <source>?</source>
+        <translation>?</translation>
     </message>
 </context>
 <context>
@@ -2232,6 +2224,22 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <source>Add Audio</source>
         <translation>Aggiungi audio</translation>
     </message>
+    <message>
+        <source>Photos are still being added</source>
+        <translation>L'aggiunta delle foto è ancora in corso</translation>
+    </message>
+    <message>
+        <source>Audio files are still being added</source>
+        <translation>L'aggiunta dei file audio è ancora in corso</translation>
+    </message>
+    <message>
+        <source>The photos are still being sorted</source>
+        <translation>L'ordinamento delle foto è ancora in corso</translation>
+    </message>
+    <message>
+        <source>A text is still being edited</source>
+        <translation>La modifica di un testo è ancora in corso</translation>
+    </message>
 </context>
 <context>
     <name>velmora::MakeCommand</name>
@@ -2430,6 +2438,10 @@ Premere "Annulla" per annullare l'operazione.</translation>
     <message>
         <source>cannot be read</source>
         <translation>non può essere letto</translation>
+    </message>
+    <message>
+        <source>holds no photos</source>
+        <translation>non contiene foto</translation>
     </message>
 </context>
 <context>
@@ -2734,6 +2746,10 @@ Premere "Annulla" per annullare l'operazione.</translation>
     <message>
         <source>Choose the folder</source>
         <translation>Scegli la cartella</translation>
+    </message>
+    <message>
+        <source>The settings hold until the program ends, because they cannot be written to the file %1.</source>
+        <translation>Le impostazioni valgono solo fino alla chiusura del programma, perché non possono essere scritte nel file %1.</translation>
     </message>
 </context>
 <context>

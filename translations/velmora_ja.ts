@@ -55,20 +55,12 @@
         <translation>スライドショーの終わりまでプレイリストを繰り返します。</translation>
     </message>
     <message>
-        <source>Help for Loop</source>
-        <translation>「繰り返し」のヘルプ</translation>
-    </message>
-    <message>
         <source>Offset</source>
         <translation>オフセット</translation>
     </message>
     <message>
         <source>Choose offset of selected audio file. Negative offset means audio file will start playing immediately, shifted by specified time. Positive offset means audio file will start playing from the specified time.</source>
         <translation>選択した音声ファイルのオフセットを選びます。負の値では、音声ファイルは指定した時間だけずれてすぐに始まります。正の値では、音声ファイルは指定した時間の位置から再生されます。</translation>
-    </message>
-    <message>
-        <source>Help for Offset</source>
-        <translation>「オフセット」のヘルプ</translation>
     </message>
     <message>
         <source>Fade</source>
@@ -79,8 +71,8 @@
         <translation>音声トラックのフェードの長さを選びます。0 はフェードなしです。</translation>
     </message>
     <message>
-        <source>Help for Fade</source>
-        <translation>「フェード」のヘルプ</translation>
+        <source>?</source>
+        <translation>?</translation>
     </message>
 </context>
 <context>
@@ -2232,6 +2224,22 @@ Press "Cancel" to cancel the operation.</source>
         <source>Add Audio</source>
         <translation>音声を追加</translation>
     </message>
+    <message>
+        <source>Photos are still being added</source>
+        <translation>写真をまだ追加しています</translation>
+    </message>
+    <message>
+        <source>Audio files are still being added</source>
+        <translation>音声ファイルをまだ追加しています</translation>
+    </message>
+    <message>
+        <source>The photos are still being sorted</source>
+        <translation>写真をまだ並べ替えています</translation>
+    </message>
+    <message>
+        <source>A text is still being edited</source>
+        <translation>テキストをまだ編集しています</translation>
+    </message>
 </context>
 <context>
     <name>velmora::MakeCommand</name>
@@ -2430,6 +2438,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>cannot be read</source>
         <translation>は読み取れません</translation>
+    </message>
+    <message>
+        <source>holds no photos</source>
+        <translation>には写真がありません</translation>
     </message>
 </context>
 <context>
@@ -2734,6 +2746,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Choose the folder</source>
         <translation>フォルダーを選ぶ</translation>
+    </message>
+    <message>
+        <source>The settings hold until the program ends, because they cannot be written to the file %1.</source>
+        <translation>設定をファイル %1 に書き込めないため、プログラムの終了まで有効です。</translation>
     </message>
 </context>
 <context>

@@ -55,20 +55,12 @@
         <translation>Powtarza listę odtwarzania do końca pokazu.</translation>
     </message>
     <message>
-        <source>Help for Loop</source>
-        <translation>Pomoc: Pętla</translation>
-    </message>
-    <message>
         <source>Offset</source>
         <translation>Przesunięcie</translation>
     </message>
     <message>
         <source>Choose offset of selected audio file. Negative offset means audio file will start playing immediately, shifted by specified time. Positive offset means audio file will start playing from the specified time.</source>
         <translation>Wybierz przesunięcie zaznaczonego pliku dźwiękowego. Przy ujemnym przesunięciu plik zaczyna grać od razu, przesunięty o podany czas. Przy dodatnim przesunięciu plik jest odtwarzany od podanego czasu.</translation>
-    </message>
-    <message>
-        <source>Help for Offset</source>
-        <translation>Pomoc: Przesunięcie</translation>
     </message>
     <message>
         <source>Fade</source>
@@ -79,8 +71,8 @@
         <translation>Wybierz czas zanikania ścieżki dźwiękowej. 0 oznacza brak zanikania.</translation>
     </message>
     <message>
-        <source>Help for Fade</source>
-        <translation>Pomoc: Zanikanie</translation>
+        <source>?</source>
+        <translation>?</translation>
     </message>
 </context>
 <context>
@@ -2232,6 +2224,22 @@ Press "Cancel" to cancel the operation.</source>
         <source>Add Audio</source>
         <translation>Dodaj dźwięk</translation>
     </message>
+    <message>
+        <source>Photos are still being added</source>
+        <translation>Trwa jeszcze dodawanie zdjęć</translation>
+    </message>
+    <message>
+        <source>Audio files are still being added</source>
+        <translation>Trwa jeszcze dodawanie plików dźwiękowych</translation>
+    </message>
+    <message>
+        <source>The photos are still being sorted</source>
+        <translation>Trwa jeszcze sortowanie zdjęć</translation>
+    </message>
+    <message>
+        <source>A text is still being edited</source>
+        <translation>Trwa jeszcze edycja tekstu</translation>
+    </message>
 </context>
 <context>
     <name>velmora::MakeCommand</name>
@@ -2430,6 +2438,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>cannot be read</source>
         <translation>nie daje się odczytać</translation>
+    </message>
+    <message>
+        <source>holds no photos</source>
+        <translation>nie zawiera zdjęć</translation>
     </message>
 </context>
 <context>
@@ -2734,6 +2746,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Choose the folder</source>
         <translation>Wybierz folder</translation>
+    </message>
+    <message>
+        <source>The settings hold until the program ends, because they cannot be written to the file %1.</source>
+        <translation>Ustawienia obowiązują tylko do zamknięcia programu, ponieważ nie można ich zapisać w pliku %1.</translation>
     </message>
 </context>
 <context>

@@ -55,20 +55,12 @@
         <translation>Повторяет список воспроизведения до конца слайд-шоу.</translation>
     </message>
     <message>
-        <source>Help for Loop</source>
-        <translation>Справка: Повтор</translation>
-    </message>
-    <message>
         <source>Offset</source>
         <translation>Сдвиг</translation>
     </message>
     <message>
         <source>Choose offset of selected audio file. Negative offset means audio file will start playing immediately, shifted by specified time. Positive offset means audio file will start playing from the specified time.</source>
         <translation>Выберите сдвиг выбранного звукового файла. При отрицательном сдвиге файл начинает играть сразу, со сдвигом на указанное время. При положительном сдвиге файл играет с указанного времени.</translation>
-    </message>
-    <message>
-        <source>Help for Offset</source>
-        <translation>Справка: Сдвиг</translation>
     </message>
     <message>
         <source>Fade</source>
@@ -79,8 +71,8 @@
         <translation>Выберите длительность затухания звуковой дорожки. 0 — без затухания.</translation>
     </message>
     <message>
-        <source>Help for Fade</source>
-        <translation>Справка: Затухание</translation>
+        <source>?</source>
+        <translation>?</translation>
     </message>
 </context>
 <context>
@@ -2232,6 +2224,22 @@ Press "Cancel" to cancel the operation.</source>
         <source>Add Audio</source>
         <translation>Добавить звук</translation>
     </message>
+    <message>
+        <source>Photos are still being added</source>
+        <translation>Фото ещё добавляются</translation>
+    </message>
+    <message>
+        <source>Audio files are still being added</source>
+        <translation>Звуковые файлы ещё добавляются</translation>
+    </message>
+    <message>
+        <source>The photos are still being sorted</source>
+        <translation>Фото ещё сортируются</translation>
+    </message>
+    <message>
+        <source>A text is still being edited</source>
+        <translation>Текст ещё редактируется</translation>
+    </message>
 </context>
 <context>
     <name>velmora::MakeCommand</name>
@@ -2430,6 +2438,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>cannot be read</source>
         <translation>не читается</translation>
+    </message>
+    <message>
+        <source>holds no photos</source>
+        <translation>не содержит фото</translation>
     </message>
 </context>
 <context>
@@ -2734,6 +2746,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Choose the folder</source>
         <translation>Выбрать папку</translation>
+    </message>
+    <message>
+        <source>The settings hold until the program ends, because they cannot be written to the file %1.</source>
+        <translation>Настройки действуют только до закрытия программы, так как их не удаётся записать в файл %1.</translation>
     </message>
 </context>
 <context>

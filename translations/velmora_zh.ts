@@ -55,20 +55,12 @@
         <translation>重复播放列表直到幻灯片放映结束。</translation>
     </message>
     <message>
-        <source>Help for Loop</source>
-        <translation>“循环”的帮助</translation>
-    </message>
-    <message>
         <source>Offset</source>
         <translation>偏移</translation>
     </message>
     <message>
         <source>Choose offset of selected audio file. Negative offset means audio file will start playing immediately, shifted by specified time. Positive offset means audio file will start playing from the specified time.</source>
         <translation>选择所选音频文件的偏移。负偏移表示音频文件立即开始播放，并移动指定的时间。正偏移表示音频文件从指定的时间处开始播放。</translation>
-    </message>
-    <message>
-        <source>Help for Offset</source>
-        <translation>“偏移”的帮助</translation>
     </message>
     <message>
         <source>Fade</source>
@@ -79,8 +71,8 @@
         <translation>选择音轨淡入淡出的时长。0 表示没有淡入淡出。</translation>
     </message>
     <message>
-        <source>Help for Fade</source>
-        <translation>“淡入淡出”的帮助</translation>
+        <source>?</source>
+        <translation>?</translation>
     </message>
 </context>
 <context>
@@ -2232,6 +2224,22 @@ Press "Cancel" to cancel the operation.</source>
         <source>Add Audio</source>
         <translation>添加音频</translation>
     </message>
+    <message>
+        <source>Photos are still being added</source>
+        <translation>仍在添加照片</translation>
+    </message>
+    <message>
+        <source>Audio files are still being added</source>
+        <translation>仍在添加音频文件</translation>
+    </message>
+    <message>
+        <source>The photos are still being sorted</source>
+        <translation>仍在排序照片</translation>
+    </message>
+    <message>
+        <source>A text is still being edited</source>
+        <translation>仍在编辑文字</translation>
+    </message>
 </context>
 <context>
     <name>velmora::MakeCommand</name>
@@ -2430,6 +2438,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>cannot be read</source>
         <translation>无法读取</translation>
+    </message>
+    <message>
+        <source>holds no photos</source>
+        <translation>不含照片</translation>
     </message>
 </context>
 <context>
@@ -2734,6 +2746,10 @@ Press "Cancel" to cancel the operation.</source>
     <message>
         <source>Choose the folder</source>
         <translation>选择文件夹</translation>
+    </message>
+    <message>
+        <source>The settings hold until the program ends, because they cannot be written to the file %1.</source>
+        <translation>由于无法写入文件 %1，这些设置仅在程序关闭之前有效。</translation>
     </message>
 </context>
 <context>

@@ -43,6 +43,7 @@ run_packages=(
     libqt5multimedia5-plugins
     libqt5svg5
     qt5-image-formats-plugins
+    qttranslations5-l10n
 )
 
 test_packages=(

@@ -118,6 +118,11 @@ bool AppSettings::save(QSettings &store) const
     store.sync();
     if (store.status() == QSettings::NoError)
         return true;
+    // The store reports its first failure for good; another one of the same file does not know it.
+    const std::unique_ptr<QSettings> second = openSettings(store.fileName());
+    second->sync();
+    if (second->status() == QSettings::NoError)
+        return true;
     qCWarning(lcApp).noquote()
         << QStringLiteral("Cannot write settings to '%1'").arg(store.fileName());
     return false;

@@ -21,7 +21,6 @@ DropArea::DropArea(QWidget *parent)
     setAcceptDrops(true);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
-    m_picture->setPixmap(Theme::icon(QStringLiteral("photos")).pixmap(208, 120));
     m_prompt->setProperty("pageTitle", true);
     m_hint->setProperty("secondary", true);
 
@@ -35,11 +34,6 @@ DropArea::DropArea(QWidget *parent)
     layout->addWidget(m_prompt);
     layout->addWidget(m_hint);
     layout->addStretch();
-}
-
-void DropArea::setPicture(const QPixmap &picture)
-{
-    m_picture->setPixmap(picture);
 }
 
 void DropArea::setPrompt(const QString &text)
@@ -140,6 +134,16 @@ void DropArea::enterEvent(QEvent *event)
     m_hovered = true;
     update();
     QFrame::enterEvent(event);
+}
+
+/// The picture is in proportion to the place that it has.
+void DropArea::resizeEvent(QResizeEvent *event)
+{
+    constexpr int kSpacious = 900; // px
+    const bool isSpacious = height() >= kSpacious;
+    m_picture->setPixmap(isSpacious ? Theme::icon(QStringLiteral("photos-large")).pixmap(416, 240)
+                                    : Theme::icon(QStringLiteral("photos")).pixmap(208, 120));
+    QFrame::resizeEvent(event);
 }
 
 void DropArea::leaveEvent(QEvent *event)

@@ -19,7 +19,6 @@ class DropArea : public QFrame
 public:
     explicit DropArea(QWidget *parent = nullptr);
 
-    void setPicture(const QPixmap &picture);
     /// The invitation in large letters, also the accessible name.
     void setPrompt(const QString &text);
     void setHint(const QString &text);
@@ -42,6 +41,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void enterEvent(QEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void setLit(bool lit);

@@ -106,6 +106,14 @@ void Theme::install(QApplication &application)
     application.setStyleSheet(readStyleSheet());
 }
 
+void Theme::useProgramFont()
+{
+    constexpr int kSize = 11; // px
+    QFont font(QStringLiteral("Segoe UI"));
+    font.setPixelSize(kSize);
+    QApplication::setFont(font);
+}
+
 QIcon Theme::icon(const QString &name, bool accent)
 {
     QIcon &icon = knownIcons()[name + (accent ? QStringLiteral("/accent") : QString())];

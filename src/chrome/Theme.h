@@ -43,6 +43,10 @@ constexpr int Radius = 8;       ///< px, of cards
 /// icon and style sheet. Call it once, before the first widget is made.
 void install(QApplication &application);
 
+/// Gives the application the font of the running program, which is smaller than what the style
+/// sheet sets for its widgets.
+void useProgramFont();
+
 /// The picture ":/images/images/NAME.png"; with @p accent also "NAME-accent" for the switched-on
 /// state of checkable buttons.
 QIcon icon(const QString &name, bool accent = false);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/SingleInstance.h"
 
+#include "platform/ForegroundWindow.h"
 #include "platform/LocalServerName.h"
 #include "platform/PlatformLog.h"
 
@@ -88,6 +89,8 @@ bool SingleInstance::sendMessage(const QString &text, int timeoutMs)
     QDataStream stream(&message, QIODevice::WriteOnly);
     stream.setVersion(QDataStream::Qt_5_15);
     stream << text.toUtf8();
+    // The text may have the other one show its window, which this one alone can permit.
+    allowForegroundWindow();
 
     QElapsedTimer timer;
     timer.start();

@@ -219,9 +219,19 @@ void AppSettingsTest::saveReportsFailure()
     QTemporaryFile file;
     QVERIFY(file.open());
     const QString path = file.fileName() + QStringLiteral("/settings.ini");
+    const auto store = openSettings(path);
     QTest::ignoreMessage(QtWarningMsg,
                          qPrintable(QStringLiteral("Cannot write settings to '%1'").arg(path)));
-    QVERIFY(!AppSettings().save(*openSettings(path)));
+    QVERIFY(!AppSettings().save(*store));
+    // What stood in the way may go.
+    QVERIFY(file.remove());
+    AppSettings later;
+    later.defaultTime = 9;
+    QVERIFY(later.save(*store));
+    AppSettings read;
+    read.load(*openSettings(path), QSize());
+    QCOMPARE(read.defaultTime, 9);
+    QVERIFY(QDir(file.fileName()).removeRecursively());
 }
 
 QTEST_GUILESS_MAIN(AppSettingsTest)

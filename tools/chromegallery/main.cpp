@@ -10,6 +10,7 @@ int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     velmora::Theme::install(application);
+    velmora::Theme::useProgramFont();
     velmora::Gallery gallery;
     gallery.show();
     if (application.arguments().size() < 2)

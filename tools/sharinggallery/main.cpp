@@ -269,6 +269,7 @@ int main(int argc, char **argv)
     applyIdentity();
     QApplication application(argc, argv);
     Theme::install(application);
+    Theme::useProgramFont();
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 4)
         return 2;

@@ -5,7 +5,6 @@
 #include "app/FirstRun.h"
 #include "app/Log.h"
 #include "app/Paths.h"
-#include "app/Translations.h"
 #include "chrome/Theme.h"
 #include "platform/InstalledVersion.h"
 #include "platform/SystemInfo.h"
@@ -41,16 +40,6 @@ Application::~Application() = default;
 bool Application::sendMessage(const QString &text, int timeoutMs)
 {
     return m_instance.sendMessage(text, timeoutMs);
-}
-
-bool Application::applyLanguage(const QString &locale)
-{
-    removeTranslator(&m_translator);
-    removeTranslator(&m_qtTranslator);
-    // The file dialogs and other parts of Qt have translations of their own.
-    if (Translations::loadQt(m_qtTranslator, locale))
-        installTranslator(&m_qtTranslator);
-    return Translations::load(m_translator, locale) && installTranslator(&m_translator);
 }
 
 bool Application::notify(QObject *receiver, QEvent *event)

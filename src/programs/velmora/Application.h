@@ -2,12 +2,12 @@
 #pragma once
 
 #include "app/AppSettings.h"
+#include "app/ProgramLanguage.h"
 #include "app/ServicesConfig.h"
 #include "platform/SingleInstance.h"
 
 #include <QApplication>
 #include <QSettings>
-#include <QTranslator>
 
 #include <memory>
 
@@ -34,9 +34,8 @@ public:
     QSettings &settingsStore() { return *m_store; }
     const ServicesConfig &services() const { return m_services; }
 
-    /// Replaces the installed translation by the one for @p locale; false leaves the texts in
-    /// English.
-    bool applyLanguage(const QString &locale);
+    /// Has the program speak the language of @p locale; false: English.
+    bool applyLanguage(const QString &locale) { return m_language.apply(locale); }
 
     /// An exception that a slot lets through is logged with a dump, and the program goes on.
     bool notify(QObject *receiver, QEvent *event) override;
@@ -53,8 +52,7 @@ private:
     std::unique_ptr<QSettings> m_store;
     AppSettings m_settings;
     ServicesConfig m_services;
-    QTranslator m_translator;
-    QTranslator m_qtTranslator;
+    ProgramLanguage m_language;
 };
 
 } // namespace velmora

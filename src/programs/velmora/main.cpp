@@ -4,6 +4,7 @@
 #include "app/Log.h"
 #include "app/Paths.h"
 #include "app/TaskThread.h"
+#include "chrome/Theme.h"
 #include "generator/pipeline/CacheSweeper.h"
 #include "platform/ComApartment.h"
 #include "platform/DesktopNotification.h"
@@ -33,13 +34,6 @@ namespace
 
 constexpr int kHandOverTimeout = 5000; // ms
 constexpr int kMetricTimeout = 1000;   // ms that the end may wait for the last usage events
-
-void setUpFont()
-{
-    QFont font(QStringLiteral("Segoe UI"));
-    font.setPixelSize(11);
-    QApplication::setFont(font);
-}
 
 void playWhileLoading(velmora::SplashScreen &splash, velmora::HistoryStore &history)
 {
@@ -75,7 +69,7 @@ int runProgram(velmora::Application &application, const QStringList &files)
     // A render that was killed may have left much, and the next one may be far off.
     TaskThread sweeper;
     CacheSweeper::sweepAllOn(sweeper, Paths::cacheFolder());
-    setUpFont();
+    Theme::useProgramFont();
     UploadController uploads(application.services(), application.settingsStore());
     const std::unique_ptr<TaskbarProgress> taskbar = createTaskbarProgress();
     const std::unique_ptr<DesktopNotification> notification = createDesktopNotification();

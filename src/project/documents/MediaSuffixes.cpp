@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <vector>
 
 namespace velmora
 {
@@ -77,6 +78,30 @@ void sortNaturally(QStringList *paths)
         // Names that differ only in case keep one order on every run.
         return order != 0 ? order < 0 : a < b;
     });
+}
+
+void sortByFolder(QStringList *paths)
+{
+    const QCollator collator = naturalCollator();
+    std::vector<QStringList> split;
+    for (const QString &path : qAsConst(*paths)) {
+        split.push_back(path.split(QLatin1Char('/')));
+    }
+    std::sort(split.begin(), split.end(), [&collator](const QStringList &a, const QStringList &b) {
+        const auto place = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
+        if (place.first == a.end() || place.second == b.end()) {
+            return a.size() < b.size();
+        }
+        const bool isFileOfA = place.first + 1 == a.end();
+        const bool isFileOfB = place.second + 1 == b.end();
+        if (isFileOfA != isFileOfB) {
+            return isFileOfA;
+        }
+        const int order = collator.compare(*place.first, *place.second);
+        return order != 0 ? order < 0 : *place.first < *place.second;
+    });
+    std::transform(split.begin(), split.end(), paths->begin(),
+                   [](const QStringList &parts) { return parts.join(QLatin1Char('/')); });
 }
 
 QStringList photosInFolder(const QString &folder, QString *error)

@@ -28,6 +28,9 @@ QCollator naturalCollator();
 /// Sorts paths by their file names as people do: "2.jpg" before "10.jpg", without regard to case.
 void sortNaturally(QStringList *paths);
 
+/// Sorts paths folder by folder as people do: the files of a folder before those of its subfolders.
+void sortByFolder(QStringList *paths);
+
 /// The absolute paths of the photos directly in @p folder, in natural order. Empty with a plain
 /// reason for the user in @p error, where given, when the folder cannot be read.
 QStringList photosInFolder(const QString &folder, QString *error = nullptr);

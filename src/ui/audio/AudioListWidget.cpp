@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/audio/AudioListWidget.h"
 
+#include "chrome/HelpBubble.h"
 #include "chrome/MessageDialog.h"
 #include "chrome/QPopupButton.h"
 #include "chrome/QTableViewEx.h"
@@ -20,7 +21,6 @@
 #include <QHeaderView>
 #include <QStandardPaths>
 #include <QVariant>
-#include <QWhatsThis>
 
 namespace velmora
 {
@@ -157,14 +157,9 @@ void AudioListWidget::setUpValues()
     connect(m_ui->btnSetFade, &QPopupButton::valueSelected, this, &AudioListWidget::onFadeChanged);
     connect(&m_editor, &ProjectEditor::projectChanged, this, &AudioListWidget::initProjectAudio);
     connect(&m_editor, &ProjectEditor::settingsChanged, this, &AudioListWidget::initProjectAudio);
-    for (QToolButton *button : {m_ui->btnHelpLoop, m_ui->btnHelpOffset, m_ui->btnHelpFade}) {
-        button->setProperty("help", true);
-        button->setIcon(Theme::icon(QStringLiteral("help")));
-        connect(button, &QToolButton::clicked, button, [button] {
-            QWhatsThis::showText(button->mapToGlobal(button->rect().center()), button->toolTip(),
-                                 button);
-        });
-    }
+    m_loopHelp = new HelpBubble(m_ui->btnLoopAudio, m_ui->btnHelpLoop);
+    m_offsetHelp = new HelpBubble(m_ui->btnSetOffset, m_ui->btnHelpOffset);
+    m_fadeHelp = new HelpBubble(m_ui->btnSetFade, m_ui->btnHelpFade);
 }
 
 void AudioListWidget::onOffsetChanged(const QVariant &value)
@@ -188,6 +183,9 @@ void AudioListWidget::retranslate()
                                          tr("Drag & drop audio files to create a playlist"));
     m_ui->btnSetOffset->setValues(ValueLists::offsets());
     m_ui->btnSetFade->setValues(ValueLists::fades());
+    m_loopHelp->setTexts(m_ui->btnLoopAudio->text());
+    m_offsetHelp->setTexts(m_ui->lblOffset->text());
+    m_fadeHelp->setTexts(m_ui->lblFade->text());
     m_stop->setText(tr("Stop"));
     m_up->setText(tr("Move up"));
     m_down->setText(tr("Move down"));

@@ -20,6 +20,7 @@ namespace velmora
 {
 
 class AudioFilesController;
+class HelpBubble;
 class ProjectEditor;
 
 /// The frame of the slideshow's music: the playlist with its tools and total, and the values loop,
@@ -73,6 +74,9 @@ private:
     std::unique_ptr<Ui::AudioListWidget> m_ui;
     AudioFilesController *m_controller;
     QTimer m_addingDelay;
+    HelpBubble *m_loopHelp = nullptr;
+    HelpBubble *m_offsetHelp = nullptr;
+    HelpBubble *m_fadeHelp = nullptr;
     QString m_folder; ///< Where the file dialog opens.
     QAction *m_listen = nullptr;
     QAction *m_stop = nullptr;

@@ -11,8 +11,6 @@
 #include <QDirIterator>
 #include <QFileInfo>
 
-#include <map>
-
 namespace velmora
 {
 
@@ -48,25 +46,17 @@ private:
     /// Music below a folder: folder by folder in natural order.
     QStringList musicBelow(const QString &folder) const
     {
-        std::map<QString, QStringList> files; // by folder
+        QStringList files;
         // Links to folders are not followed, so a search always ends.
         QDirIterator entries(folder, QDir::Files | QDir::NoDotAndDotDot,
                              QDirIterator::Subdirectories);
         while (entries.hasNext() && !isCancelled()) {
             const QString path = entries.next();
             if (isAudioPath(path))
-                files[QFileInfo(path).path()].append(path);
+                files.append(path);
         }
-        QStringList folders;
-        for (const auto &entry : files)
-            folders.append(entry.first);
-        sortNaturally(&folders);
-        QStringList sorted;
-        for (const QString &name : qAsConst(folders)) {
-            sortNaturally(&files[name]);
-            sorted += files[name];
-        }
-        return sorted;
+        sortByFolder(&files);
+        return files;
     }
 
     void lookInto(const QString &given, const QString &folder)

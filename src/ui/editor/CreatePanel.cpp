@@ -7,7 +7,6 @@
 #include "project/documents/ProjectFile.h"
 #include "services/MetricSender.h"
 #include "ui/UiLog.h"
-#include "ui/editor/OutputCheck.h"
 #include "ui/editor/ProgressPage.h"
 #include "ui/editor/SlideActions.h"
 #include "ui/editor/VideoName.h"
@@ -19,6 +18,7 @@
 #include <QEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace velmora
 {
@@ -33,7 +33,7 @@ constexpr int kProgressInterval = 500; // ms
 CreatePanel::CreatePanel(ProjectEditor &editor, const AppSettings &settings, HistoryStore &history,
                          QWidget *parent)
     : QFrame(parent), m_editor(editor), m_settings(settings), m_history(history),
-      m_ui(std::make_unique<Ui::CreatePanel>())
+      m_ui(std::make_unique<Ui::CreatePanel>()), m_disk(new TaskThread)
 {
     m_ui->setupUi(this);
     m_page = std::make_unique<ProgressPage>(*m_ui, m_composer);
@@ -47,10 +47,14 @@ CreatePanel::CreatePanel(ProjectEditor &editor, const AppSettings &settings, His
     for (const auto signal : {&ProjectEditor::projectChanged, &ProjectEditor::settingsChanged,
                               &ProjectEditor::totalsChanged})
         connect(&m_editor, signal, this, &CreatePanel::refresh);
+    connect(&m_editor, &ProjectEditor::projectChanged, this, &CreatePanel::endPreparations);
     refresh();
 }
 
-CreatePanel::~CreatePanel() = default;
+CreatePanel::~CreatePanel()
+{
+    m_disk->retire();
+}
 
 void CreatePanel::setUpPages()
 {
@@ -75,10 +79,16 @@ void CreatePanel::retranslate()
     const QKeySequence create(Qt::CTRL + Qt::Key_Return);
     const QKeySequence preview(Qt::CTRL + Qt::Key_P);
     m_ui->btnCreate->setShortcut(create);
-    m_ui->btnCreate->setToolTip(SlideActions::toolTip(tr("Make the video"), create));
     m_ui->btnFullPreview->setShortcut(preview);
     m_ui->btnFullPreview->setToolTip(
         SlideActions::toolTip(tr("Play the whole slideshow"), preview));
+    updateCreateButton();
+}
+
+void CreatePanel::setObstacle(const QString &reason)
+{
+    m_obstacle = reason;
+    updateCreateButton();
 }
 
 void CreatePanel::changeEvent(QEvent *event)
@@ -119,7 +129,12 @@ void CreatePanel::updateCreateButton()
     const bool can = canBeGenerated();
     m_ui->btnFullPreview->setEnabled(can);
     // A worker that is being stopped would have to be waited for.
-    m_ui->btnCreate->setEnabled(can && (m_generating || !m_composer.isRunning()));
+    m_ui->btnCreate->setEnabled(can && m_obstacle.isEmpty() && !m_preparing &&
+                                (m_generating || !m_composer.isRunning()));
+    m_ui->btnCreate->setToolTip(
+        m_obstacle.isEmpty()
+            ? SlideActions::toolTip(tr("Make the video"), m_ui->btnCreate->shortcut())
+            : m_obstacle);
 }
 
 void CreatePanel::onChangeVideoFormat(int index)
@@ -141,37 +156,85 @@ bool CreatePanel::canBeGenerated() const
                        [](const ProjectItem *slide) { return slide->isShown(); });
 }
 
-QString CreatePanel::outputPath() const
+void CreatePanel::prepare(const TaskThread::Work &work)
 {
-    return QDir(m_settings.folder)
-        .filePath(m_ui->txtProjName->text() + QLatin1Char('.') + m_editor.project()->format());
+    m_preparing = true;
+    m_returnsFocus |= m_ui->btnCreate->hasFocus();
+    updateCreateButton();
+    m_disk->add([this, work, number = m_preparations]() -> TaskThread::Report {
+        return [this, number, report = work()] {
+            if (number == m_preparations)
+                report();
+            else
+                m_rendered.removeRequest();
+        };
+    });
+}
+
+void CreatePanel::endPreparations()
+{
+    ++m_preparations;
+    m_preparing = false;
+    updateCreateButton();
+    if (std::exchange(m_returnsFocus, false))
+        m_ui->btnCreate->setFocus();
 }
 
 void CreatePanel::on_btnCreate_clicked()
 {
-    if (m_generating || !canBeGenerated())
+    if (m_generating || m_preparing || !m_obstacle.isEmpty() || !canBeGenerated())
         return;
-    if (!OutputCheck::isNameUsable(this, m_ui->txtProjName->text())) {
+    const QString name = m_ui->txtProjName->text();
+    if (!OutputCheck::isNameUsable(this, name)) {
         m_ui->txtProjName->setFocus();
         m_ui->txtProjName->selectAll();
         return;
     }
-    const QString output = outputPath();
-    if (OutputCheck::isFolderUsable(this, m_settings.folder) &&
-        OutputCheck::mayReplace(this, output))
-        start(output);
+    // What a cancelled render left goes now, rather than at its last tick.
+    m_finalTimer.stop();
+    m_rendered.removeRequest();
+    const QString folder = m_settings.folder;
+    const QString output =
+        QDir(folder).filePath(name + QLatin1Char('.') + m_editor.project()->format());
+    prepare([this, name, folder, output]() -> TaskThread::Report {
+        const OutputCheck::Finding finding = OutputCheck::look(folder, output);
+        return [this, name, output, finding] { onOutputLookedAt(name, output, finding); };
+    });
 }
 
-void CreatePanel::start(const QString &output)
+void CreatePanel::onOutputLookedAt(const QString &name, const QString &output,
+                                   const OutputCheck::Finding &finding)
 {
-    ProjectFile &project = *m_editor.project();
-    m_name->giveTitle();
-    project.setFileName(output);
-    QString error;
-    if (!m_rendered.begin(project, m_settings, m_ui->txtProjName->text(), &error)) {
-        MessageDialog::inform(this, tr("The video cannot be made"), error);
+    // Something may have been added while the disk was asked; the button tells of it now.
+    if (!m_obstacle.isEmpty() || !OutputCheck::mayWrite(this, output, finding)) {
+        endPreparations();
         return;
     }
+    m_name->giveTitle();
+    m_editor.project()->setFileName(output);
+    const RenderedProject::Writer write = m_rendered.begin(*m_editor.project(), m_settings, name);
+    prepare([this, write]() -> TaskThread::Report {
+        QString error;
+        if (write(&error))
+            error.clear();
+        return [this, error] { onRequestWritten(error); };
+    });
+}
+
+void CreatePanel::onRequestWritten(const QString &error)
+{
+    endPreparations();
+    if (error.isEmpty() && m_obstacle.isEmpty()) {
+        start();
+        return;
+    }
+    m_rendered.removeRequest();
+    if (!error.isEmpty())
+        MessageDialog::inform(this, tr("The video cannot be made"), error);
+}
+
+void CreatePanel::start()
+{
     m_generating = true;
     m_page->begin(m_rendered.videoLength());
     emit progressStarted();

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/TaskThread.h"
 #include "generator/worker/Composer.h"
+#include "ui/editor/OutputCheck.h"
 #include "ui/editor/RenderedProject.h"
 
 #include <QFrame>
@@ -33,6 +35,8 @@ public:
     ~CreatePanel() override;
 
     Composer &composer() { return m_composer; }
+    /// Tells why no video can be made for now, for the user; empty: nothing is in the way.
+    void setObstacle(const QString &reason);
     /// From progressStarted() to progressFinished().
     bool isGenerating() const { return m_generating; }
 
@@ -64,9 +68,15 @@ private:
     void setUpPages();
     void retranslate();
     void connectComposer();
-    QString outputPath() const;
     bool canBeGenerated() const;
-    void start(const QString &output);
+    /// Has @p work done off the GUI thread, as a step of the preparations. Its report is dropped
+    /// when another project was set meanwhile.
+    void prepare(const TaskThread::Work &work);
+    void endPreparations();
+    void onOutputLookedAt(const QString &name, const QString &output,
+                          const OutputCheck::Finding &finding);
+    void onRequestWritten(const QString &error);
+    void start();
     void onProgress(int percent);
     void onFinished(const QString &fileName);
     void onKept(const QString &fileName, const QString &error);
@@ -85,6 +95,11 @@ private:
     QTimer m_progressTimer;
     QTimer m_finalTimer;
     RenderedProject m_rendered;
+    TaskThread *m_disk; ///< Retired at the end, as a disk may not answer for long.
+    QString m_obstacle;
+    int m_preparations = 0; ///< The number of those in work or done last.
+    bool m_preparing = false;
+    bool m_returnsFocus = false; ///< The button had it before the preparations.
     bool m_generating = false;
 };
 

@@ -4,6 +4,7 @@
 #include "chrome/Theme.h"
 #include "project/documents/ProjectFile.h"
 #include "ui/UiLog.h"
+#include "ui/audio/AudioFilesController.h"
 #include "ui/audio/AudioListWidget.h"
 #include "ui/caption/TextEditWidget.h"
 #include "ui/editor/CreatePanel.h"
@@ -117,6 +118,7 @@ void MainWindowWidget::retranslate()
     m_addAudio->setText(tr("Add Audio"));
     m_addAudio->setToolTip(SlideActions::toolTip(m_addAudio->text(), m_addAudio->shortcut()));
     updateActions();
+    updateObstacle();
 }
 
 void MainWindowWidget::changeEvent(QEvent *event)
@@ -145,8 +147,27 @@ void MainWindowWidget::updateActions()
     tip(m_redo, tr("Redo"), stack.redoText());
 }
 
+/// What is on its way would not be in the video.
+void MainWindowWidget::updateObstacle()
+{
+    QString obstacle;
+    if (m_imports->isRunning())
+        obstacle = tr("Photos are still being added");
+    else if (m_audio->controller().isAdding())
+        obstacle = tr("Audio files are still being added");
+    else if (m_slides->isSorting())
+        obstacle = tr("The photos are still being sorted");
+    else if (isEditingText())
+        obstacle = tr("A text is still being edited");
+    m_create->setObstacle(obstacle);
+}
+
 void MainWindowWidget::connectParts()
 {
+    connect(m_imports, &PhotoImports::runningChanged, this, &MainWindowWidget::updateObstacle);
+    connect(&m_audio->controller(), &AudioFilesController::addingChanged, this,
+            &MainWindowWidget::updateObstacle);
+    connect(m_slides, &SlidesPage::sortingChanged, this, &MainWindowWidget::updateObstacle);
     connect(m_slides, &SlidesPage::filesDropped, this, &MainWindowWidget::onFilesDropped);
     connect(m_slides, &SlidesPage::currentSlideChanged, m_preview, &PreviewWidget::setSlide);
     connect(m_slides, &SlidesPage::previewRequested, this, &MainWindowWidget::onPreviewClicked);
@@ -251,6 +272,7 @@ void MainWindowWidget::beginTextEditing()
     m_stack->setCurrentIndex(1);
     m_side->hide();
     updateActions();
+    updateObstacle();
     emit textEditingBegan(m_editor.project()->items().size());
 }
 
@@ -262,6 +284,7 @@ void MainWindowWidget::endTextEditing()
     m_side->show();
     m_slides->focusTable();
     updateActions();
+    updateObstacle();
     emit textEditingFinished();
 }
 

@@ -91,6 +91,7 @@ private:
     void retranslate();
     void connectParts();
     void updateActions();
+    void updateObstacle();
     void setGenerating(bool generating);
     void silence();
     void fitSide();

@@ -22,29 +22,27 @@ bool OutputCheck::isNameUsable(QWidget *window, const QString &name)
     return false;
 }
 
-bool OutputCheck::isFolderUsable(QWidget *window, const QString &folder)
+OutputCheck::Finding OutputCheck::look(const QString &folder, const QString &output)
 {
     const QString shown = QDir::toNativeSeparators(folder);
-    QString problem;
-    if (folder.isEmpty() || !QDir().mkpath(folder)) {
-        problem = tr("The folder %1 does not exist and cannot be made.").arg(shown);
-    } else {
-        // Permissions do not tell everything: a disc may be read-only, or full.
-        QTemporaryFile probe(QDir(folder).filePath(QStringLiteral(".velmora-XXXXXX")));
-        if (!probe.open())
-            problem = tr("The folder %1 cannot be written to: %2").arg(shown, probe.errorString());
-    }
-    if (problem.isEmpty())
-        return true;
-    MessageDialog::inform(window, tr("The video cannot be saved"),
-                          problem + QLatin1Char('\n') +
-                              tr("Please choose another folder in the settings."));
-    return false;
+    if (folder.isEmpty() || !QDir().mkpath(folder))
+        return {tr("The folder %1 does not exist and cannot be made.").arg(shown)};
+    // Permissions do not tell everything: a disc may be read-only, or full.
+    QTemporaryFile probe(QDir(folder).filePath(QStringLiteral(".velmora-XXXXXX")));
+    if (!probe.open())
+        return {tr("The folder %1 cannot be written to: %2").arg(shown, probe.errorString())};
+    return {QString(), QFileInfo::exists(output)};
 }
 
-bool OutputCheck::mayReplace(QWidget *window, const QString &output)
+bool OutputCheck::mayWrite(QWidget *window, const QString &output, const Finding &finding)
 {
-    if (!QFileInfo::exists(output))
+    if (!finding.problem.isEmpty()) {
+        MessageDialog::inform(window, tr("The video cannot be saved"),
+                              finding.problem + QLatin1Char('\n') +
+                                  tr("Please choose another folder in the settings."));
+        return false;
+    }
+    if (!finding.exists)
         return true;
     MessageDialog::Message message;
     message.kind = MessageDialog::Kind::Question;

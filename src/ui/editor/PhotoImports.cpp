@@ -32,6 +32,7 @@ void PhotoImports::next()
     const auto batch = m_waiting.takeFirst();
     m_note.begin(tr("Adding photos"));
     m_importer.start(batch.first, batch.second);
+    emit runningChanged();
 }
 
 void PhotoImports::cancel()
@@ -53,6 +54,7 @@ void PhotoImports::onFinished(const PhotoImport &import)
         next();
     else if (!m_refused.isEmpty())
         showRefused();
+    emit runningChanged();
 }
 
 void PhotoImports::showRefused()

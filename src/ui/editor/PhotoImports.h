@@ -27,6 +27,9 @@ public:
     void cancel();
     bool isRunning() const { return m_importer.isRunning(); }
 
+signals:
+    void runningChanged(); ///< A batch began or ended.
+
 private:
     void next();
     void onFinished(const PhotoImport &import);

@@ -17,18 +17,23 @@ RenderedProject::~RenderedProject()
     removeRequest();
 }
 
-bool RenderedProject::begin(const ProjectFile &project, const AppSettings &settings,
-                            const QString &name, QString *error)
+RenderedProject::Writer RenderedProject::begin(const ProjectFile &project,
+                                               const AppSettings &settings, const QString &name)
 {
     m_request = QStringLiteral("%1/%2.json").arg(Paths::cacheFolder(), name);
-    *error = tr("The folder %1 cannot be made.").arg(Paths::cacheFolder());
-    if (!Paths::ensureFolder(Paths::cacheFolder()) ||
-        !RenderRequest::save(project, settings, m_request, error))
-        return false;
     m_project = QJsonObject();
     project.toJson(m_project);
     m_videoLength = Timeline::ofProject(project, settings.transitionTime).totalLength();
-    return true;
+    return [document = m_project, settings, path = m_request](QString *error) {
+        *error = tr("The folder %1 cannot be made.").arg(Paths::cacheFolder());
+        if (!Paths::ensureFolder(Paths::cacheFolder()))
+            return false;
+        QStringList problems;
+        const std::unique_ptr<ProjectFile> taken =
+            ProjectFile::fromJson(document, settings, &problems);
+        *error = problems.join(QStringLiteral(", "));
+        return taken && RenderRequest::save(*taken, settings, path, error);
+    };
 }
 
 void RenderedProject::removeRequest()

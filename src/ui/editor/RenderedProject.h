@@ -24,10 +24,12 @@ public:
     ~RenderedProject();
     Q_DISABLE_COPY(RenderedProject)
 
-    /// Takes @p project and writes it for the worker, in a file that is called @p name; false with
-    /// a reason for the user on failure.
-    bool begin(const ProjectFile &project, const AppSettings &settings, const QString &name,
-               QString *error);
+    /// Writes a file; false with a reason for the user on failure. Any thread.
+    using Writer = std::function<bool(QString *error)>;
+
+    /// Takes @p project. What is returned writes the worker's request, a file that is called
+    /// @p name; it does not need this object.
+    Writer begin(const ProjectFile &project, const AppSettings &settings, const QString &name);
     const QString &request() const { return m_request; } ///< Empty: there is none.
     /// Nobody reads it any more, and it holds the user's paths and texts.
     void removeRequest();

@@ -16,7 +16,10 @@ SlideSorter::SlideSorter(ProjectEditor &editor, BusyNote &note, QObject *parent)
     : QObject(parent), m_editor(editor), m_note(note)
 {
     connect(&m_dates, &PhotoDates::finished, this, &SlideSorter::onDates);
-    connect(&m_dates, &PhotoDates::cancelled, this, [this] { m_note.end(); });
+    connect(&m_dates, &PhotoDates::cancelled, this, [this] {
+        m_note.end();
+        emit readingChanged();
+    });
     connect(&m_dates, &PhotoDates::progress, this, [this](int done, int count) {
         m_note.setProgress(tr("Reading the dates of the photos"), done, count);
     });
@@ -50,8 +53,10 @@ void SlideSorter::sort(Criterion criterion)
         if (const auto *photo = qobject_cast<const ProjectItemSimple *>(slide))
             files.append(photo->fileName());
     }
-    if (m_dates.start(files))
-        m_note.begin(tr("Reading the dates of the photos"));
+    if (!m_dates.start(files))
+        return;
+    m_note.begin(tr("Reading the dates of the photos"));
+    emit readingChanged();
 }
 
 void SlideSorter::onDates(const PhotoDates::Dates &dates)
@@ -60,6 +65,7 @@ void SlideSorter::onDates(const PhotoDates::Dates &dates)
     if (m_editor.project())
         apply(SlideOrder::byDate(m_editor.project()->items(), dates, directionFor(Criterion::Date)),
               Criterion::Date);
+    emit readingChanged();
 }
 
 void SlideSorter::apply(const ProjectEditor::Slides &order, Criterion criterion)

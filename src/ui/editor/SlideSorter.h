@@ -29,12 +29,15 @@ public:
     /// Starts anew with names in ascending order.
     void reset();
 
+    /// Whether dates are being read, after which the slides move.
+    bool isReading() const { return m_dates.isRunning(); }
     Criterion criterion() const { return m_criterion; }
     /// What the next sorting by the present criterion does.
     SlideOrder::Direction nextDirection() const { return m_next; }
 
 signals:
     void changed(); ///< The criterion or the direction.
+    void readingChanged();
 
 private:
     void apply(const ProjectEditor::Slides &order, Criterion criterion);

@@ -4,9 +4,10 @@
 #include "chrome/Theme.h"
 #include "ui/model/SlideTableModel.h"
 
-#include <QApplication>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QTextLayout>
+#include <QWidget>
 
 #include <algorithm>
 
@@ -33,6 +34,8 @@ SlideButton removeButton(const QModelIndex &index)
 
 } // namespace
 
+SlideTextDelegate::SlideTextDelegate(QWidget *view) : SlideDelegate(view), m_view(view) {}
+
 SlideTextDelegate::Layout SlideTextDelegate::layOut(const QRect &cell, const QModelIndex &index,
                                                     bool active) const
 {
@@ -44,7 +47,8 @@ SlideTextDelegate::Layout SlideTextDelegate::layOut(const QRect &cell, const QMo
     layout.text = QRect(cell.left() + kIndent, cell.top() + kMargin,
                         right - kMargin - cell.left() - kIndent, cell.height() - 2 * kMargin);
     if (index.data(SlideTableModel::MissingRole).toBool()) {
-        const QFontMetrics metrics(QApplication::font());
+        // The style sheet gives the view a font of its own.
+        const QFontMetrics metrics = m_view->fontMetrics();
         const int width = metrics.horizontalAdvance(tr("Relocate...")) + 2 * kMargin;
         layout.relocate = QRect(layout.text.left() - kMargin, layout.text.center().y() + 1,
                                 std::min(width, layout.text.width() + kMargin), 28);
@@ -113,6 +117,22 @@ void SlideTextDelegate::paintIcon(QPainter &painter, const QRect &area, const QS
     Theme::icon(name).paint(&painter, icon);
 }
 
+/// A name that is too long for one line takes two; what does not fit into those lacks its middle.
+QString SlideTextDelegate::brokenName(const QString &name, int width) const
+{
+    const QFontMetrics metrics = m_view->fontMetrics();
+    if (metrics.horizontalAdvance(name) <= width)
+        return name;
+    QTextLayout text(name, m_view->font());
+    text.beginLayout();
+    QTextLine line = text.createLine();
+    line.setLineWidth(width);
+    const int end = line.textLength();
+    text.endLayout();
+    return name.left(end).trimmed() + QLatin1Char('\n') +
+           metrics.elidedText(name.mid(end), Qt::ElideMiddle, width);
+}
+
 /// The caption above the slide's name; the name alone, in the middle, without a caption.
 void SlideTextDelegate::paintTexts(QPainter &painter, const QRect &area,
                                    const QModelIndex &index) const
@@ -133,8 +153,11 @@ void SlideTextDelegate::paintTexts(QPainter &painter, const QRect &area,
                          metrics.elidedText(caption, Qt::ElideRight, area.width()));
     }
     painter.setPen(QColor(Theme::SecondaryText));
-    painter.drawText(below, Qt::AlignLeft | (caption.isEmpty() ? Qt::AlignVCenter : Qt::AlignTop),
-                     metrics.elidedText(name, Qt::ElideMiddle, area.width()));
+    if (caption.isEmpty())
+        painter.drawText(below, Qt::AlignLeft | Qt::AlignVCenter, brokenName(name, area.width()));
+    else
+        painter.drawText(below, Qt::AlignLeft | Qt::AlignTop,
+                         metrics.elidedText(name, Qt::ElideMiddle, area.width()));
 }
 
 void SlideTextDelegate::paintMissing(QPainter &painter, const Layout &layout,

@@ -12,7 +12,8 @@ class SlideTextDelegate : public SlideDelegate
 {
     Q_OBJECT
 public:
-    using SlideDelegate::SlideDelegate;
+    /// @p view shows the cells, with its own font.
+    explicit SlideTextDelegate(QWidget *view);
 
     SlideButton buttonAt(const QRect &cell, const QModelIndex &index,
                          const QPoint &position) const override;
@@ -32,8 +33,11 @@ private:
     /// @p active: all buttons are shown; otherwise the text has the room of the last one.
     Layout layOut(const QRect &cell, const QModelIndex &index, bool active = true) const;
     void paintTexts(QPainter &painter, const QRect &area, const QModelIndex &index) const;
+    QString brokenName(const QString &name, int width) const;
     void paintMissing(QPainter &painter, const Layout &layout, const QModelIndex &index) const;
     void paintIcon(QPainter &painter, const QRect &area, const QString &name) const;
+
+    const QWidget *m_view;
 };
 
 } // namespace velmora

@@ -162,6 +162,7 @@ void SlidesPage::setUpButtons()
     connect(m_ui->btnDelete, &QToolButton::clicked, this, &SlidesPage::deleteSelected);
     connect(m_ui->btnTotal, &QPushButton::clicked, this, &SlidesPage::onBtnTotalClicked);
     connect(m_sorter, &SlideSorter::changed, this, &SlidesPage::updateSortButtonStyle);
+    connect(m_sorter, &SlideSorter::readingChanged, this, &SlidesPage::sortingChanged);
     for (QPushButton *button : {m_ui->btnTotal, m_ui->btnClear}) {
         button->setProperty("flat", true);
         button->setProperty("compact", true);
@@ -336,6 +337,11 @@ void SlidesPage::updateTotals()
         length = Timeline::ofProject(*m_editor.project(), m_settings.transitionTime).totalLength();
     m_ui->btnTotal->setText(tr("Total: %1").arg(ValueLists::durationText(length)));
     m_ui->btnTotal->setEnabled(shownCount() > 0);
+}
+
+bool SlidesPage::isSorting() const
+{
+    return m_sorter->isReading();
 }
 
 void SlidesPage::focusTable()

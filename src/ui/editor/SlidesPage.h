@@ -38,6 +38,8 @@ public:
 
     /// The line for work in the background.
     BusyNote &busyNote() { return *m_note; }
+    /// Whether the slides are about to be sorted, as soon as the dates of the photos are read.
+    bool isSorting() const;
     /// Gives the keys to the table.
     void focusTable();
     /// Takes over changed settings.
@@ -52,6 +54,7 @@ signals:
     void captionOfAllRequested();
     void previewRequested();
     void rotateChanged();
+    void sortingChanged();
 
 public slots:
     void onTimeChanged(int row, int seconds);

@@ -2,8 +2,8 @@
 #include "ui/editor/VideoSettingsFrame.h"
 
 #include "app/AppSettings.h"
+#include "chrome/HelpBubble.h"
 #include "project/documents/ProjectFile.h"
-#include "ui/editor/HelpBubble.h"
 #include "ui/model/ProjectEditor.h"
 #include "ui/model/ValueLists.h"
 #include "ui_VideoSettings.h"

@@ -8,7 +8,9 @@
 #include "ui/main/ProjectDocument.h"
 #include "ui/model/ProjectEditor.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QSettings>
 #include <QUndoStack>
@@ -71,14 +73,18 @@ int Autosave::intervalOf(const QSettings &store)
     return seconds > 0 && seconds <= kLongest ? seconds * kSecond : Interval;
 }
 
-Autosave::Found Autosave::find(const AppSettings &settings) const
+Autosave::Found Autosave::find(const AppSettings &settings)
 {
     QByteArray content;
     QString error;
-    if (!m_lock.isLocked() || !QFile::exists(m_fileName))
+    const QFileInfo file(m_fileName);
+    if (!m_lock.isLocked() || !file.exists())
         return {};
     if (!JsonFile::readAll(m_fileName, ProjectFile::kMaximumFileSize, &content, &error)) {
         qCWarning(lcUi).noquote() << "Cannot read the unsaved changes:" << error;
+        m_isUnread = file.isFile() && file.size() <= ProjectFile::kMaximumFileSize;
+        if (!m_isUnread)
+            putAside();
         return {};
     }
     const QJsonObject object = QJsonDocument::fromJson(content).object();
@@ -86,15 +92,26 @@ Autosave::Found Autosave::find(const AppSettings &settings) const
     found.project = ProjectFile::fromJson(object.value(kProject).toObject(), settings);
     found.path = object.value(kPath).toString();
     if (!found.project)
-        qCWarning(lcUi) << "The unsaved changes of an earlier run are damaged";
+        putAside();
     return found;
+}
+
+void Autosave::putAside()
+{
+    const QFileInfo file(m_fileName);
+    const QString damaged = file.dir().filePath(QStringLiteral("autosave.damaged.json"));
+    qCWarning(lcUi).noquote() << "The unsaved changes of an earlier run are damaged, see"
+                              << damaged;
+    QFile::remove(damaged);
+    if (!QFile::rename(m_fileName, damaged))
+        qCWarning(lcUi).noquote() << "Cannot rename" << m_fileName;
 }
 
 void Autosave::saveNow()
 {
     // What is typed into a caption is not told.
     const bool changed = m_changed || m_document.hasUnsavedText();
-    if (!changed || !m_lock.isLocked() || !m_document.isModified())
+    if (!changed || !isKeeping() || !m_document.isModified())
         return;
     m_changed = false;
     QJsonObject project;
@@ -113,7 +130,7 @@ void Autosave::saveNow()
 void Autosave::clear()
 {
     m_changed = false;
-    if (!m_lock.isLocked())
+    if (!isKeeping())
         return;
     m_writer.add([this]() -> TaskThread::Report {
         QFile::remove(m_fileName);

@@ -43,7 +43,9 @@ public:
     /// Waits for what is being written or removed; the file stays unless clear() was called.
     ~Autosave() override;
 
-    Found find(const AppSettings &settings) const;
+    /// What is damaged is put aside as "autosave.damaged.json". A file that cannot be read at the
+    /// moment stays for the next start, and no copy is kept until then.
+    Found find(const AppSettings &settings);
     QString fileName() const { return m_fileName; }
 
 public slots:
@@ -54,6 +56,8 @@ public slots:
 
 private:
     void onDocumentChanged();
+    bool isKeeping() const { return m_lock.isLocked() && !m_isUnread; }
+    void putAside();
 
     const ProjectDocument &m_document;
     const QString m_fileName;
@@ -61,6 +65,7 @@ private:
     QTimer m_timer;
     TaskThread m_writer; ///< Writing and removing keep their order.
     bool m_changed = false;
+    bool m_isUnread = false; ///< The file has what nobody has seen yet.
 };
 
 } // namespace velmora

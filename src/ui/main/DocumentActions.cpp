@@ -122,10 +122,8 @@ bool DocumentActions::mayStopWork(bool generating, bool uploading)
 void DocumentActions::offerRestore(Autosave &autosave)
 {
     Autosave::Found found = autosave.find(m_settings);
-    if (!found.project) {
-        autosave.clear();
+    if (!found.project)
         return;
-    }
     const QString name =
         found.path.isEmpty() ? found.project->name() : QFileInfo(found.path).completeBaseName();
     enum Button { Discard, Restore };

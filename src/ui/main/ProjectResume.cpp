@@ -19,11 +19,16 @@ namespace velmora
 namespace
 {
 
-QStringList missingFiles(const QStringList &paths)
+/// Incomplete when @p latest is not @p search any more.
+QStringList missingFiles(const QStringList &paths, const std::atomic_int &latest, int search)
 {
     QStringList missing;
-    std::copy_if(paths.begin(), paths.end(), std::back_inserter(missing),
-                 [](const QString &path) { return !QFileInfo(path).isFile(); });
+    for (const QString &path : paths) {
+        if (latest != search)
+            break;
+        if (!QFileInfo(path).isFile())
+            missing.append(path);
+    }
     return missing;
 }
 
@@ -51,7 +56,10 @@ ProjectResume::ProjectResume(const AppSettings &settings, QWidget *window)
 {
 }
 
-ProjectResume::~ProjectResume() = default;
+ProjectResume::~ProjectResume()
+{
+    ++m_search;
+}
 
 bool ProjectResume::start(const ProjectFile &entry)
 {
@@ -68,7 +76,7 @@ bool ProjectResume::start(const ProjectFile &entry)
     m_ready = false;
     const int search = ++m_search;
     m_searcher.add([this, search, paths = files(*m_project)]() -> TaskThread::Report {
-        const QStringList missing = missingFiles(paths);
+        const QStringList missing = missingFiles(paths, m_search, search);
         return [this, search, missing] {
             if (search == m_search)
                 onLooked(missing);

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QStringList>
 
+#include <atomic>
 #include <memory>
 
 class QWidget;
@@ -25,7 +26,7 @@ class ProjectResume : public QObject
 public:
     /// The question is shown above @p window.
     ProjectResume(const AppSettings &settings, QWidget *window);
-    /// Waits for a search in work.
+    /// Gives up a search in work and waits for the file that it looks at.
     ~ProjectResume() override;
 
     /// Copies @p entry and looks for its files; ready() follows if there is something to go on
@@ -51,8 +52,8 @@ private:
     QWidget *m_window;
     std::unique_ptr<ProjectFile> m_project;
     bool m_ready = false;
-    int m_search = 0; ///< The number of the latest search.
-    TaskThread m_searcher;
+    std::atomic_int m_search{0}; ///< The number of the latest search; another one ends it.
+    TaskThread m_searcher;       ///< The last member: it uses the number.
 };
 
 } // namespace velmora

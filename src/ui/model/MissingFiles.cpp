@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <QThread>
 
+#include <utility>
+
 namespace velmora
 {
 
@@ -35,8 +37,7 @@ void MissingFiles::start()
         for (const QString &file : files) {
             if (QThread::currentThread()->isInterruptionRequested())
                 return;
-            if (!QFileInfo::exists(file))
-                m_found.insert(file);
+            m_found.insert(file, QFileInfo(file).lastModified());
         }
     }));
     connect(m_thread.get(), &QThread::finished, this, &MissingFiles::end);
@@ -47,12 +48,34 @@ void MissingFiles::end()
 {
     m_thread->wait();
     m_thread.release()->deleteLater(); // its signal led here
-    if (m_again) {
+    if (m_again)
         start();
-    } else if (m_found != m_missing) {
-        m_missing = m_found;
-        emit changed();
+    else
+        take(std::exchange(m_found, {}));
+}
+
+void MissingFiles::take(const Times &times)
+{
+    QStringList written;
+    bool isChanged = false;
+    for (auto file = times.begin(); file != times.end(); ++file) {
+        const bool isKnown = m_times.contains(file.key());
+        const bool isGone = !file->isValid();
+        isChanged |= isGone != isMissing(file.key());
+        if (isKnown && !isGone && *file != m_times.value(file.key()))
+            written.append(file.key());
+        m_times.insert(file.key(), *file);
     }
+    if (!written.isEmpty())
+        emit touched(written);
+    if (isChanged)
+        emit changed();
+}
+
+bool MissingFiles::isMissing(const QString &file) const
+{
+    const auto time = m_times.constFind(file);
+    return time != m_times.cend() && !time->isValid();
 }
 
 } // namespace velmora

@@ -11,10 +11,25 @@
 #include <QFileInfo>
 #include <QThread>
 
-#include <map>
+#include <filesystem>
 
 namespace velmora
 {
+
+namespace
+{
+
+/// Whether the files of a folder can be found.
+bool isOpen(const QFileInfo &folder)
+{
+    // Permissions do not tell everything, and QDir takes a closed folder for an empty one.
+    std::error_code problem;
+    const auto path = std::filesystem::u8path(folder.absoluteFilePath().toStdString());
+    const std::filesystem::directory_iterator entries(path, problem);
+    return !problem;
+}
+
+} // namespace
 
 PhotoImporter::PhotoImporter(QObject *parent) : QObject(parent) {}
 
@@ -69,30 +84,33 @@ void PhotoImporter::search(const QStringList &paths)
 
 void PhotoImporter::searchFolder(const QString &folder)
 {
-    if (!QFileInfo(folder).isReadable()) {
+    if (!isOpen(QFileInfo(folder))) {
         m_import.refused.append({folder, tr("cannot be read")});
         return;
     }
     // Links to folders are not followed, so a search always ends.
-    std::map<QString, QStringList> photos; // by folder
-    QDirIterator files(QFileInfo(folder).absoluteFilePath(), QDir::Files | QDir::NoDotAndDotDot,
-                       QDirIterator::Subdirectories);
-    while (files.hasNext() && !m_cancelled) {
-        const QString path = files.next();
-        if (isPhotoPath(path))
-            photos[QFileInfo(path).path()].append(path);
-    }
-    QStringList folders;
-    for (const auto &entry : photos)
-        folders.append(entry.first);
-    sortNaturally(&folders);
-    for (const QString &name : qAsConst(folders)) {
-        sortNaturally(&photos[name]);
-        for (const QString &path : qAsConst(photos[name])) {
-            if (m_cancelled)
-                return;
-            look(path);
+    QStringList photos;
+    bool isComplete = true;
+    QDirIterator entries(QFileInfo(folder).absoluteFilePath(),
+                         QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext() && !m_cancelled) {
+        const QString path = entries.next();
+        const QFileInfo info = entries.fileInfo();
+        if (info.isFile() && isPhotoPath(path)) {
+            photos.append(path);
+        } else if (info.isDir() && !info.isSymLink() && !isOpen(info)) {
+            m_import.refused.append({path, tr("cannot be read")});
+            isComplete = false;
         }
+    }
+    if (photos.isEmpty() && isComplete && !m_cancelled)
+        m_import.refused.append({folder, tr("holds no photos")});
+    sortByFolder(&photos);
+    for (const QString &path : qAsConst(photos)) {
+        if (m_cancelled)
+            return;
+        look(path);
     }
 }
 

@@ -179,10 +179,14 @@ void ProjectEditor::moveSlides(const Slides &slides, int row)
         else
             (i < row ? head : tail).append(slide);
     }
-    for (ProjectItem *slide : qAsConst(moved))
-        qCDebug(lcUi) << "move item" << slide->title() << "from" << before.indexOf(slide) << "after"
-                      << before.indexOf(head.isEmpty() ? nullptr : head.constLast()) << "before"
-                      << before.indexOf(tail.isEmpty() ? nullptr : tail.constFirst());
+    if (moved.isEmpty())
+        return;
+    // One line for all of them: each line is written to the disk at once.
+    qCDebug(lcUi) << "move item" << moved.constFirst()->title() << "from"
+                  << before.indexOf(moved.constFirst()) << "after"
+                  << before.indexOf(head.isEmpty() ? nullptr : head.constLast()) << "before"
+                  << before.indexOf(tail.isEmpty() ? nullptr : tail.constFirst()) << "slides"
+                  << moved.size();
     d->setSlides(head + moved + tail, QT_TR_NOOP("Move slides"));
 }
 

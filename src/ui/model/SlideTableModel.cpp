@@ -67,6 +67,7 @@ SlideTableModel::SlideTableModel(ProjectEditor &editor, QObject *parent)
     m_check.setSingleShot(true); // many slides may change at once
     connect(&m_check, &QTimer::timeout, this, &SlideTableModel::checkFilesNow);
     connect(&m_missing, &MissingFiles::changed, this, &SlideTableModel::onMissingChanged);
+    connect(&m_missing, &MissingFiles::touched, this, &SlideTableModel::forgetThumbnails);
     m_provider.setPhotoBox(photoBox());
     m_provider.start(QThread::LowPriority);
     reset();
@@ -109,6 +110,23 @@ void SlideTableModel::onMissingChanged()
 {
     if (!m_slides.isEmpty())
         emit dataChanged(index(0, 0), index(m_slides.size() - 1, ColumnCount - 1));
+}
+
+/// Has the thumbnails of @p files made again, also where the first attempt came to nothing.
+void SlideTableModel::forgetThumbnails(const QStringList &files)
+{
+    for (const QString &file : files) {
+        m_thumbnails.remove(file);
+        const QUuid request = m_requests.key(file);
+        m_provider.drop(request);
+        m_requests.remove(request);
+    }
+    const QSet<QString> forgotten(files.begin(), files.end());
+    for (int row = 0; row < m_slides.size(); ++row) {
+        if (forgotten.contains(fileOf(*m_slides.at(row))))
+            emit dataChanged(index(row, NumberColumn), index(row, NumberColumn),
+                             {Qt::DecorationRole});
+    }
 }
 
 void SlideTableModel::setVisibleRows(int first, int last)

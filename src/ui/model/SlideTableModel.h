@@ -70,6 +70,7 @@ private:
     void reset();
     void checkFilesNow();
     void onMissingChanged();
+    void forgetThumbnails(const QStringList &files);
     void onSlideChanged(ProjectItem *slide);
     void onThumbnailReady(const QUuid &id);
 

@@ -4,11 +4,13 @@
 #include "app/AppSettings.h"
 #include "app/Identity.h"
 #include "app/Translations.h"
+#include "chrome/MessageDialog.h"
 #include "chrome/Theme.h"
 #include "services/MetricSender.h"
 #include "ui/model/ValueLists.h"
 #include "ui_SettingsPanel.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QLocale>
@@ -145,7 +147,7 @@ void SettingsWidget::showSettings()
     fillLanguages();
 }
 
-void SettingsWidget::store()
+bool SettingsWidget::store()
 {
     m_settings.defaultTime = m_ui->btnTime->value().toInt();
     m_settings.defaultTransition = m_ui->btnTransition->value().toInt();
@@ -167,7 +169,7 @@ void SettingsWidget::store()
         MetricSender::instance().record(QStringLiteral("chlan"), language);
         m_settings.locale = language;
     }
-    m_settings.save(m_store);
+    return m_settings.save(m_store);
 }
 
 void SettingsWidget::open()
@@ -185,9 +187,14 @@ void SettingsWidget::onHide()
 
 void SettingsWidget::onSave()
 {
-    store();
+    const bool stored = store();
     emit saved();
     onHide();
+    if (!stored)
+        MessageDialog::inform(window(), tr("Settings"),
+                              tr("The settings hold until the program ends, because they cannot "
+                                 "be written to the file %1.")
+                                  .arg(QDir::toNativeSeparators(m_store.fileName())));
 }
 
 void SettingsWidget::on_btnCancel_clicked()
@@ -264,9 +271,11 @@ void SettingsWidget::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), dimming);
 }
 
-void SettingsWidget::mousePressEvent(QMouseEvent *)
+void SettingsWidget::mousePressEvent(QMouseEvent *event)
 {
-    onHide();
+    // Labels and blank space of the panel hand their presses on.
+    if (!m_panel->geometry().contains(event->pos()))
+        onHide();
 }
 
 void SettingsWidget::keyPressEvent(QKeyEvent *event)

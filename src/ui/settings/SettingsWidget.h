@@ -43,7 +43,7 @@ public slots:
     void onChangeResolution(int index);
 
 signals:
-    void saved();  ///< The settings have changed and are stored.
+    void saved();  ///< The settings have changed; what could be stored, is.
     void hidden(); ///< Once per open(): the panel has slid out.
 
 protected:
@@ -61,7 +61,7 @@ private:
     void showSettings();
     void showVersion();
     void fillLanguages();
-    void store();
+    bool store(); ///< False if the settings hold for this run only.
     void slideTo(bool open);
     void place();
     void onSlideFinished();

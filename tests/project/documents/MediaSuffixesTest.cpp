@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace velmora;
 
 class MediaSuffixesTest : public QObject
@@ -18,6 +20,8 @@ private slots:
     void audioPaths();
     void audioSuffixesBySystem();
     void naturalOrder();
+    void folderOrder_data();
+    void folderOrder();
     void photosOfFolder();
     void unreadableFolder_data();
     void unreadableFolder();
@@ -86,6 +90,30 @@ void MediaSuffixesTest::naturalOrder()
     QStringList paths(sorted.rbegin(), sorted.rend());
     sortNaturally(&paths);
     QCOMPARE(paths, sorted);
+}
+
+void MediaSuffixesTest::folderOrder_data()
+{
+    QTest::addColumn<QString>("sorted");
+    QTest::newRow("own files first") << QStringLiteral("/z.jpg /a/1.jpg /a/b/1.jpg");
+    QTest::newRow("folders stay together")
+        << QStringLiteral("/1/9.jpg /1/a/1.jpg /2/9.jpg /2/a/1.jpg /10/1.jpg");
+    QTest::newRow("numbers within folders") << QStringLiteral("/d2/2.jpg /d2/10.jpg /d10/1.jpg");
+    QTest::newRow("one name begins another") << QStringLiteral("/a/z.jpg /a!b/a.jpg /ab/a.jpg");
+    QTest::newRow("case") << QStringLiteral("/A/1.jpg /A/2.jpg /a/1.jpg /B/1.jpg");
+    QTest::newRow("file like a folder") << QStringLiteral("/b.jpg /a/b.jpg/1.jpg /b.jpg2/1.jpg");
+}
+
+void MediaSuffixesTest::folderOrder()
+{
+    QFETCH(QString, sorted);
+    const QStringList expected = sorted.split(QLatin1Char(' '));
+    QStringList paths(expected.rbegin(), expected.rend());
+    sortByFolder(&paths);
+    QCOMPARE(paths, expected);
+    std::rotate(paths.begin(), paths.begin() + 1, paths.end());
+    sortByFolder(&paths);
+    QCOMPARE(paths, expected);
 }
 
 void MediaSuffixesTest::photosOfFolder()

@@ -15,6 +15,7 @@
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QFileDialog>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -23,8 +24,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 #include <QUndoStack>
 #include <QUrl>
+
+#include <algorithm>
 
 using namespace velmora;
 
@@ -52,6 +56,8 @@ private slots:
     void valuesAreWritten();
     void selectedRowHasItsColor();
     void emptyListInvites();
+    void helpIsBrokenIntoLines_data();
+    void helpIsBrokenIntoLines();
     void withoutProjectNothingIsOffered();
 
 private:
@@ -306,6 +312,36 @@ void AudioListWidgetTest::emptyListInvites()
     QVERIFY(child<QWidget>("btnAddAudio").isVisible());
     addThree();
     QVERIFY(table().viewport()->grab().toImage() != empty);
+}
+
+void AudioListWidgetTest::helpIsBrokenIntoLines_data()
+{
+    QTest::addColumn<QString>("widget");
+    QTest::addColumn<bool>("byClick");
+    QTest::newRow("value") << QStringLiteral("btnSetOffset") << false;
+    QTest::newRow("help") << QStringLiteral("btnHelpOffset") << false;
+    QTest::newRow("help, clicked") << QStringLiteral("btnHelpOffset") << true;
+}
+
+void AudioListWidgetTest::helpIsBrokenIntoLines()
+{
+    QFETCH(QString, widget);
+    QFETCH(bool, byClick);
+    auto &shown = child<QWidget>(widget.toLatin1().constData());
+    QVERIFY(shown.accessibleDescription().startsWith(QStringLiteral("Choose offset of selected")));
+    const QPoint at = shown.rect().center();
+    QHelpEvent event(QEvent::ToolTip, at, shown.mapToGlobal(at));
+    if (byClick)
+        QTest::mouseClick(&shown, Qt::LeftButton);
+    else
+        QApplication::sendEvent(&shown, &event);
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto bubble = std::find_if(windows.begin(), windows.end(), [](const QWidget *window) {
+        return window->isVisible() && window->objectName() == QLatin1String("qtooltip_label");
+    });
+    QVERIFY(bubble != windows.end());
+    QVERIFY2((*bubble)->width() < 600, qPrintable(QString::number((*bubble)->width())));
+    QToolTip::hideText();
 }
 
 void AudioListWidgetTest::withoutProjectNothingIsOffered()

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/RenderRequest.h"
 #include "helpers/ProcessControl.h"
+#include "ui/audio/AudioListWidget.h"
 #include "ui/editor/CreatePanel.h"
 #include "ui/editor/EditorPage.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -24,6 +26,13 @@ private:
     void setName(const QString &name) { m->child<QLineEdit>("txtProjName")->setText(name); }
     int page() const { return m->child<QStackedWidget>("tcCreate")->currentIndex(); }
     Composer &composer() const { return m->page->createPanel().composer(); }
+
+    /// Has the making of the video begin.
+    void create()
+    {
+        m->click("btnCreate");
+        QTRY_COMPARE(page(), 1);
+    }
 
     /// What arrives by itself while the page is locked by a render.
     void editBehind(const QString &edit)
@@ -147,8 +156,7 @@ private slots:
         QSignalSpy progress(m->page.get(), &MainWindowWidget::progress);
         QSignalSpy recorded(m->page.get(), &MainWindowWidget::recorded);
         setName(QStringLiteral("video!"));
-        m->click("btnCreate");
-        QCOMPARE(page(), 1);
+        create();
         QVERIFY(m->page->isGenerating());
         QVERIFY(!m->table().isEnabled());
         for (const QString &edit : lateEdits.split(QLatin1Char(' ')))
@@ -179,7 +187,7 @@ private slots:
         m->addPhotos(QStringLiteral("ab"));
         QSignalSpy finished(m->page.get(), &MainWindowWidget::finished);
         QSignalSpy paused(m->page.get(), &MainWindowWidget::pausedChanged);
-        m->click("btnCreate");
+        create();
         const QImage pause = m->child<QPushButton>("btnPauseResume")->icon().pixmap(20).toImage();
         m->click("btnPauseResume");
         QVERIFY(composer().isPaused());
@@ -196,7 +204,7 @@ private slots:
     {
         m->addPhotos(QStringLiteral("ab"));
         QSignalSpy ended(m->page.get(), &MainWindowWidget::progressFinished);
-        m->click("btnCreate");
+        create();
         m->click("btnCancel");
         QCOMPARE(ended.count(), 1);
         QCOMPARE(page(), 0);
@@ -212,7 +220,7 @@ private slots:
         QSignalSpy ended(m->page.get(), &MainWindowWidget::progressFinished);
         QSignalSpy finished(m->page.get(), &MainWindowWidget::finished);
         QSignalSpy failed(m->page.get(), &MainWindowWidget::failed);
-        m->click("btnCreate");
+        create();
         QVector<qint64> workers;
         QTRY_COMPARE(
             (workers = ProcessControl::childrenOf(QCoreApplication::applicationPid())).size(), 1);
@@ -236,12 +244,75 @@ private slots:
         setName(QStringLiteral("old"));
         m->answerNext(0);
         m->click("btnCreate");
-        QVERIFY(m->message().contains(QStringLiteral("old.mp4")));
+        QTRY_VERIFY(m->message().contains(QStringLiteral("old.mp4")));
+        auto *button = m->child<QPushButton>("btnCreate");
+        QTRY_VERIFY(button->isEnabled());
+        QCOMPARE(m->page->focusWidget(), button);
         QCOMPARE(started.count(), 0);
         m->answerNext(1);
-        m->click("btnCreate");
+        create();
         QCOMPARE(started.count(), 1);
         m->click("btnCancel");
+    }
+
+    void waitsForWhatIsOnItsWay_data()
+    {
+        QTest::addColumn<QString>("what");
+        for (const char *what : {"photo", "music", "dates"})
+            QTest::newRow(what) << QString::fromLatin1(what);
+    }
+
+    void waitsForWhatIsOnItsWay()
+    {
+        QFETCH(QString, what);
+        m->addPhotos(QStringLiteral("ab"));
+        auto *button = m->child<QPushButton>("btnCreate");
+        QTRY_VERIFY(button->isEnabled());
+        const QString usual = button->toolTip();
+        if (what == QLatin1String("photo"))
+            m->page->onFilesDropped({m->makePhoto(QStringLiteral("c.png"))}, -1);
+        else if (what == QLatin1String("music"))
+            m->page->findChild<AudioListWidget *>()->onAudioFilesDropped({m->path("a")}, -1);
+        else
+            m->child<QAction>("actSortByDate")->trigger();
+        QVERIFY(!button->isEnabled());
+        QVERIFY(button->toolTip() != usual);
+        if (what == QLatin1String("music"))
+            m->answerNext(0);
+        QTRY_VERIFY(button->isEnabled());
+        QCOMPARE(button->toolTip(), usual);
+        QCOMPARE(m->items().size(), what == QLatin1String("photo") ? 4 : 3);
+    }
+
+    void preparationsCanBeOvertaken_data()
+    {
+        QTest::addColumn<QString>("by");
+        for (const char *by : {"another project", "photo", "caption"})
+            QTest::newRow(by) << QString::fromLatin1(by);
+    }
+
+    void preparationsCanBeOvertaken()
+    {
+        QFETCH(QString, by);
+        m->addPhotos(QStringLiteral("ab"));
+        QTRY_VERIFY(m->child<QPushButton>("btnCreate")->isEnabled());
+        setName(QStringLiteral("early"));
+        QSignalSpy started(m->page.get(), &MainWindowWidget::progressStarted);
+        m->click("btnCreate");
+        ProjectFile other(m->settings, ProjectFile::TitleSlide::Create);
+        if (by == QLatin1String("another project"))
+            m->page->setProject(&other);
+        else if (by == QLatin1String("photo"))
+            m->page->onFilesDropped({m->makePhoto(QStringLiteral("c.png"))}, -1);
+        else
+            m->child<QAction>("actCaptionOfAll")->trigger();
+        QTest::qWait(300);
+        QCOMPARE(started.count(), 0);
+        QVERIFY(!QFile::exists(m->path("cache/data/early.json")));
+        if (by == QLatin1String("caption"))
+            m->click("butCancelText");
+        QTRY_VERIFY(m->child<QPushButton>("btnCreate")->isEnabled());
+        m->page->setProject(nullptr);
     }
 
     void folderMustBeWritable_data()
@@ -265,6 +336,7 @@ private slots:
         m->settings.folder = folder;
         m->answerNext(0);
         m->click("btnCreate");
+        QTRY_VERIFY(!m->message().isEmpty());
         QVERIFY2(m->message().contains(QDir::toNativeSeparators(folder) + QLatin1Char(' ')),
                  qPrintable(m->message()));
         QVERIFY2(m->message().contains(problem), qPrintable(m->message()));

@@ -23,6 +23,12 @@ private:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(content);
     }
+    void letOthersEnter() const
+    {
+        QVERIFY(QFile::setPermissions(m->path(""), QFile::ReadOwner | QFile::WriteOwner |
+                                                       QFile::ExeOwner | QFile::ExeGroup |
+                                                       QFile::ExeOther));
+    }
     MessageDialog *report() const { return m->child<MessageDialog>("notAllPhotos"); }
 
     std::unique_ptr<EditorPage> m;
@@ -59,6 +65,52 @@ private slots:
                 m->names().indexOf(QStringLiteral("img12.png")));
         QCOMPARE(m->page->editor().undoStack()->count(), 1);
         report()->reject();
+    }
+
+    void foldersComeOneAfterAnother()
+    {
+        for (const char *name : {"drop/10/x.png", "drop/2/b/y.png", "drop/2/z.png", "drop/w.png"})
+            QVERIFY(!m->makePhoto(QLatin1String(name)).isEmpty());
+        m->page->addFolder(m->path("drop"));
+        QTRY_COMPARE(m->items().size(), 5);
+        QCOMPARE(m->names().mid(1).join(QLatin1Char(' ')),
+                 QStringLiteral("w.png z.png y.png x.png"));
+    }
+
+    void folderWithoutPhotosIsListed_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::newRow("empty") << QString();
+        QTest::newRow("other files") << QStringLiteral("inner/notes.txt");
+    }
+
+    void folderWithoutPhotosIsListed()
+    {
+        QFETCH(QString, file);
+        QVERIFY(QDir().mkpath(m->path("drop")));
+        if (!file.isEmpty())
+            write(file, "text");
+        m->page->addFolder(m->path("drop"));
+        QTRY_VERIFY(report());
+        QCOMPARE(report()->findChild<QPlainTextEdit *>()->toPlainText(),
+                 QDir::toNativeSeparators(m->path("drop")) + QStringLiteral(": holds no photos"));
+    }
+
+    void unreadableSubfolderIsListed()
+    {
+        QVERIFY(!m->makePhoto(QStringLiteral("drop/good.png")).isEmpty());
+        const QString secret = m->path("drop/secret");
+        QVERIFY(QDir().mkpath(secret));
+        QVERIFY(QFile::setPermissions(secret, {}));
+        letOthersEnter();
+        const OrdinaryUser user;
+        if (!user.isOne())
+            QSKIP("This user may read every file.");
+        m->page->addFolder(m->path("drop"));
+        QTRY_VERIFY(report());
+        const QString text = report()->findChild<QPlainTextEdit *>()->toPlainText();
+        QCOMPARE(text, QDir::toNativeSeparators(secret) + QStringLiteral(": cannot be read"));
+        QCOMPARE(m->names().mid(1), QStringList(QStringLiteral("good.png")));
     }
 
     void importCanBeCancelled()
@@ -98,9 +150,7 @@ private slots:
     {
         const QString secret = m->makePhoto(QStringLiteral("secret.png"));
         QVERIFY(QFile::setPermissions(secret, QFile::WriteOwner));
-        QVERIFY(QFile::setPermissions(m->path(""), QFile::ReadOwner | QFile::WriteOwner |
-                                                       QFile::ExeOwner | QFile::ExeGroup |
-                                                       QFile::ExeOther));
+        letOthersEnter();
         const OrdinaryUser user;
         if (!user.isOne())
             QSKIP("This user may read every file.");

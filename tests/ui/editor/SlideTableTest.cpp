@@ -223,6 +223,22 @@ private slots:
         }
         QVERIFY(red);
     }
+
+    void relocateButtonHoldsItsText()
+    {
+        QFile::remove(m->path("b.png"));
+        m->table().slides()->checkFiles();
+        QTRY_VERIFY(m->table().model()->index(2, 0).data(SlideTableModel::MissingRole).toBool());
+        // The widgets of the program have larger letters than the application.
+        QFont font = m->table().font();
+        font.setPixelSize(24);
+        m->table().setFont(font);
+        const QRect area = cell(2, SlideTableModel::TextColumn);
+        const int text = m->table().fontMetrics().horizontalAdvance(QStringLiteral("Relocate..."));
+        const QPoint end(area.left() + 8 + text, area.center().y() + 12);
+        QTest::mouseMove(m->table().viewport(), end);
+        QCOMPARE(m->table().viewport()->cursor().shape(), Qt::PointingHandCursor);
+    }
 };
 
 QTEST_MAIN(SlideTableTest)

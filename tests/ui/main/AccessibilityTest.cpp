@@ -58,14 +58,17 @@ void collect(QAccessibleInterface *node, QStringList *faults, int *seen)
 QSet<const QWidget *> reachedByTab(QWidget &window)
 {
     QSet<const QWidget *> reached;
+    const QWidget *last = nullptr;
     constexpr int kAtMost = 400;
     for (int i = 0; i < kAtMost; ++i) {
         QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &window,
                         Qt::Key_Tab);
         const QWidget *focus = QApplication::focusWidget();
-        if (!focus || reached.contains(focus))
+        // A text goes through its links before it hands the focus on.
+        if (!focus || (focus != last && reached.contains(focus)))
             break;
         reached.insert(focus);
+        last = focus;
     }
     return reached;
 }
@@ -75,11 +78,25 @@ QSet<const QWidget *> reachedByTab(QWidget &window)
 class AccessibilityTest : public QObject
 {
     Q_OBJECT
-private slots:
-    void initTestCase() { Theme::install(*qApp); }
 
+    static void addSizes()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("usual") << QSize(1024, 700);
+        QTest::newRow("wide") << QSize(1920, 1080);
+    }
+
+private slots:
+    void initTestCase()
+    {
+        Theme::install(*qApp);
+        Theme::useProgramFont();
+    }
+
+    void namesEveryControl_data() { addSizes(); }
     void namesEveryControl()
     {
+        QFETCH(QSize, size);
         QStringList faults;
         int seen = 0;
         MainViewFixture fixture;
@@ -89,6 +106,9 @@ private slots:
             for (const QString &fault : qAsConst(here))
                 faults.append(page + QStringLiteral(": ") + fault);
         });
+        tour.setWindowSize(size);
+        if (size.width() > 1024)
+            tour.leaveOutDialogs();
         tour.run({fixture.makePhoto(QStringLiteral("a.png")),
                   fixture.makePhoto(QStringLiteral("b.png"))});
         faults.removeDuplicates();
@@ -96,8 +116,10 @@ private slots:
         QVERIFY(seen > 100);
     }
 
+    void reachesEveryControlByTab_data() { addSizes(); }
     void reachesEveryControlByTab()
     {
+        QFETCH(QSize, size);
         QStringList faults;
         MainViewFixture fixture;
         PageTour tour(fixture, [&](const QString &page, QWidget &shown) {
@@ -117,6 +139,9 @@ private slots:
                                            widget->objectName()));
             }
         });
+        tour.setWindowSize(size);
+        if (size.width() > 1024)
+            tour.leaveOutDialogs();
         tour.run({fixture.makePhoto(QStringLiteral("a.png"))});
         faults.removeDuplicates();
         QVERIFY2(faults.isEmpty(), qPrintable(QLatin1Char('\n') + faults.join(QLatin1Char('\n'))));

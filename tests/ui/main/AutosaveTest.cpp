@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/main/Autosave.h"
+#include "helpers/OrdinaryUser.h"
 #include "ui/main/MainViewFixture.h"
 
 #include <QAction>
@@ -93,7 +94,7 @@ private slots:
         QCOMPARE(m->photos().size(), 2);
     }
 
-    void unusableFileIsDropped_data()
+    void damagedFileIsPutAside_data()
     {
         QTest::addColumn<QByteArray>("content");
         QTest::newRow("empty") << QByteArray();
@@ -101,7 +102,7 @@ private slots:
         QTest::newRow("no project") << QByteArray("{\"project\": 3}");
     }
 
-    void unusableFileIsDropped()
+    void damagedFileIsPutAside()
     {
         QFETCH(QByteArray, content);
         QFile file(fileName());
@@ -111,7 +112,41 @@ private slots:
         m->show();
         m->view->offerRestore();
         QCOMPARE(m->view->page(), MainView::Start);
-        QTRY_VERIFY(!QFile::exists(fileName()));
+        QVERIFY(!QFile::exists(fileName()));
+        QFile damaged(m->folder.filePath(QStringLiteral("autosave.damaged.json")));
+        QVERIFY(damaged.open(QIODevice::ReadOnly));
+        QCOMPARE(damaged.readAll(), content);
+        // What comes next is kept as always.
+        m->beginSlideshow();
+        QTRY_VERIFY(QFile::exists(fileName()));
+    }
+
+    void unreadableFileStays()
+    {
+        m->show();
+        m->beginSlideshow();
+        QTRY_VERIFY(QFile::exists(fileName()));
+        m->view.reset();
+        QVERIFY(QFile::setPermissions(fileName(), {}));
+        QVERIFY(QFile::setPermissions(m->folder.path(), QFile::Permissions(QFlag(0x7777))));
+        {
+            const OrdinaryUser user;
+            if (!user.isOne())
+                QSKIP("This user may read every file.");
+            m->show();
+            m->view->offerRestore();
+            m->view->document().begin();
+            m->view->document().setName(QStringLiteral("Sylt"));
+            QTest::qWait(1200); // longer than the interval
+            m->dialogs.press(QStringLiteral("DON'T SAVE"));
+            QVERIFY(m->view->close());
+            m->view.reset();
+        }
+        QVERIFY(QFile::setPermissions(fileName(), QFile::ReadOwner | QFile::WriteOwner));
+        m->show();
+        m->dialogs.press(QStringLiteral("RESTORE"));
+        m->view->offerRestore();
+        QCOMPARE(m->photos(), QStringList(QStringLiteral("begin.png")));
     }
 
     void editedCaptionIsKept()

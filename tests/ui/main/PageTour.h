@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "ui/main/DialogTour.h"
 #include "ui/main/MainViewFixture.h"
 
 #include <QStackedWidget>
@@ -12,7 +13,7 @@
 namespace velmora
 {
 
-/// Opens every page and panel of the main window, one after the other.
+/// Opens every page, panel and dialog of the main window, one after the other.
 class PageTour
 {
 public:
@@ -35,9 +36,15 @@ public:
         lookAtEditor();
         lookAtCaptions();
         lookAtPanels();
+        lookAtHistory();
+        m_fixture.child<QStackedWidget>("pages")->setCurrentIndex(MainView::Editor);
+        if (m_isWithDialogs)
+            DialogTour(m_fixture, m_settle, m_look).run();
     }
 
     void setWindowSize(const QSize &size) { m_size = size; }
+    /// They do not depend on the size of the window.
+    void leaveOutDialogs() { m_isWithDialogs = false; }
 
 private:
     void look(const char *name)
@@ -94,13 +101,29 @@ private:
         });
         m_fixture.view->onBtnHelpClicked();
         QTRY_COMPARE(m_fixture.dialogs.failure(), QString());
+    }
+
+    /// With a video, and with one whose file is gone.
+    void lookAtHistory()
+    {
         m_fixture.click("btnHistory");
+        look("history-empty");
+        for (const char *name : {"Norway.mp4", "Birthday 2026.mp4"}) {
+            auto entry =
+                std::make_unique<ProjectFile>(m_fixture.settings, ProjectFile::TitleSlide::Create);
+            entry->setFileName(m_fixture.folder.filePath(QLatin1String(name)));
+            m_fixture.history->add(std::move(entry));
+        }
+        QFile video(m_fixture.folder.filePath(QStringLiteral("Birthday 2026.mp4")));
+        QVERIFY(video.open(QIODevice::WriteOnly) && video.resize(3000000));
+        m_fixture.view->onBtnHistoryClicked();
         look("history");
     }
 
     MainViewFixture &m_fixture;
     Look m_look;
-    QSize m_size{1024, 700};             ///< px
+    QSize m_size{1024, 700}; ///< px
+    bool m_isWithDialogs = true;
     static constexpr int m_settle = 350; ///< ms: longer than the panels' animations
 };
 

@@ -146,7 +146,7 @@ void SharingFlowTest::render(const char *buttonOfFinalPage, const DialogDriver::
     if (onNextDialog)
         m->dialogs.expect(onNextDialog);
     m->click("btnCreate");
-    QVERIFY(m->taskbar.visible);
+    QTRY_VERIFY(m->taskbar.visible);
     QVERIFY(!m->child<QWidget>("btnHistory")->isEnabled());
     QTRY_VERIFY_WITH_TIMEOUT(!shown.isEmpty(), 60000);
     QCOMPARE(heading, QStringLiteral("Conversion has been completed"));

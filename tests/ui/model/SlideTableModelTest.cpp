@@ -115,6 +115,44 @@ private slots:
         QCOMPARE(this->thumbnail(model, 1).pixelColor(0, 0), QColor(Qt::red));
     }
 
+    void thumbnailFollowsTheFile_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::newRow("comes back") << QString();
+        QTest::newRow("comes whole") << QStringLiteral("broken");
+        QTest::newRow("edited") << QStringLiteral("photo");
+    }
+
+    void thumbnailFollowsTheFile()
+    {
+        QFETCH(QString, before);
+        const QString path = m_folder.filePath(QStringLiteral("follows.png"));
+        QFile::remove(path);
+        if (before == QLatin1String("photo"))
+            QCOMPARE(makePhoto(QStringLiteral("follows.png")), path);
+        QFile file(path);
+        if (before == QLatin1String("broken"))
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write("broken") == 6);
+        file.close();
+        m_editor->addPhotos({path}, -1);
+        SlideTableModel model(*m_editor);
+        const auto shown = [&] { return thumbnail(model, 1).pixelColor(0, 0); };
+        const auto isMissing = [&model] {
+            return model.index(1, 0).data(SlideTableModel::MissingRole).toBool();
+        };
+        QVERIFY(thumbnail(model, 1).isNull());
+        if (before == QLatin1String("photo"))
+            QTRY_COMPARE(shown(), QColor(Qt::red));
+        else if (before.isEmpty())
+            QTRY_VERIFY(isMissing());
+        QTest::qWait(100); // the thread has looked at what there is
+        QImage image(300, 200, QImage::Format_RGB32);
+        image.fill(Qt::blue);
+        QVERIFY(image.save(path));
+        model.checkFiles();
+        QTRY_COMPARE(shown(), QColor(Qt::blue));
+    }
+
     void titleIsShownAsInTheVideo()
     {
         SlideTableModel model(*m_editor);

@@ -2,6 +2,7 @@
 #include "ui/settings/SettingsWidget.h"
 #include "app/AppSettings.h"
 #include "chrome/QPopupButton.h"
+#include "helpers/DialogDriver.h"
 #include "helpers/PseudoTranslator.h"
 #include "services/MetricSender.h"
 #include "ui/model/ValueLists.h"
@@ -198,6 +199,48 @@ private slots:
         QVERIFY(!QFile::exists(m_folder->filePath(QStringLiteral("settings.ini"))));
         open();
         QCOMPARE(child<QPopupButton>("btnTime")->value().toInt(), 3);
+    }
+
+    void pressInThePanelChangesNothing_data()
+    {
+        QTest::addColumn<QString>("widget");
+        QTest::addColumn<QPoint>("place"); ///< Negative: from the right and the bottom.
+        QTest::newRow("label") << QStringLiteral("lblTime") << QPoint(5, 5);
+        QTest::newRow("card") << QStringLiteral("frameSlideshow") << QPoint(4, 4);
+        QTest::newRow("blank space") << QStringLiteral("settingsPanel") << QPoint(8, 8);
+        QTest::newRow("between the cards") << QStringLiteral("scrollContent") << QPoint(8, 8);
+        QTest::newRow("footer") << QStringLiteral("settingsFooter") << QPoint(8, 8);
+        QTest::newRow("right of a check box") << QStringLiteral("chkScaleToFit") << QPoint(-5, -5);
+    }
+
+    void pressInThePanelChangesNothing()
+    {
+        QFETCH(QString, widget);
+        QFETCH(QPoint, place);
+        load();
+        open();
+        choose("btnTime", ValueLists::secondsText(7));
+        auto *target = child<QWidget>(widget.toLatin1().constData());
+        if (place.x() < 0)
+            place += target->rect().bottomRight();
+        QTest::mouseClick(target, Qt::LeftButton, Qt::NoModifier, place);
+        QVERIFY(m_panel->isOpen());
+        QCOMPARE(child<QPopupButton>("btnTime")->value().toInt(), 7);
+    }
+
+    void unwritableFileIsTold()
+    {
+        QVERIFY(QDir().mkpath(m_folder->filePath(QStringLiteral("settings.ini"))));
+        load();
+        open();
+        choose("btnTime", ValueLists::secondsText(7));
+        DialogDriver dialogs;
+        dialogs.press(QStringLiteral("CLOSE"));
+        QTest::mouseClick(child<QPushButton>("btnSave"), Qt::LeftButton);
+        QCOMPARE(dialogs.failure(), QString());
+        QVERIFY(dialogs.text().contains(QDir::toNativeSeparators(m_store->fileName())));
+        QCOMPARE(m_settings.defaultTime, 7);
+        QTRY_VERIFY(!m_panel->isVisible());
     }
 
     void survivesGarbage_data()

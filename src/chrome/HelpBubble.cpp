@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/editor/HelpBubble.h"
+#include "chrome/HelpBubble.h"
 
 #include "chrome/Theme.h"
 

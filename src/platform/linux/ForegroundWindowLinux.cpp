@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/ForegroundWindow.h"
+
+namespace velmora
+{
+
+void allowForegroundWindow() {}
+
+} // namespace velmora
