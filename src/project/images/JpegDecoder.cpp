@@ -11,8 +11,10 @@
 #include <cstdlib>
 
 // After <cstdio>: the library's headers use FILE and size_t without including them.
-#include <jerror.h>
 #include <jpeglib.h>
+
+// After <jpeglib.h>: the numbers of the messages depend on the interface's version.
+#include <jerror.h>
 
 namespace velmora
 {
