@@ -6,6 +6,7 @@
 #include "sharing/history/HistoryFixture.h"
 #include "sharing/history/HistoryHeader.h"
 #include "sharing/history/HistoryListView.h"
+#include "sharing/history/HistoryRemoval.h"
 #include "sharing/history/HistoryRowWidget.h"
 #include "sharing/upload/UploadController.h"
 
@@ -132,8 +133,9 @@ private slots:
         });
         clickIn(gone, "btnDelete");
         QCOMPARE(driver.failure(), QString());
-        QTRY_COMPARE(m_history->saved(),
-                     (QStringList{QStringLiteral("old.mp4"), QStringLiteral("new.mp4")}));
+        QVERIFY(waitForSaving());
+        QCOMPARE(m_history->saved(),
+                 (QStringList{QStringLiteral("old.mp4"), QStringLiteral("new.mp4")}));
     }
 
     void buttonsActOnTheSelection()
@@ -235,17 +237,19 @@ private slots:
             QTest::keyClick(find<HistoryListView>("listHistory"), Qt::Key_Delete);
         QCOMPARE(driver.failure(), QString());
         QCOMPARE(count(), left);
-        QTRY_COMPARE(m_history->saved().size(), left);
+        QVERIFY(waitForSaving());
+        QCOMPARE(m_history->saved().size(), left);
         QVERIFY(QFile::exists(m_history->path("old.mp4")));
         QVERIFY(QFile::exists(m_history->path("new.mp4")));
-        QTRY_COMPARE(find<QFrame>("undoBar")->isVisible(), left < 3);
+        QCOMPARE(find<QFrame>("undoBar")->isVisible(), left < 3);
         QCOMPARE(find<QPushButton>("btnClearHistory")->isEnabled(), left > 0);
         QCOMPARE(m_widget->selectedFile().isEmpty(), left == 0);
         if (left == 0)
             click("btnUndo");
         else
             QTest::keyClick(m_widget.get(), Qt::Key_Z, Qt::ControlModifier);
-        QTRY_COMPARE(m_history->saved(), before);
+        QVERIFY(waitForSaving());
+        QCOMPARE(m_history->saved(), before);
         QCOMPARE(count(), 3);
         QVERIFY(!find<QFrame>("undoBar")->isVisible());
     }
@@ -264,7 +268,7 @@ private slots:
         });
         clickIn(row("old.mp4"), "btnDelete");
         QCOMPARE(driver.failure(), QString());
-        QTRY_VERIFY(find<QFrame>("undoBar")->isVisible());
+        QVERIFY(waitForSaving());
         if (QFile::exists(m_history->path("old.mp4")))
             QSKIP("There is no trash for this folder.");
         QVERIFY(QFile::exists(m_history->path("new.mp4")));
@@ -272,7 +276,8 @@ private slots:
         if (QFile::moveToTrash(m_history->path("new.mp4"), &trashed) && trashed.isEmpty())
             QSKIP("This trash does not tell where it puts a file, as Wine's does not.");
         click("btnUndo");
-        QTRY_COMPARE(QFileInfo(m_history->path("old.mp4")).size(), 3 * 1048576);
+        QVERIFY(waitForSaving());
+        QCOMPARE(QFileInfo(m_history->path("old.mp4")).size(), 3 * 1048576);
         QCOMPARE(m_history->saved().size(), 3);
     }
 
@@ -389,6 +394,13 @@ private:
         if (count() > 0) {
             QTRY_VERIFY(find<QLabel>("lblSize") && !find<QLabel>("lblSize")->text().isEmpty());
         }
+    }
+
+    /// The file must not be read before: Windows does not replace files that are open.
+    bool waitForSaving()
+    {
+        const auto *removal = m_widget->findChild<HistoryRemoval *>();
+        return QTest::qWaitFor([removal] { return !removal->isSaving(); });
     }
 
     void click(const char *name) { QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton); }
