@@ -22,11 +22,11 @@ windows_tests=(
     BrowserPageTest BurnDialogTest CacheSweeperTest CaptionPainterTest CardTest ComposerTest
     ConcatListTest CrashDumpTest CrashReporterTest CreateVideoTest DiscSessionTest DiscWriterTest
     DocumentsTest DropAreaTest EncoderCommandsTest EncoderLocatorTest EncoderOptionsTest
-    EncoderProgressTest ExifReaderTest FadeComposerTest FileManagerTest FirstRunTest
-    FrameFitterTest FrameWriterTest HistoryModelTest HistoryStoreTest HistoryWidgetTest
+    EncoderProgressTest ExifReaderTest FadeComposerTest FileManagerTest FirstRunTest FrameFitterTest
+    FrameWriterTest HistoryModelTest HistoryStoreTest HistoryWidgetTest HistoryWriterTest
     ImageCheckTest ImageLoaderTest InputCheckTest LogTest MakeOptionsTest MakeProjectTest
-    MediaFileInfoTest MediaSuffixesTest MetricSenderTest Mp3Test OutputTargetTest ProcessTreeTest
-    ProgressTest ProgressTextTest ProjectFileTest ProjectNameTest ProjectSlidesTest
+    MediaFileInfoTest MediaSuffixesTest MetricSenderTest Mp3Test OutputTargetTest PhotoFileTest
+    ProcessTreeTest ProgressTest ProgressTextTest ProjectFileTest ProjectNameTest ProjectSlidesTest
     RemainingTimeTest RenderControlTest RenderPlanTest SecretMaskTest SecretsTest
     ServicesConfigTest SessionKeyTest SessionValuesTest ShortcutResolverTest SingleInstanceTest
     SlideRendererTest SlideTableModelTest SlideTransitionTest SlidesTest SoundCheckerTest

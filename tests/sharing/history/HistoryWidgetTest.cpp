@@ -7,6 +7,7 @@
 #include "sharing/history/HistoryFixture.h"
 #include "sharing/history/HistoryHeader.h"
 #include "sharing/history/HistoryListView.h"
+#include "sharing/history/HistoryRemoval.h"
 #include "sharing/history/HistoryRowWidget.h"
 #include "sharing/playback/VideoDialog.h"
 #include "sharing/upload/UploadController.h"
@@ -171,8 +172,9 @@ private slots:
         });
         clickIn(gone, "btnDelete");
         QCOMPARE(driver.failure(), QString());
-        QTRY_COMPARE(m_history->saved(),
-                     (QStringList{QStringLiteral("old.mp4"), QStringLiteral("new.mp4")}));
+        QVERIFY(waitForSaving());
+        QCOMPARE(m_history->saved(),
+                 (QStringList{QStringLiteral("old.mp4"), QStringLiteral("new.mp4")}));
     }
 
     void buttonsActOnTheSelection()
@@ -275,17 +277,19 @@ private slots:
             QTest::keyClick(find<HistoryListView>("listHistory"), Qt::Key_Delete);
         QCOMPARE(driver.failure(), QString());
         QCOMPARE(count(), left);
-        QTRY_COMPARE(m_history->saved().size(), left);
+        QVERIFY(waitForSaving());
+        QCOMPARE(m_history->saved().size(), left);
         QVERIFY(QFile::exists(m_history->path("old.mp4")));
         QVERIFY(QFile::exists(m_history->path("new.mp4")));
-        QTRY_COMPARE(find<QFrame>("undoBar")->isVisible(), left < 3);
+        QCOMPARE(find<QFrame>("undoBar")->isVisible(), left < 3);
         QCOMPARE(find<QPushButton>("btnClearHistory")->isEnabled(), left > 0);
         QCOMPARE(m_widget->selectedFile().isEmpty(), left == 0);
         if (left == 0)
             click("btnUndo");
         else
             QTest::keyClick(m_widget.get(), Qt::Key_Z, Qt::ControlModifier);
-        QTRY_COMPARE(m_history->saved(), before);
+        QVERIFY(waitForSaving());
+        QCOMPARE(m_history->saved(), before);
         QCOMPARE(count(), 3);
         QVERIFY(!find<QFrame>("undoBar")->isVisible());
     }
@@ -329,7 +333,8 @@ private slots:
         if (taken)
             HistoryFixture::write(video, 7, QDate(2026, 1, 1));
         click("btnUndo");
-        QTRY_COMPARE(m_history->saved().size(), 3);
+        QVERIFY(waitForSaving());
+        QCOMPARE(m_history->saved().size(), 3);
         if (!taken) {
             QTRY_COMPARE(QFileInfo(video).size(), 3 * 1048576);
             QTRY_COMPARE(text(row("old.mp4"), "lblSize"), QStringLiteral("3.0 MB"));
@@ -453,6 +458,13 @@ private:
         if (count() > 0) {
             QTRY_VERIFY(find<QLabel>("lblSize") && !find<QLabel>("lblSize")->text().isEmpty());
         }
+    }
+
+    /// The file must not be read before: Windows does not replace files that are open.
+    bool waitForSaving()
+    {
+        const auto *removal = m_widget->findChild<HistoryRemoval *>();
+        return QTest::qWaitFor([removal] { return !removal->isSaving(); });
     }
 
     void click(const char *name) { QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton); }

@@ -349,11 +349,12 @@ void SharingFlowTest::slideshowIsRemovedAndResumed()
         store.load();
         return store.projects().size();
     };
-    QTRY_COMPARE(kept(), std::size_t(0));
-    QVERIFY(QFile::exists(m_video));
     QTRY_VERIFY(m->child<QWidget>("undoBar")->isVisible());
+    QCOMPARE(kept(), std::size_t(0));
+    QVERIFY(QFile::exists(m_video));
     clickIn(&history(), "btnUndo");
-    QTRY_COMPARE(kept(), std::size_t(1));
+    QTRY_VERIFY(m->child<QWidget>("btnClearHistory")->isEnabled());
+    QCOMPARE(kept(), std::size_t(1));
     QCOMPARE(history().selectedFile(), m_video);
 
     // One of its photos is gone when it is resumed.
