@@ -52,7 +52,7 @@ bool Translations::loadQt(QTranslator &translator, const QString &locale)
     // The files of Qt name the country where a language has several ways to write it.
     const QString name = QStringLiteral("qtbase_%1").arg(QLocale(locale).name());
     const QStringList all =
-        QStringList(QLibraryInfo::location(QLibraryInfo::TranslationsPath)) + folders();
+        folders() + QStringList(QLibraryInfo::location(QLibraryInfo::TranslationsPath));
     return std::any_of(all.begin(), all.end(), [&](const QString &folder) {
         return translator.load(name, folder, QStringLiteral("_."), kSuffix);
     });
