@@ -12,6 +12,15 @@ export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 screen=(xvfb-run -a -s "-screen 0 1600x1000x24")
 "${screen[@]}" "$bin/editorgallery" "$folder" en 1280x800 examples/photos/*.jpg
 "${screen[@]}" "$bin/sharinggallery" "$folder" en examples/photos/*.jpg
+# One page as a sharp screen shows it, and two in a large window.
+large=(xvfb-run -a -s "-screen 0 2720x1700x24")
+pages=$(mktemp -d)
+trap 'rm -r "$pages"' EXIT
+QT_SCALE_FACTOR=2 "${large[@]}" "$bin/editorgallery" "$pages" en 1280x800 examples/photos/*.jpg
+cp "$pages/editor-preview.png" "$folder/editor-2x.png"
+"${large[@]}" "$bin/editorgallery" "$pages" en 2560x1440 examples/photos/*.jpg
+cp "$pages/start.png" "$folder/start-2560.png"
+cp "$pages/editor.png" "$folder/editor-2560.png"
 if [ -x "$bin/EmbeddedSignInTest" ]; then # Built with VELMORA_WITH_WEBENGINE.
     VELMORA_SCREENSHOTS=$folder "${screen[@]}" "$bin/EmbeddedSignInTest" >/dev/null 2>&1
 fi
