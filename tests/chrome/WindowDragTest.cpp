@@ -74,6 +74,9 @@ private slots:
     void dragThatIsOverAtOnce();
     void buttonIsHeld();
     void buttonGoesUpUnseen();
+    void handlesResize_data();
+    void handlesResize();
+    void maximisedWindowComesBack();
 
 private:
     /// Place and size as the X server has them; the window manager tells them only after a drag.
@@ -98,6 +101,7 @@ private:
     const Desktop &m_desktop;
     std::unique_ptr<CorWindow> m_window;
     QPoint m_seen; ///< Where the pointer was in the newest event.
+    bool m_isPressed = false;
 };
 
 void WindowDragTest::init()
@@ -120,6 +124,7 @@ bool WindowDragTest::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::MouseMove)
         m_seen = static_cast<QMouseEvent *>(event)->globalPos();
+    m_isPressed |= event->type() == QEvent::MouseButtonPress;
     return QObject::eventFilter(watched, event);
 }
 
@@ -181,6 +186,50 @@ void WindowDragTest::buttonGoesUpUnseen()
     Desktop::point(QStringLiteral("mouseup 1"));
     m_desktop.signalManager(SIGCONT);
     QTRY_VERIFY(!followsThePointer());
+}
+
+void WindowDragTest::handlesResize_data()
+{
+    QTest::addColumn<QPoint>("at");
+    QTest::addColumn<QRect>("expected"); // After 40 px to the right and 24 px down.
+    QTest::newRow("left") << QPoint(1, 150) << QRect(240, 150, 460, 300);
+    QTest::newRow("right") << QPoint(498, 150) << QRect(200, 150, 540, 300);
+    QTest::newRow("top") << QPoint(250, 1) << QRect(200, 174, 500, 276);
+    QTest::newRow("bottom") << QPoint(250, 298) << QRect(200, 150, 500, 324);
+    QTest::newRow("top left") << QPoint(1, 1) << QRect(240, 174, 460, 276);
+    QTest::newRow("top right") << QPoint(498, 1) << QRect(200, 174, 540, 276);
+    QTest::newRow("bottom left") << QPoint(1, 298) << QRect(240, 150, 460, 324);
+    QTest::newRow("bottom right") << QPoint(498, 298) << QRect(200, 150, 540, 324);
+}
+
+void WindowDragTest::handlesResize()
+{
+    QFETCH(QPoint, at);
+    QFETCH(QRect, expected);
+    const QPoint begin = m_window->mapToGlobal(at);
+    const QPoint end = begin + QPoint(40, 24);
+    m_isPressed = false;
+    Desktop::point(pressAt(at));
+    QTRY_VERIFY(m_isPressed);
+    // The window manager takes over a little later.
+    const QByteArray before = geometry();
+    const auto isTakenOver = [&] {
+        geometryWithPointerAt(begin.x(), begin.y());
+        return geometryWithPointerAt(end.x(), end.y()) != before;
+    };
+    QTRY_VERIFY(isTakenOver());
+    Desktop::point(QStringLiteral("mouseup 1"));
+    QTRY_COMPARE(m_window->geometry(), expected);
+}
+
+void WindowDragTest::maximisedWindowComesBack()
+{
+    const QRect before = m_window->geometry();
+    m_window->toggleMaximised();
+    QTRY_COMPARE(m_window->geometry(), QRect(0, 0, 1280, 800));
+    QCOMPARE(m_window->frameRect(), m_window->rect());
+    m_window->toggleMaximised();
+    QTRY_COMPARE(m_window->geometry(), before);
 }
 
 int main(int argc, char *argv[])
