@@ -59,10 +59,26 @@ struct Writer {
 Writer writer;
 SRWLOCK writerLock = SRWLOCK_INIT; // Several threads may crash at once.
 
+void tellAboutDump()
+{
+    qCCritical(lcPlatform) << "Mini dump is inside";
+}
+
+bool isStackOverflow(const EXCEPTION_POINTERS *pointers)
+{
+    return pointers && pointers->ExceptionRecord->ExceptionCode == EXCEPTION_STACK_OVERFLOW;
+}
+
 DWORD WINAPI writeWhenWanted(void *)
 {
     while (WaitForSingleObject(writer.wanted, INFINITE) == WAIT_OBJECT_0 && !writer.quit) {
         writer.succeeded = writeFile(writer.crashedId, writer.pointers);
+        if (isStackOverflow(writer.pointers)) {
+            // The thread has no room for what would follow either.
+            if (writer.succeeded)
+                tellAboutDump();
+            TerminateProcess(GetCurrentProcess(), EXCEPTION_STACK_OVERFLOW);
+        }
         SetEvent(writer.done);
     }
     return 0;
@@ -113,7 +129,7 @@ bool writeDump(EXCEPTION_POINTERS *pointers)
 LONG WINAPI onException(EXCEPTION_POINTERS *pointers)
 {
     if (writeDump(pointers))
-        qCCritical(lcPlatform) << "Mini dump is inside";
+        tellAboutDump();
     return previousFilter ? previousFilter(pointers) : EXCEPTION_CONTINUE_SEARCH;
 }
 
@@ -121,7 +137,7 @@ LONG WINAPI onException(EXCEPTION_POINTERS *pointers)
 void onAbort(int)
 {
     if (writeDump(nullptr))
-        qCCritical(lcPlatform) << "Mini dump is inside";
+        tellAboutDump();
 }
 
 WriteFunction findWriteFunction(QString *error)

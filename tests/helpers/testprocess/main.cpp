@@ -114,6 +114,16 @@ void installCrashDump()
         say(error);
 }
 
+// Of a thread whose stack is soon full, and soon written to a dump.
+void overflowSmallStack()
+{
+    constexpr uint kStack = 256 * 1024; // bytes
+    const std::unique_ptr<QThread> thread(QThread::create([] { overflowStack(); }));
+    thread->setStackSize(kStack);
+    thread->start();
+    thread->wait();
+}
+
 [[noreturn]] void block()
 {
     for (;;)
@@ -128,7 +138,7 @@ const QHash<QString, std::function<void()>> &actions()
         {QStringLiteral("--exit"), [] { std::exit(next().toInt()); }},
         {QStringLiteral("--block"), [] { block(); }},
         {QStringLiteral("--crash"), crash},
-        {QStringLiteral("--overflow-stack"), [] { overflowStack(); }},
+        {QStringLiteral("--overflow-stack"), overflowSmallStack},
         {QStringLiteral("--ignore-terminate"), [] { std::signal(SIGTERM, SIG_IGN); }},
         {QStringLiteral("--raise"), [] { std::raise(next().toInt()); }},
         {QStringLiteral("--run"), [] { startChild(std::make_unique<QProcess>()); }},
