@@ -54,7 +54,7 @@ if [ "$installer" = yes ]; then
         find . -type f -printf 'Delete "$INSTDIR\\%P"\n' | tr / '\\'
         find . -mindepth 1 -depth -type d -printf 'RMDir "$INSTDIR\\%P"\n' | tr / '\\'
     ) >"$build/installed-files.nsh"
-    makensis -V2 -DVERSION="$version" -DSOURCE="$build/$name" \
+    makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DSOURCE="$build/$name" \
         -DFILELIST="$build/installed-files.nsh" \
         -DOUTPUT="$build/velmora-$version-setup.exe" "$top/packaging/windows/installer.nsi"
     echo "Made build/windows/velmora-$version-setup.exe"

@@ -7,6 +7,7 @@ cross_packages=(
     g++-mingw-w64-x86-64-posix
     libz-mingw-w64-dev
     nasm
+    qttranslations5-l10n
     zip
 )
 

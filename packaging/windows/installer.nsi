@@ -11,6 +11,7 @@ SetCompressor /SOLID lzma
 
 !include MUI2.nsh
 !include FileFunc.nsh
+!include LogicLib.nsh
 
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Velmora"
 !define PROGRAM_KEY "Software\Corvel\Corvel Velmora"
@@ -50,7 +51,48 @@ VIAddVersionKey "LegalCopyright" "GNU General Public License, version 3 or later
 !insertmacro MUI_LANGUAGE "Japanese"
 !insertmacro MUI_LANGUAGE "SimpChinese"
 
+LangString CLOSE_FIRST ${LANG_ENGLISH} "Velmora is running. Close it, and then try again."
+LangString CLOSE_FIRST ${LANG_GERMAN} "Velmora läuft noch. Schließen Sie das Programm und versuchen Sie es dann noch einmal."
+LangString CLOSE_FIRST ${LANG_FRENCH} "Velmora est en cours d'exécution. Fermez-le, puis réessayez."
+LangString CLOSE_FIRST ${LANG_SPANISH} "Velmora está en ejecución. Ciérrelo y vuelva a intentarlo."
+LangString CLOSE_FIRST ${LANG_ITALIAN} "Velmora è in esecuzione. Chiuderlo e riprovare."
+LangString CLOSE_FIRST ${LANG_POLISH} "Program Velmora jest uruchomiony. Zamknij go i spróbuj ponownie."
+LangString CLOSE_FIRST ${LANG_RUSSIAN} "Программа Velmora запущена. Закройте её и повторите попытку."
+LangString CLOSE_FIRST ${LANG_JAPANESE} "Velmora が実行中です。終了してから、もう一度お試しください。"
+LangString CLOSE_FIRST ${LANG_SIMPCHINESE} "Velmora 正在运行。请先关闭它，然后重试。"
+
+; A program that runs cannot be replaced or deleted: its file does not open for writing. Waits until
+; the user has closed it, or gives up.
+!macro WAIT_UNTIL_CLOSED FOLDER
+  ${Do}
+    ClearErrors
+    ${IfNot} ${FileExists} "${FOLDER}\velmora.exe"
+      ${ExitDo}
+    ${EndIf}
+    FileOpen $0 "${FOLDER}\velmora.exe" a
+    ${IfNot} ${Errors}
+      FileClose $0
+      ${ExitDo}
+    ${EndIf}
+    ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(CLOSE_FIRST)" /SD IDCANCEL IDCANCEL`
+      Abort "$(CLOSE_FIRST)"
+    ${EndIf}
+  ${Loop}
+!macroend
+
 Section
+  ; Files that this version has no more must not stay, wherever the one before was installed.
+  ReadRegStr $1 HKCU "${UNINSTALL_KEY}" "InstallLocation"
+  ${If} $1 != ""
+  ${AndIf} ${FileExists} "$1\uninstall.exe"
+    !insertmacro WAIT_UNTIL_CLOSED "$1"
+    ; The last argument has it run in its place instead of from a copy, so that its end is waited for.
+    ExecWait '"$1\uninstall.exe" /S _?=$1'
+    Delete "$1\uninstall.exe"
+    RMDir "$1"
+  ${EndIf}
+  !insertmacro WAIT_UNTIL_CLOSED "$INSTDIR"
+
   SetOutPath "$INSTDIR"
   File /r "${SOURCE}/*"
   CreateDirectory "$SMPROGRAMS\Velmora"
@@ -83,6 +125,7 @@ SectionEnd
 
 ; Settings, history and videos are the user's and stay.
 Section "Uninstall"
+  !insertmacro WAIT_UNTIL_CLOSED "$INSTDIR"
   !include "${FILELIST}"
   Delete "$INSTDIR\uninstall.exe"
   RMDir "$INSTDIR"
