@@ -209,7 +209,7 @@ void QTableViewEx::paintEmptyState()
     int y = area.top();
     if (picture.height() > 0 && picture.height() + kGap + text.height() <= area.height()) {
         y += (area.height() - picture.height() - kGap - text.height()) / 2;
-        painter.drawPixmap(area.left() + (area.width() - picture.width()) / 2, y, m_emptyPicture);
+        painter.drawPixmap((viewport()->width() - picture.width()) / 2, y, m_emptyPicture);
         y += picture.height() + kGap;
     } else {
         y += std::max(0, (area.height() - text.height()) / 2);

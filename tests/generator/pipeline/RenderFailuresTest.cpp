@@ -187,8 +187,10 @@ private slots:
     // As when Ctrl-C in a terminal ends the encoder first.
     void anEncoderThatEndsWithTheProgramIsNoFailure()
     {
-        if (QSysInfo::productType() == QLatin1String("windows"))
+        if (QSysInfo::productType() == QLatin1String("windows")) {
+            CacheSweeper::sweepAll(m_fixture.cacheFolder()); // no render does it here
             QSKIP("There, no process can be interrupted alone.");
+        }
         const QString mark = m_fixture.path(QStringLiteral("interrupted"));
         fakeEncoder(2, QStringLiteral("pid|%1|hang").arg(mark));
         const auto termination = createTerminationWatcher([] {});
