@@ -9,6 +9,7 @@
 #include "generator/worker/WorkerProtocol.h"
 #include "platform/FileNames.h"
 #include "platform/ImageFormats.h"
+#include "platform/MemoryArenas.h"
 #include "platform/StandardOutput.h"
 #include "platform/WindowlessPlatform.h"
 #include "programs/velmoratool/HelpText.h"
@@ -56,6 +57,7 @@ int dispatch(const QStringList &arguments, const velmora::AppSettings &settings)
 
 int main(int argc, char *argv[])
 {
+    velmora::shareFreeMemory();
     velmora::StandardOutput::ensureOpen();
     velmora::FileNames::allowAllLetters();
     velmora::applyIdentity();
