@@ -39,9 +39,11 @@ run_tests() {
     rm -f "$results"
     (
         cd "build/$1"
-        "${test_wrapper[@]}" ctest --output-on-failure -j2 -R "$2" --output-junit "$results"
+        "${test_wrapper[@]}" ctest -j2 -R "$2" --output-junit "$results" \
+            --test-output-size-failed 10000000
     ) || status=$?
     [ -f "$results" ] || return 1
+    packaging/show_failures.py "$results" || tail -n 200 "build/$1/Testing/Temporary/LastTest.log"
     # A check that is left out should be known to whoever reads the figures.
     sed -n 's/^-- \(Left out: \)/\1/p' "build/$1.configure.log"
     sed -n 's/^SKIP *: /Left out: /p; s/^ok [0-9]* - \(.*\) # SKIP/Left out: \1/p' \

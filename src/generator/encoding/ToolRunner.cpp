@@ -66,6 +66,10 @@ ToolRunner::ToolRunner(const std::atomic_bool *cancelled, ErrorOutput onError)
 ToolResult ToolRunner::run(const QString &program, const QStringList &arguments) const
 {
     ToolResult result;
+    // A short program would be done before it is looked at for the first time.
+    result.cancelled = isCancelled();
+    if (result.cancelled)
+        return result;
     const std::unique_ptr<QProcess> process =
         ProcessTree::createProcess(ProcessTree::Group::Inherited);
     process->setWorkingDirectory(QCoreApplication::applicationDirPath());
@@ -93,9 +97,14 @@ ToolResult ToolRunner::run(const QString &program, const QStringList &arguments)
     return result;
 }
 
+bool ToolRunner::isCancelled() const
+{
+    return m_cancelled && m_cancelled->load();
+}
+
 bool ToolRunner::shouldEnd(qint64 elapsed, ToolResult &result) const
 {
-    result.cancelled = m_cancelled && m_cancelled->load();
+    result.cancelled = isCancelled();
     const bool late = m_timeout >= 0 && elapsed > m_timeout;
     result.crashed = late;
     return result.cancelled || late;

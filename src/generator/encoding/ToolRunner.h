@@ -34,7 +34,8 @@ public:
     /// Called on the running thread with each new piece of standard error.
     using ErrorOutput = std::function<void(const QByteArray &)>;
 
-    /// @p cancelled is polled while a program runs; once true the program is ended.
+    /// @p cancelled is polled while a program runs; once true the program is ended, and no further
+    /// one is started.
     explicit ToolRunner(const std::atomic_bool *cancelled = nullptr, ErrorOutput onError = {});
 
     /// Programs that run longer than this are ended and count as crashed; -1 (the default) waits
@@ -47,6 +48,7 @@ public:
     ToolResult run(const QString &program, const QStringList &arguments) const;
 
 private:
+    bool isCancelled() const;
     bool shouldEnd(qint64 elapsed, ToolResult &result) const;
     void drain(QProcess &process, ToolResult &result) const;
 

@@ -70,7 +70,7 @@ ToolResult VideoUtil::runEncoder(const QStringList &arguments, bool feedProgress
     }
     const ToolResult result =
         ToolRunner(&m_context.cancelled, onError).run(m_context.encoder, arguments);
-    if (!result.started)
+    if (!result.started && !result.cancelled)
         qCCritical(generatorLog) << "Failed to start ffmpeg proc";
     printDebugInfo(result);
     return result;

@@ -88,6 +88,9 @@ void CreatePanel::retranslate()
 void CreatePanel::setObstacle(const QString &reason)
 {
     m_obstacle = reason;
+    // What is on its way may arrive before the preparations end, and would not be in the video.
+    if (m_preparing && !reason.isEmpty())
+        endPreparations();
     updateCreateButton();
 }
 
@@ -205,8 +208,11 @@ void CreatePanel::on_btnCreate_clicked()
 void CreatePanel::onOutputLookedAt(const QString &name, const QString &output,
                                    const OutputCheck::Finding &finding)
 {
-    // Something may have been added while the disk was asked; the button tells of it now.
-    if (!m_obstacle.isEmpty() || !OutputCheck::mayWrite(this, output, finding)) {
+    const int number = m_preparations;
+    const bool mayWrite = OutputCheck::mayWrite(this, output, finding);
+    if (number != m_preparations)
+        return; // They have been ended while the user was asked.
+    if (!mayWrite) {
         endPreparations();
         return;
     }
@@ -224,13 +230,12 @@ void CreatePanel::onOutputLookedAt(const QString &name, const QString &output,
 void CreatePanel::onRequestWritten(const QString &error)
 {
     endPreparations();
-    if (error.isEmpty() && m_obstacle.isEmpty()) {
+    if (error.isEmpty()) {
         start();
         return;
     }
     m_rendered.removeRequest();
-    if (!error.isEmpty())
-        MessageDialog::inform(this, tr("The video cannot be made"), error);
+    MessageDialog::inform(this, tr("The video cannot be made"), error);
 }
 
 void CreatePanel::start()

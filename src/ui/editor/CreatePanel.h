@@ -70,7 +70,7 @@ private:
     void connectComposer();
     bool canBeGenerated() const;
     /// Has @p work done off the GUI thread, as a step of the preparations. Its report is dropped
-    /// when another project was set meanwhile.
+    /// when the preparations have been ended meanwhile.
     void prepare(const TaskThread::Work &work);
     void endPreparations();
     void onOutputLookedAt(const QString &name, const QString &output,

@@ -118,6 +118,18 @@ private slots:
         QVERIFY(!result.ok());
     }
 
+    void startsNothingOnceCancelled()
+    {
+        const QTemporaryDir folder;
+        const QString mark = folder.filePath(QStringLiteral("running"));
+        const std::atomic_bool cancelled{true};
+        const ToolResult result =
+            ToolRunner(&cancelled).run(kTool, {QStringLiteral("touch"), mark});
+        QVERIFY(result.cancelled);
+        QVERIFY(!result.ok());
+        QVERIFY(!QFileInfo::exists(mark));
+    }
+
     void timeoutEndsAHangingProgram()
     {
         ToolRunner runner;
