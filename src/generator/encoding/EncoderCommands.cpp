@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/encoding/EncoderCommands.h"
 
+#include <QRegularExpression>
+
 namespace velmora
 {
 
@@ -25,6 +27,14 @@ QStringList stillInput(const QString &imagesFolder, const QString &prefix, qint6
         arguments << QStringLiteral("-pattern_type") << QStringLiteral("none");
     return arguments << QStringLiteral("-i") << file << QStringLiteral("-t")
                      << EncoderOptions::seconds(duration);
+}
+
+/// For an input that is only copied. Otherwise the first frame of every file is decoded to look at,
+/// which takes several times as long as the copying.
+QStringList withoutDecoder()
+{
+    // No decoder has this name.
+    return {QStringLiteral("-codec_whitelist"), QStringLiteral("none")};
 }
 
 QStringList sequenceInput(const QString &imagesFolder, const QString &prefix, int frames,
@@ -77,17 +87,29 @@ QStringList EncoderCommands::join(const QString &listFile)
             QStringLiteral("-c"), QStringLiteral("copy"),   QStringLiteral("-y")};
 }
 
+QStringList EncoderCommands::joinPictures(const QString &listFile)
+{
+    return withoutDecoder() + join(listFile);
+}
+
+QByteArray EncoderCommands::withoutDenials(const QByteArray &errors)
+{
+    static const QRegularExpression denial(
+        QStringLiteral("(\\[[^\\]]*\\] )*Codec \\([^)]*\\) not on whitelist [^\n]*\n"
+                       "(\\s*Last message repeated \\d+ times\r?\n)?"));
+    return QString::fromUtf8(errors).remove(denial).toUtf8();
+}
+
 QStringList EncoderCommands::multiplex(const QString &videoFile, const QString &soundFile,
                                        qint64 length, const OutputFormat &format)
 {
-    QStringList arguments{QStringLiteral("-i"),        videoFile,
-                          QStringLiteral("-i"),        soundFile,
-                          QStringLiteral("-y"),        QStringLiteral("-map_metadata"),
-                          QStringLiteral("-1"),        QStringLiteral("-filter_complex"),
-                          QStringLiteral("[1:0]apad"), QStringLiteral("-map"),
-                          QStringLiteral("0:v:0"),     QStringLiteral("-vcodec"),
-                          QStringLiteral("copy")};
-    arguments << EncoderOptions::soundOptions(format.extension, format.profile)
+    QStringList arguments = withoutDecoder();
+    arguments << QStringLiteral("-i") << videoFile << QStringLiteral("-i") << soundFile
+              << QStringLiteral("-y") << QStringLiteral("-map_metadata") << QStringLiteral("-1")
+              << QStringLiteral("-filter_complex") << QStringLiteral("[1:0]apad")
+              << QStringLiteral("-map") << QStringLiteral("0:v:0") << QStringLiteral("-vcodec")
+              << QStringLiteral("copy")
+              << EncoderOptions::soundOptions(format.extension, format.profile)
               << QStringLiteral("-shortest")
               // "-shortest" alone lets the padded sound run on by up to a third of a second.
               << QStringLiteral("-t") << EncoderOptions::seconds(length)
@@ -97,13 +119,12 @@ QStringList EncoderCommands::multiplex(const QString &videoFile, const QString &
 
 QStringList EncoderCommands::pictureOnly(const QString &videoFile, const OutputFormat &format)
 {
-    QStringList arguments{QStringLiteral("-i"),    videoFile,
-                          QStringLiteral("-y"),    QStringLiteral("-map_metadata"),
-                          QStringLiteral("-1"),    QStringLiteral("-map"),
-                          QStringLiteral("0:v:0"), QStringLiteral("-vcodec"),
-                          QStringLiteral("copy")};
-    arguments << EncoderOptions::containerOptions(format.extension, format.profile);
-    return arguments;
+    return withoutDecoder() + QStringList{QStringLiteral("-i"),    videoFile,
+                                          QStringLiteral("-y"),    QStringLiteral("-map_metadata"),
+                                          QStringLiteral("-1"),    QStringLiteral("-map"),
+                                          QStringLiteral("0:v:0"), QStringLiteral("-vcodec"),
+                                          QStringLiteral("copy")} +
+           EncoderOptions::containerOptions(format.extension, format.profile);
 }
 
 } // namespace velmora

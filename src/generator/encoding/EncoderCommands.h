@@ -25,7 +25,13 @@ namespace EncoderCommands
 /// @p prefix as "_p3"; @p frames is 1 for a still, in which nothing moves in any case.
 QStringList segment(const QString &imagesFolder, const QString &prefix, int frames, qint64 duration,
                     const OutputFormat &format, Motion motion = Motion::Any);
+/// Joins the files of a list for FFmpeg's concat demuxer.
 QStringList join(const QString &listFile);
+/// The same for parts of a video.
+QStringList joinPictures(const QString &listFile);
+/// @p errors without what the encoder says of each decoder that these commands deny it, since what
+/// they copy need not be looked at.
+QByteArray withoutDenials(const QByteArray &errors);
 QStringList multiplex(const QString &videoFile, const QString &soundFile, qint64 length,
                       const OutputFormat &format);
 QStringList pictureOnly(const QString &videoFile, const OutputFormat &format);

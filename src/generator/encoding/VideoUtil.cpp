@@ -68,8 +68,9 @@ ToolResult VideoUtil::runEncoder(const QStringList &arguments, bool feedProgress
             m_context.encoderOutput = m_context.encoderOutput.right(kKeptProgress);
         };
     }
-    const ToolResult result =
+    ToolResult result =
         ToolRunner(&m_context.cancelled, onError).run(m_context.encoder, arguments);
+    result.standardError = EncoderCommands::withoutDenials(result.standardError);
     if (!result.started && !result.cancelled)
         qCCritical(generatorLog) << "Failed to start ffmpeg proc";
     printDebugInfo(result);
@@ -162,7 +163,7 @@ bool VideoUtil::join(const QStringList &files, const QString &listFile, const QS
     QString error;
     if (!ConcatList::write(listFile, files, &error))
         return fail(Failure::Other, error, QStringLiteral("No list of parts: %1").arg(listFile));
-    return executeUtility(EncoderCommands::join(listFile), outputFile, false);
+    return executeUtility(EncoderCommands::joinPictures(listFile), outputFile, false);
 }
 
 bool VideoUtil::multiplex(const QString &videoFile, const QString &soundFile, qint64 length,

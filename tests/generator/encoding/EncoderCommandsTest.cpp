@@ -98,12 +98,38 @@ private slots:
                  QStringLiteral("-f concat -safe 0 -i /c/merge-files.txt -c copy -y"));
     }
 
+    void denialsAreTakenOut_data()
+    {
+        QTest::addColumn<QByteArray>("errors");
+        QTest::addColumn<QByteArray>("rest");
+        const auto row = [](const char *name, const char *errors, const char *rest) {
+            QTest::newRow(name) << QByteArray(errors) << QByteArray(rest);
+        };
+        // As ffmpeg 5.1 writes them.
+        row("repeated",
+            "[h264 @ 0x55e7] Codec (h264) not on whitelist 'none'\n"
+            "    Last message repeated 1 times\n"
+            "/c/total.mp4: No space left on device\n",
+            "/c/total.mp4: No space left on device\n");
+        row("between progress",
+            "frame=    1 fps=0.0\r[vp8 @ 0x5] Codec (vp8) not on whitelist 'none'\nframe=   75\n",
+            "frame=    1 fps=0.0\rframe=   75\n");
+        row("something else repeated", "[mov @ 0x5] damaged\n    Last message repeated 3 times\n",
+            "[mov @ 0x5] damaged\n    Last message repeated 3 times\n");
+    }
+    void denialsAreTakenOut()
+    {
+        QFETCH(QByteArray, errors);
+        QTEST(EncoderCommands::withoutDenials(errors), "rest");
+    }
+
     void multiplexCopiesThePicture()
     {
         const QString line = joined(EncoderCommands::multiplex(
             QStringLiteral("/v.mkv"), QStringLiteral("/a.wav"), 65250, kMkv));
-        QCOMPARE(line, QStringLiteral("-i /v.mkv -i /a.wav -y -map_metadata -1 -filter_complex "
-                                      "[1:0]apad -map 0:v:0 -vcodec copy -ac 2 -ar 44100 "
+        QCOMPARE(line, QStringLiteral("-codec_whitelist none -i /v.mkv -i /a.wav -y "
+                                      "-map_metadata -1 -filter_complex [1:0]apad -map 0:v:0 "
+                                      "-vcodec copy -ac 2 -ar 44100 "
                                       "-shortest -t 65.250"));
     }
 

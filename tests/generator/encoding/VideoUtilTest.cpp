@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/encoding/VideoUtil.h"
 #include "generator/encoding/EncoderLocator.h"
+#include "helpers/LogCapture.h"
 #include "helpers/VideoProbe.h"
 
 #include <QDir>
@@ -179,6 +180,19 @@ private slots:
         QVERIFY(!util.join({segment, video("missing")}, m_folder->filePath(QStringLiteral("l.txt")),
                            video("c")));
         QVERIFY(!QFileInfo::exists(video("c")));
+    }
+
+    void failedJoinTellsWhy()
+    {
+        VideoUtil util(*m_context);
+        makeFrames(util, QStringLiteral("_i1"), 1);
+        const QString segment = encode(util, QStringLiteral("_i1"), 1, 1000);
+        const LogCapture log;
+        QVERIFY(!util.join({segment, segment}, m_folder->filePath(QStringLiteral("l.txt")),
+                           m_folder->filePath(QStringLiteral("none/c.mkv"))));
+        QVERIFY2(util.errorText().contains(QStringLiteral("No such file or directory")),
+                 qPrintable(util.errorText()));
+        QVERIFY(log.lines().filter(QStringLiteral("not on whitelist")).isEmpty());
     }
 
     void failureKeepsTheOlderFile_data()
