@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Log.h"
-#include "app/Identity.h"
 #include "app/Paths.h"
 #include "helpers/TestProcess.h"
 
@@ -43,11 +42,11 @@ private slots:
     {
         QTest::addColumn<int>("type");
         QTest::addColumn<QString>("level");
-        QTest::newRow("debug") << int(QtDebugMsg) << QStringLiteral("DEBUG");
-        QTest::newRow("info") << int(QtInfoMsg) << QStringLiteral("INFO");
-        QTest::newRow("warning") << int(QtWarningMsg) << QStringLiteral("WARNING");
-        QTest::newRow("critical") << int(QtCriticalMsg) << QStringLiteral("ERROR");
-        QTest::newRow("fatal") << int(QtFatalMsg) << QStringLiteral("ERROR");
+        QTest::newRow("debug") << int(QtDebugMsg) << "DEBUG";
+        QTest::newRow("info") << int(QtInfoMsg) << "INFO";
+        QTest::newRow("warning") << int(QtWarningMsg) << "WARNING";
+        QTest::newRow("critical") << int(QtCriticalMsg) << "ERROR";
+        QTest::newRow("fatal") << int(QtFatalMsg) << "ERROR";
     }
 
     void lineForm()
@@ -57,15 +56,12 @@ private slots:
         const QMessageLogContext context("/some/folder/File.cpp", 12, "f()", "velmora.x");
         const QString text = QStringLiteral("50%1 of %2 \u00fc");
         const QString line = Log::formatLine(static_cast<QtMsgType>(type), context, text);
-        const QString pattern =
-            kLine.arg(QString::number(QCoreApplication::applicationPid()),
-                      QRegularExpression::escape(programVersion()), level,
-                      QRegularExpression::escape(QStringLiteral("velmora.x(File.cpp:12)")),
-                      QRegularExpression::escape(text));
+        const QString pattern = kLine.arg(
+            QString::number(QCoreApplication::applicationPid()), QStringLiteral("3\\.4\\.6"), level,
+            QStringLiteral("velmora\\.x\\(File\\.cpp:12\\)"), QRegularExpression::escape(text));
         QVERIFY2(
             QRegularExpression(QRegularExpression::anchoredPattern(pattern)).match(line).hasMatch(),
             qPrintable(line));
-        QCOMPARE(programVersion(), QStringLiteral("3.4.6"));
     }
 
     void contextHasNoFolder()
@@ -81,30 +77,30 @@ private slots:
     void severalLines_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("expected");
-        QTest::newRow("one") << QStringLiteral("a") << QStringList{QStringLiteral("a")};
-        QTest::newRow("empty") << QString() << QStringList{QString()};
-        QTest::newRow("unix") << QStringLiteral("a\nb\n")
-                              << QStringList{QStringLiteral("a"), QStringLiteral("b")};
-        QTest::newRow("windows") << QStringLiteral("a\r\n\r\nb")
-                                 << QStringList{QStringLiteral("a"), QString(),
-                                                QStringLiteral("b")};
-        QTest::newRow("progress") << QStringLiteral("frame 1\rframe 2")
-                                  << QStringList{QStringLiteral("frame 1"),
-                                                 QStringLiteral("frame 2")};
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("one") << "a"
+                             << "a";
+        QTest::newRow("empty") << ""
+                               << "";
+        QTest::newRow("unix") << "a\nb\n"
+                              << "a|b";
+        QTest::newRow("windows") << "a\r\n\r\nb"
+                                 << "a||b";
+        QTest::newRow("progress") << "frame 1\rframe 2"
+                                  << "frame 1|frame 2";
     }
 
     void severalLines()
     {
         QFETCH(QString, text);
-        QFETCH(QStringList, expected);
+        QFETCH(QString, expected);
         const QMessageLogContext context("F.cpp", 1, nullptr, "c");
-        const QString all = Log::formatLine(QtInfoMsg, context, text);
-        QStringList lines = all.split(QLatin1Char('\n'));
+        QStringList lines = Log::formatLine(QtInfoMsg, context, text).split(QLatin1Char('\n'));
         QCOMPARE(lines.takeLast(), QString());
-        QCOMPARE(lines.size(), expected.size());
-        for (int i = 0; i < lines.size(); ++i)
-            QVERIFY(lines.at(i).endsWith(QStringLiteral("[INFO] c(F.cpp:1): ") + expected.at(i)));
+        const QString start = QStringLiteral("[INFO] c(F.cpp:1): ");
+        for (QString &line : lines)
+            line.remove(0, line.indexOf(start) + start.size());
+        QCOMPARE(lines.join(QLatin1Char('|')), expected);
     }
 
     void writesToTodaysFile()

@@ -11,7 +11,6 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
-#include <QToolButton>
 
 using namespace velmora;
 
@@ -51,42 +50,32 @@ class MessageDialogTest : public QObject
 private slots:
     void initTestCase() { Theme::install(*qApp); }
 
-    void buttonsAnswer_data()
+    void answers_data()
     {
-        QTest::addColumn<int>("button");
-        for (int i = 0; i < 3; ++i)
-            QTest::addRow("%d", i) << i;
+        QTest::addColumn<QString>("clicked");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("answer");
+        const QString none;
+        QTest::newRow("first button") << "button0" << 0 << 0;
+        QTest::newRow("second button") << "button1" << 0 << 1;
+        QTest::newRow("third button") << "button2" << 0 << 2;
+        QTest::newRow("cross") << "btnCloseTop" << 0 << 2;
+        QTest::newRow("enter") << none << int(Qt::Key_Return) << 1;
+        QTest::newRow("escape") << none << int(Qt::Key_Escape) << 2;
     }
 
-    void buttonsAnswer()
+    void answers()
     {
-        QFETCH(int, button);
-        const auto answer = ask([button](MessageDialog &dialog) {
-            QTest::mouseClick(
-                dialog.findChild<QPushButton *>(QStringLiteral("button%1").arg(button)),
-                Qt::LeftButton);
+        QFETCH(QString, clicked);
+        QFETCH(int, key);
+        const auto answer = ask([&](MessageDialog &dialog) {
+            if (clicked.isEmpty())
+                QTest::keyClick(&dialog, static_cast<Qt::Key>(key));
+            else
+                QTest::mouseClick(dialog.findChild<QAbstractButton *>(clicked), Qt::LeftButton);
         });
-        QCOMPARE(answer.button, button);
+        QTEST(answer.button, "answer");
         QVERIFY(!answer.checked);
-    }
-
-    void enterChoosesTheDefault()
-    {
-        const auto answer =
-            ask([](MessageDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-        QCOMPARE(answer.button, 1);
-    }
-
-    void escapeAndCrossCancel()
-    {
-        const auto escaped =
-            ask([](MessageDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-        QCOMPARE(escaped.button, 2);
-        const auto closed = ask([](MessageDialog &dialog) {
-            QTest::mouseClick(dialog.findChild<QToolButton *>(QStringLiteral("btnCloseTop")),
-                              Qt::LeftButton);
-        });
-        QCOMPARE(closed.button, 2);
     }
 
     void checkIsReported()

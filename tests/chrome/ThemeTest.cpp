@@ -68,55 +68,17 @@ private slots:
     void namedIconExists_data()
     {
         QTest::addColumn<QString>("name");
-        for (const char *name : {"add-photo",
-                                 "add-folder",
-                                 "history",
-                                 "settings",
-                                 "help",
-                                 "back",
-                                 "up",
-                                 "down",
-                                 "shuffle",
-                                 "AB-down",
-                                 "AB-up",
-                                 "rotate",
-                                 "delete",
-                                 "play",
-                                 "pause",
-                                 "stop",
-                                 "repeat",
-                                 "mute",
-                                 "volume",
-                                 "fullscreen",
-                                 "clear",
-                                 "audio",
-                                 "audio-play",
-                                 "audio-play-selected",
-                                 "audio-st",
-                                 "audio-st-selected",
-                                 "audio-del",
-                                 "audio-del-selected",
-                                 "audio-toogle",
-                                 "audio-toogle-selected",
-                                 "textposition",
-                                 "arrow-up",
-                                 "arrow-down",
-                                 "burgerdrop",
-                                 "oauth2_connected",
-                                 "oauth2_not_connected",
-                                 "velmora",
-                                 "window-minimise",
-                                 "window-maximise",
-                                 "window-restore",
-                                 "window-close",
-                                 "service-video",
-                                 "service-drive",
-                                 "service-box",
-                                 "disc",
-                                 "folder-open",
-                                 "preview",
-                                 "check"})
-            QTest::newRow(name) << QString::fromLatin1(name);
+        const QByteArray names =
+            "add-photo add-folder history settings help back up down shuffle AB-down "
+            "AB-up rotate delete play pause stop repeat mute volume fullscreen clear "
+            "audio audio-play audio-play-selected audio-st audio-st-selected "
+            "audio-del audio-del-selected audio-toogle audio-toogle-selected "
+            "textposition arrow-up arrow-down burgerdrop oauth2_connected "
+            "oauth2_not_connected velmora window-minimise window-maximise "
+            "window-restore window-close service-video service-drive service-box disc "
+            "folder-open preview check";
+        for (const QByteArray &name : names.split(' '))
+            QTest::newRow(name.constData()) << QString::fromLatin1(name);
     }
 
     void namedIconExists()

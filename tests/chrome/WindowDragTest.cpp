@@ -177,13 +177,14 @@ private:
                    {QStringLiteral("getwindowgeometry"), QString::number(m_window->winId())});
         return tool.waitForFinished() ? tool.readAllStandardOutput() : QByteArray();
     }
+
     QString pressAt(QPoint place) const
     {
         const QPoint at = m_window->mapToGlobal(place);
         return QStringLiteral("mousemove %1 %2 mousedown 1").arg(at.x()).arg(at.y());
     }
-    /// Presses there, moves a little and waits until this program has handled it.
 
+    /// Presses there, moves a little and waits until this program has handled it.
     void beginDrag(QPoint place, int way)
     {
         const QPoint at = m_window->mapToGlobal(place);
@@ -191,7 +192,13 @@ private:
         QTRY_COMPARE(m_seen, at + QPoint(way, way));
     }
 
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::MouseMove)
+            m_seen = static_cast<QMouseEvent *>(event)->globalPos();
+        m_isPressed |= event->type() == QEvent::MouseButtonPress;
+        return QObject::eventFilter(watched, event);
+    }
 
     QByteArray geometryWithPointerAt(int x, int y) const
     {
