@@ -30,7 +30,6 @@ QVector<bool> flagsOf(const AppSettings &settings)
 class AppSettingsTest : public QObject
 {
     Q_OBJECT
-
 private slots:
     void defaults()
     {
@@ -118,18 +117,17 @@ private slots:
         QTest::addColumn<QString>("profile");
         const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
         const QString system = loaded(QByteArray()).locale;
-        QTest::newRow("stored") << QByteArray("folder=/a b\nlocale=de\noutputProfile=everywhere")
-                                << "/a b"
-                                << "de"
-                                << "everywhere";
-        QTest::newRow("region") << QByteArray("locale=pt_BR") << desktop << "pt_BR"
-                                << "original";
-        QTest::newRow("empty") << QByteArray("folder=\nlocale=\noutputProfile=") << desktop
-                               << system << "original";
-        QTest::newRow("UTF-8 and a comma") << QByteArray("folder=/home/m\xc3\xbcller,x")
-                                           << "/home/m\xc3\xbcller,x" << system << "original";
-        QTest::newRow("path as locale")
-            << QByteArray("locale=../../x\noutputProfile=best") << desktop << system << "original";
+        const auto row = [](const char *lines, const QString &folder, const QString &locale,
+                            const char *profile) {
+            QTest::newRow(lines) << QByteArray(lines) << folder << locale << profile;
+        };
+        row("folder=/a b\nlocale=de\noutputProfile=everywhere", QStringLiteral("/a b"),
+            QStringLiteral("de"), "everywhere");
+        row("locale=pt_BR", desktop, QStringLiteral("pt_BR"), "original");
+        row("folder=\nlocale=\noutputProfile=", desktop, system, "original");
+        row("folder=/home/m\xc3\xbcller,x", QStringLiteral("/home/m\u00fcller,x"), system,
+            "original");
+        row("locale=../../x\noutputProfile=best", desktop, system, "original");
     }
 
     void texts()

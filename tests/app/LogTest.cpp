@@ -28,7 +28,6 @@ const QString kLine = QStringLiteral(R"(\[\d\d:\d\d:\d\d\]\[%1:[0-9a-f]+\]\[%2\]
 class LogTest : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init()
     {
@@ -78,16 +77,14 @@ private slots:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("one") << "a"
-                             << "a";
-        QTest::newRow("empty") << ""
-                               << "";
-        QTest::newRow("unix") << "a\nb\n"
-                              << "a|b";
-        QTest::newRow("windows") << "a\r\n\r\nb"
-                                 << "a||b";
-        QTest::newRow("progress") << "frame 1\rframe 2"
-                                  << "frame 1|frame 2";
+        const auto row = [](const char *name, const char *text, const char *expected) {
+            QTest::newRow(name) << text << expected;
+        };
+        row("one", "a", "a");
+        row("empty", "", "");
+        row("unix", "a\nb\n", "a|b");
+        row("windows", "a\r\n\r\nb", "a||b");
+        row("progress", "frame 1\rframe 2", "frame 1|frame 2");
     }
 
     void severalLines()

@@ -15,7 +15,6 @@ using namespace velmora;
 class ProgramLanguageTest : public QObject
 {
     Q_OBJECT
-
 private slots:
     void initTestCase()
     {
@@ -29,14 +28,11 @@ private slots:
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("locale");
         QTest::addColumn<bool>("translated");
-        QTest::newRow("language") << "qtbase_de"
-                                  << "de" << true;
-        QTest::newRow("country") << "qtbase_de"
-                                 << "de_AT" << true;
-        QTest::newRow("its only country") << "qtbase_zh_CN"
-                                          << "zh" << true;
-        QTest::newRow("another") << "qtbase_de"
-                                 << "xx" << false;
+        const QString german = QStringLiteral("qtbase_de");
+        QTest::newRow("language") << german << "de" << true;
+        QTest::newRow("country") << german << "de_AT" << true;
+        QTest::newRow("its only country") << QStringLiteral("qtbase_zh_CN") << "zh" << true;
+        QTest::newRow("another") << german << "xx" << false;
     }
 
     void textsOfQtFollow()

@@ -51,7 +51,6 @@ const char *const kHarmlessTexts[] = {
 class SecretMaskTest : public QObject
 {
     Q_OBJECT
-
 private slots:
     void masks_data()
     {

@@ -23,7 +23,6 @@ using namespace velmora;
 class MetricSenderTest : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init()
     {

@@ -17,7 +17,6 @@ using namespace velmora;
 class UpdateCheckerTest : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init()
     {

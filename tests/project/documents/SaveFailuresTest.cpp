@@ -99,12 +99,10 @@ private slots:
     {
         QTest::addColumn<QString>("place");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("missing folder") << "missing/a.json"
-                                        << "No such file or directory";
-        QTest::newRow("link into a missing folder") << "link"
-                                                    << "No such file or directory";
-        QTest::newRow("folder") << "folder"
-                                << "Filename refers to a directory";
+        const QString missing = QStringLiteral("No such file or directory");
+        QTest::newRow("missing folder") << "missing/a.json" << missing;
+        QTest::newRow("link into a missing folder") << "link" << missing;
+        QTest::newRow("folder") << "folder" << QStringLiteral("Filename refers to a directory");
     }
 
     void unsuitablePlaces()

@@ -36,8 +36,7 @@ CaptionStyle captionOf(const QString &text, int position, const QColor &backgrou
 
 QString lines(int count)
 {
-    return QStringList(QVector<QString>(count, QStringLiteral("Hlm")).toList())
-        .join(QLatin1Char('\n'));
+    return QStringLiteral("Hlm\n").repeated(count).chopped(1);
 }
 
 /// The rectangle of all pixels that differ from an empty frame.

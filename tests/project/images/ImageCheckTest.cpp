@@ -23,24 +23,15 @@ QByteArray encoded(const char *suffix, const QSize &size)
     return Pictures::bytesOf(file);
 }
 
-/// A GIF with one picture of 64 by 64 pixels, made of LZW codes that are cleared so often that
-/// they keep their first length.
+/// A GIF with one picture of 64 by 64 pixels in four stripes, made of LZW codes of 3 bits that are
+/// cleared after every two pixels, so that they keep this length.
 QByteArray gif()
 {
-    QByteArray bits;
-    const auto add = [&bits](int code) {
-        for (int bit = 0; bit < 3; ++bit)
-            bits += char(code >> bit & 1);
-    };
-    for (int pixel = 0; pixel < 64 * 64; ++pixel) {
-        if (pixel % 2 == 0)
-            add(4);
-        add(pixel / 1024);
-    }
-    add(5);
-    QByteArray data((bits.size() + 7) / 8, '\0');
-    for (int i = 0; i < bits.size(); ++i)
-        data[i / 8] = char(data.at(i / 8) | bits.at(i) << i % 8);
+    QByteArray data;
+    for (const char *pixels :
+         {"040810204080000102", "4c983061c284091326", "942851a2448912254a", "dcb871e3c68d1b376e"})
+        data += QByteArray::fromHex(pixels).repeated(64);
+    data += 5; // the end
 
     QByteArray file = QByteArray::fromHex("474946383961 4000 4000 81 00 00"
                                           "e01010 10c010 1010e0 f0f0f0"
@@ -48,11 +39,9 @@ QByteArray gif()
                                           "2c 0000 0000 4000 4000 00 02");
     for (int start = 0; start < data.size(); start += 255) {
         const QByteArray block = data.mid(start, 255);
-        file += char(block.size());
-        file += block;
+        file += char(block.size()) + block;
     }
-    file += '\0';
-    return file + ';';
+    return file + QByteArray("\0;", 2);
 }
 
 /// A JPEG file with a preview of itself, with an end marker of its own, in front.
