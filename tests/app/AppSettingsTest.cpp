@@ -2,7 +2,6 @@
 #include "app/AppSettings.h"
 
 #include <QFile>
-#include <QLocale>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>

@@ -5,7 +5,6 @@
 #include <QJsonObject>
 #include <QMap>
 #include <QTest>
-#include <QVariant>
 
 using namespace velmora;
 

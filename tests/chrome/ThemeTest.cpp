@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QFontInfo>
 #include <QImageReader>
 #include <QRegularExpression>
 #include <QSet>

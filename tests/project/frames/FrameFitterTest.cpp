@@ -45,6 +45,8 @@ private slots:
         QTest::newRow("no bar of a pixel") << QSize(1600, 900) << odd << QRect(0, 0, 326, 183);
         QTest::newRow("a line stays visible") << QSize(4000, 1) << kFitted << QRect(0, 44, 160, 1);
         QTest::newRow("own size") << QSize(360, 290) << kOwnSize << QRect(-100, -100, 360, 290);
+        const FrameFormat both{{160, 90}, false, false};
+        QTest::newRow("stretched, own size") << QSize(400, 300) << both << QRect(0, 0, 160, 90);
         QTest::newRow("no photo") << QSize() << kFitted << QRect();
         QTest::newRow("no frame") << QSize(4, 3) << FrameFormat{{0, 90}, true, true} << QRect();
     }
@@ -77,8 +79,6 @@ private slots:
         const QRect frame(0, 0, 160, 90);
         QTest::newRow("stretched") << photo << 0 << kStretched << frame << "RGBW";
         QTest::newRow("stretched 90") << photo << 90 << kStretched << frame << "BRWG";
-        const FrameFormat stretchedToo{{160, 90}, false, false};
-        QTest::newRow("stretched, own size") << photo << 0 << stretchedToo << frame << "RGBW";
         QTest::newRow("own") << QSize(40, 30) << 270 << kOwnSize << QRect(65, 25, 30, 40) << "GWRB";
     }
 

@@ -5,7 +5,6 @@
 #include "project/images/Pictures.h"
 
 #include <QImageWriter>
-#include <QSemaphore>
 #include <QTemporaryDir>
 #include <QTest>
 

@@ -3,7 +3,6 @@
 #include "project/slides/ProjectItemFirst.h"
 #include "project/slides/ProjectItemSimple.h"
 
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QTest>
 
