@@ -26,13 +26,13 @@ windows_tests=(
     FrameWriterTest HistoryModelTest HistoryStoreTest HistoryWidgetTest HistoryWriterTest
     ImageCheckTest ImageLoaderTest InputCheckTest LogTest MakeOptionsTest MakeProjectTest
     MediaFileInfoTest MediaSuffixesTest MetricSenderTest Mp3Test OutputTargetTest PhotoFileTest
-    ProcessTreeTest ProgressTest ProgressTextTest ProjectFileTest ProjectNameTest ProjectSlidesTest
-    RemainingTimeTest RenderControlTest RenderPlanTest SecretMaskTest SecretsTest
+    ProcessTreeTest ProgramLanguageTest ProgressTest ProgressTextTest ProjectFileTest ProjectNameTest
+    ProjectSlidesTest RemainingTimeTest RenderControlTest RenderPlanTest SecretMaskTest SecretsTest
     ServicesConfigTest SessionKeyTest SessionValuesTest ShortcutResolverTest SingleInstanceTest
     SlideRendererTest SlideTableModelTest SlideTransitionTest SlidesTest SoundCheckerTest
     SoundPlanTest StandardOutputTest StartMessageTest SystemInfoTest TaskThreadTest
     TerminationWatcherTest ThubnailProviderTest TileGridTest TimelineTest TitleBackgroundTest
-    ToolRunnerTest TransitionTest TransitionTypeTest TranslationsTest UnavailableUploadTest
+    ToolRunnerTest TransitionTest TransitionTypeTest UnavailableUploadTest
     UpdateCheckerTest VelmoraStartTest VelmoratoolTest WavTranscoderTest WavWriterTest
     WindowsBurnTest WorkerProtocolTest WorkerTest
 )

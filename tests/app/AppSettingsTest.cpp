@@ -2,7 +2,6 @@
 #include "app/AppSettings.h"
 
 #include <QFile>
-#include <QLocale>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -10,22 +9,185 @@
 
 using namespace velmora;
 
+namespace
+{
+
+QVector<int> numbersOf(const AppSettings &settings)
+{
+    return {settings.defaultTransition, settings.defaultTime, settings.transitionTime,
+            settings.audioOffset, settings.audioFade};
+}
+
+QVector<bool> flagsOf(const AppSettings &settings)
+{
+    return {settings.scaleToFit, settings.origRatio, settings.speedGeneration, settings.autoUpdates,
+            settings.sendStatistics};
+}
+
+} // namespace
+
 class AppSettingsTest : public QObject
 {
     Q_OBJECT
-
 private slots:
-    void defaults();
-    void unusableNumbers_data();
-    void unusableNumbers();
-    void booleans_data();
-    void booleans();
-    void resolutionRule_data();
-    void resolutionRule();
-    void texts_data();
-    void texts();
-    void saveAndLoad();
-    void saveReportsFailure();
+    void defaults()
+    {
+        const AppSettings settings = loaded(QByteArray());
+        QCOMPARE(numbersOf(settings), (QVector<int>{1, 3, 2, 0, 0}));
+        QCOMPARE(flagsOf(settings), (QVector<bool>{true, true, false, true, false}));
+        QCOMPARE(settings.resolution, QSize(1920, 1080));
+        QCOMPARE(settings.folder,
+                 QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
+        QVERIFY(settings.locale.size() == 2);
+        QCOMPARE(settings.outputProfile, QStringLiteral("original"));
+    }
+
+    void unusableNumbers()
+    {
+        for (const char *value : {"abc", "", "99999999999999999999", "2000000000", "-2000000000",
+                                  "1, 2", "1.5", "@Variant(\\0\\0\\0\\x7f)"}) {
+            QByteArray lines;
+            for (const char *key :
+                 {"defaultTransition", "defaultTime", "transitionTime", "audioOffset", "audioFade"})
+                lines += QByteArray(key) + '=' + value + '\n';
+            QVERIFY2(numbersOf(loaded(lines)) == numbersOf(AppSettings()), value);
+        }
+    }
+
+    void booleans_data()
+    {
+        QTest::addColumn<QByteArray>("value");
+        QTest::addColumn<bool>("whenTrueByDefault");
+        QTest::addColumn<bool>("whenFalseByDefault");
+        QTest::newRow("true") << QByteArray("true") << true << true;
+        QTest::newRow("false") << QByteArray("false") << false << false;
+        QTest::newRow("1") << QByteArray("1") << true << true;
+        QTest::newRow("0") << QByteArray("0") << false << false;
+        QTest::newRow("capitals") << QByteArray("True") << true << true;
+        QTest::newRow("garbage") << QByteArray("maybe") << true << false;
+        QTest::newRow("empty") << QByteArray("") << true << false;
+    }
+
+    void booleans()
+    {
+        QFETCH(QByteArray, value);
+        const AppSettings settings = loaded("scaleToFit=" + value + "\nspeedGeneration=" + value);
+        QTEST(settings.scaleToFit, "whenTrueByDefault");
+        QTEST(settings.speedGeneration, "whenFalseByDefault");
+    }
+
+    void resolutionRule_data()
+    {
+        QTest::addColumn<QByteArray>("stored");
+        QTest::addColumn<QSize>("screen");
+        QTest::addColumn<QSize>("expected");
+        const QSize hd(1920, 1080);
+        QTest::newRow("stored") << QByteArray("800x600") << hd << QSize(800, 600);
+        QTest::newRow("stored, not offered") << QByteArray("1234x567") << hd << QSize(1234, 567);
+        QTest::newRow("zero") << QByteArray("0x0") << QSize(1366, 768) << QSize(1366, 768);
+        QTest::newRow("half zero") << QByteArray("640x0") << hd << hd;
+        QTest::newRow("negative") << QByteArray("-640x480") << hd << hd;
+        QTest::newRow("garbage") << QByteArray("large") << QSize(1280, 800) << QSize(1024, 768);
+        QTest::newRow("capital") << QByteArray("640X480") << hd << hd;
+        QTest::newRow("more text") << QByteArray("640x480x2") << hd << hd;
+        QTest::newRow("huge") << QByteArray("99999x99999") << hd << hd;
+        QTest::newRow("overflow") << QByteArray("4294967936x480") << hd << hd;
+        QTest::newRow("missing") << QByteArray() << QSize(3840, 2160) << QSize(3840, 2160);
+        QTest::newRow("between") << QByteArray() << QSize(2000, 1300) << hd;
+        QTest::newRow("upright screen") << QByteArray() << QSize(1080, 1920) << QSize(1024, 768);
+        QTest::newRow("larger than all") << QByteArray() << QSize(9000, 9000) << QSize(3840, 2160);
+        QTest::newRow("smaller than all") << QByteArray() << QSize(320, 240) << QSize(640, 480);
+        QTest::newRow("no screen") << QByteArray("x") << QSize() << hd;
+    }
+
+    void resolutionRule()
+    {
+        QFETCH(QByteArray, stored);
+        QFETCH(QSize, screen);
+        const QByteArray line = stored.isNull() ? QByteArray() : "resolution=" + stored;
+        QTEST(loaded(line, screen).resolution, "expected");
+    }
+
+    void texts_data()
+    {
+        QTest::addColumn<QByteArray>("lines");
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("profile");
+        const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
+        const QString system = loaded(QByteArray()).locale;
+        const auto row = [](const char *lines, const QString &folder, const QString &locale,
+                            const char *profile) {
+            QTest::newRow(lines) << QByteArray(lines) << folder << locale << profile;
+        };
+        row("folder=/a b\nlocale=de\noutputProfile=everywhere", QStringLiteral("/a b"),
+            QStringLiteral("de"), "everywhere");
+        row("locale=pt_BR", desktop, QStringLiteral("pt_BR"), "original");
+        row("folder=\nlocale=\noutputProfile=", desktop, system, "original");
+        row("folder=/home/m\xc3\xbcller,x", QStringLiteral("/home/m\u00fcller,x"), system,
+            "original");
+        row("locale=../../x\noutputProfile=best", desktop, system, "original");
+    }
+
+    void texts()
+    {
+        QFETCH(QByteArray, lines);
+        const AppSettings settings = loaded(lines);
+        QTEST(settings.folder, "folder");
+        QTEST(settings.locale, "locale");
+        QTEST(settings.outputProfile, "profile");
+    }
+
+    void saveAndLoad()
+    {
+        AppSettings settings;
+        settings.defaultTransition = 28;
+        settings.defaultTime = 20;
+        settings.transitionTime = 3;
+        settings.audioOffset = -10;
+        settings.audioFade = 5;
+        settings.scaleToFit = false;
+        settings.origRatio = false;
+        settings.speedGeneration = true;
+        settings.resolution = {1366, 768};
+        settings.folder = QStringLiteral("/videos, \u00fc%1;\"x\"\\");
+        settings.locale = QStringLiteral("fr");
+        settings.autoUpdates = false;
+        settings.sendStatistics = true;
+        settings.outputProfile = QStringLiteral("everywhere");
+        const QString path = m_folder.filePath(QStringLiteral("saved.ini"));
+        QVERIFY(settings.save(*openSettings(path)));
+
+        AppSettings read;
+        read.load(*openSettings(path), QSize());
+        QCOMPARE(numbersOf(read), numbersOf(settings));
+        QCOMPARE(flagsOf(read), flagsOf(settings));
+        QCOMPARE(read.resolution, settings.resolution);
+        QCOMPARE(read.folder, settings.folder);
+        QCOMPARE(read.locale, settings.locale);
+        QCOMPARE(read.outputProfile, settings.outputProfile);
+    }
+
+    void saveReportsFailure()
+    {
+        const QString parent = m_folder.filePath(QStringLiteral("in the way"));
+        QFile file(parent);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        const QString path = parent + QStringLiteral("/settings.ini");
+        const auto store = openSettings(path);
+        QTest::ignoreMessage(QtWarningMsg,
+                             qPrintable(QStringLiteral("Cannot write settings to '%1'").arg(path)));
+        QVERIFY(!AppSettings().save(*store));
+        // What stood in the way may go.
+        QVERIFY(file.remove());
+        AppSettings later;
+        later.defaultTime = 9;
+        QVERIFY(later.save(*store));
+        AppSettings read;
+        read.load(*openSettings(path), QSize());
+        QCOMPARE(read.defaultTime, 9);
+    }
 
 private:
     // Loads settings from a file with these lines.
@@ -44,195 +206,6 @@ private:
     QTemporaryDir m_folder;
     int m_number = 0;
 };
-
-void AppSettingsTest::defaults()
-{
-    const AppSettings settings = loaded(QByteArray());
-    QCOMPARE(settings.defaultTransition, 1);
-    QCOMPARE(settings.defaultTime, 3);
-    QCOMPARE(settings.transitionTime, 2);
-    QCOMPARE(settings.audioOffset, 0);
-    QCOMPARE(settings.audioFade, 0);
-    QCOMPARE(settings.scaleToFit, true);
-    QCOMPARE(settings.origRatio, true);
-    QCOMPARE(settings.speedGeneration, false);
-    QCOMPARE(settings.resolution, QSize(1920, 1080));
-    QCOMPARE(settings.folder, QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
-    QVERIFY(settings.locale.size() == 2);
-    QCOMPARE(settings.autoUpdates, true);
-    QCOMPARE(settings.outputProfile, QStringLiteral("original"));
-}
-
-void AppSettingsTest::unusableNumbers_data()
-{
-    QTest::addColumn<QByteArray>("value");
-    QTest::newRow("word") << QByteArray("abc");
-    QTest::newRow("empty") << QByteArray("");
-    QTest::newRow("too large") << QByteArray("99999999999999999999");
-    QTest::newRow("out of range") << QByteArray("2000000000");
-    QTest::newRow("below range") << QByteArray("-2000000000");
-    QTest::newRow("list") << QByteArray("1, 2");
-    QTest::newRow("fraction") << QByteArray("1.5");
-    QTest::newRow("type") << QByteArray("@Variant(\\0\\0\\0\\x7f)");
-}
-
-void AppSettingsTest::unusableNumbers()
-{
-    QFETCH(QByteArray, value);
-    QByteArray lines;
-    for (const char *key :
-         {"defaultTransition", "defaultTime", "transitionTime", "audioOffset", "audioFade"})
-        lines += QByteArray(key) + '=' + value + '\n';
-    const AppSettings settings = loaded(lines);
-    QCOMPARE(settings.defaultTransition, 1);
-    QCOMPARE(settings.defaultTime, 3);
-    QCOMPARE(settings.transitionTime, 2);
-    QCOMPARE(settings.audioOffset, 0);
-    QCOMPARE(settings.audioFade, 0);
-}
-
-void AppSettingsTest::booleans_data()
-{
-    QTest::addColumn<QByteArray>("value");
-    QTest::addColumn<bool>("whenTrueByDefault");
-    QTest::addColumn<bool>("whenFalseByDefault");
-    QTest::newRow("true") << QByteArray("true") << true << true;
-    QTest::newRow("false") << QByteArray("false") << false << false;
-    QTest::newRow("1") << QByteArray("1") << true << true;
-    QTest::newRow("0") << QByteArray("0") << false << false;
-    QTest::newRow("capitals") << QByteArray("True") << true << true;
-    QTest::newRow("garbage") << QByteArray("maybe") << true << false;
-    QTest::newRow("empty") << QByteArray("") << true << false;
-}
-
-void AppSettingsTest::booleans()
-{
-    QFETCH(QByteArray, value);
-    const AppSettings settings = loaded("scaleToFit=" + value + "\nspeedGeneration=" + value);
-    QTEST(settings.scaleToFit, "whenTrueByDefault");
-    QTEST(settings.speedGeneration, "whenFalseByDefault");
-}
-
-void AppSettingsTest::resolutionRule_data()
-{
-    QTest::addColumn<QByteArray>("stored");
-    QTest::addColumn<QSize>("screen");
-    QTest::addColumn<QSize>("expected");
-    const QSize hd(1920, 1080);
-    QTest::newRow("stored") << QByteArray("800x600") << hd << QSize(800, 600);
-    QTest::newRow("stored, not offered") << QByteArray("1234x567") << hd << QSize(1234, 567);
-    QTest::newRow("zero") << QByteArray("0x0") << QSize(1366, 768) << QSize(1366, 768);
-    QTest::newRow("half zero") << QByteArray("640x0") << hd << hd;
-    QTest::newRow("negative") << QByteArray("-640x480") << hd << hd;
-    QTest::newRow("garbage") << QByteArray("large") << QSize(1280, 800) << QSize(1024, 768);
-    QTest::newRow("capital") << QByteArray("640X480") << hd << hd;
-    QTest::newRow("more text") << QByteArray("640x480x2") << hd << hd;
-    QTest::newRow("huge") << QByteArray("99999x99999") << hd << hd;
-    QTest::newRow("overflow") << QByteArray("4294967936x480") << hd << hd;
-    QTest::newRow("missing") << QByteArray() << QSize(3840, 2160) << QSize(3840, 2160);
-    QTest::newRow("between") << QByteArray() << QSize(2000, 1300) << hd;
-    QTest::newRow("upright screen") << QByteArray() << QSize(1080, 1920) << QSize(1024, 768);
-    QTest::newRow("larger than all") << QByteArray() << QSize(9000, 9000) << QSize(3840, 2160);
-    QTest::newRow("smaller than all") << QByteArray() << QSize(320, 240) << QSize(640, 480);
-    QTest::newRow("no screen") << QByteArray("x") << QSize() << hd;
-}
-
-void AppSettingsTest::resolutionRule()
-{
-    QFETCH(QByteArray, stored);
-    QFETCH(QSize, screen);
-    const QByteArray line = stored.isNull() ? QByteArray() : "resolution=" + stored;
-    QTEST(loaded(line, screen).resolution, "expected");
-}
-
-void AppSettingsTest::texts_data()
-{
-    QTest::addColumn<QByteArray>("lines");
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("profile");
-    const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
-    const QString system = loaded(QByteArray()).locale;
-    const QString original = QStringLiteral("original");
-    QTest::newRow("stored") << QByteArray("folder=/a b\nlocale=de\noutputProfile=everywhere")
-                            << QStringLiteral("/a b") << QStringLiteral("de")
-                            << QStringLiteral("everywhere");
-    QTest::newRow("region") << QByteArray("locale=pt_BR") << desktop << QStringLiteral("pt_BR")
-                            << original;
-    QTest::newRow("empty") << QByteArray("folder=\nlocale=\noutputProfile=") << desktop << system
-                           << original;
-    QTest::newRow("UTF-8 and a comma")
-        << QByteArray("folder=/home/m\xc3\xbcller,x") << QStringLiteral("/home/m\u00fcller,x")
-        << system << original;
-    QTest::newRow("path as locale")
-        << QByteArray("locale=../../x\noutputProfile=best") << desktop << system << original;
-}
-
-void AppSettingsTest::texts()
-{
-    QFETCH(QByteArray, lines);
-    const AppSettings settings = loaded(lines);
-    QTEST(settings.folder, "folder");
-    QTEST(settings.locale, "locale");
-    QTEST(settings.outputProfile, "profile");
-}
-
-void AppSettingsTest::saveAndLoad()
-{
-    AppSettings settings;
-    settings.defaultTransition = 28;
-    settings.defaultTime = 20;
-    settings.transitionTime = 3;
-    settings.audioOffset = -10;
-    settings.audioFade = 5;
-    settings.scaleToFit = false;
-    settings.origRatio = false;
-    settings.speedGeneration = true;
-    settings.resolution = {1366, 768};
-    settings.folder = QStringLiteral("/videos, \u00fc%1;\"x\"\\");
-    settings.locale = QStringLiteral("fr");
-    settings.autoUpdates = false;
-    settings.outputProfile = QStringLiteral("everywhere");
-    const QString path = m_folder.filePath(QStringLiteral("saved.ini"));
-    QVERIFY(settings.save(*openSettings(path)));
-
-    AppSettings read;
-    read.load(*openSettings(path), QSize());
-    QCOMPARE(read.defaultTransition, 28);
-    QCOMPARE(read.defaultTime, 20);
-    QCOMPARE(read.transitionTime, 3);
-    QCOMPARE(read.audioOffset, -10);
-    QCOMPARE(read.audioFade, 5);
-    QCOMPARE(read.scaleToFit, false);
-    QCOMPARE(read.origRatio, false);
-    QCOMPARE(read.speedGeneration, true);
-    QCOMPARE(read.resolution, settings.resolution);
-    QCOMPARE(read.folder, settings.folder);
-    QCOMPARE(read.locale, settings.locale);
-    QCOMPARE(read.autoUpdates, false);
-    QCOMPARE(read.outputProfile, settings.outputProfile);
-}
-
-void AppSettingsTest::saveReportsFailure()
-{
-    const QString parent = m_folder.filePath(QStringLiteral("in the way"));
-    QFile file(parent);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
-    const QString path = parent + QStringLiteral("/settings.ini");
-    const auto store = openSettings(path);
-    QTest::ignoreMessage(QtWarningMsg,
-                         qPrintable(QStringLiteral("Cannot write settings to '%1'").arg(path)));
-    QVERIFY(!AppSettings().save(*store));
-    // What stood in the way may go.
-    QVERIFY(file.remove());
-    AppSettings later;
-    later.defaultTime = 9;
-    QVERIFY(later.save(*store));
-    AppSettings read;
-    read.load(*openSettings(path), QSize());
-    QCOMPARE(read.defaultTime, 9);
-}
 
 QTEST_GUILESS_MAIN(AppSettingsTest)
 #include "AppSettingsTest.moc"

@@ -11,7 +11,6 @@ using namespace velmora;
 class CrashReporterTest : public QObject
 {
     Q_OBJECT
-
 private slots:
     void tellsOnceAboutAnEarlierCrash()
     {

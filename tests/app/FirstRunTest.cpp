@@ -11,7 +11,6 @@ using namespace velmora;
 class FirstRunTest : public QObject
 {
     Q_OBJECT
-
 private slots:
     void onlyTheFirstStartIsFirst()
     {

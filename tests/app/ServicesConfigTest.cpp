@@ -10,7 +10,6 @@ using namespace velmora;
 class ServicesConfigTest : public QObject
 {
     Q_OBJECT
-
 private slots:
     void cleanup()
     {
@@ -50,12 +49,6 @@ private slots:
         qputenv("VELMORA_YOUTUBE_CLIENT_ID", "abc");
         QCOMPARE(ServicesConfig().value(QStringLiteral("youtube/client_id")),
                  QStringLiteral("abc"));
-    }
-
-    void variableNames()
-    {
-        QCOMPARE(ServicesConfig::variableName(QStringLiteral("a-b/c.d")),
-                 QByteArray("VELMORA_A_B_C_D"));
     }
 };
 

@@ -13,7 +13,6 @@ using namespace velmora;
 class TaskThreadTest : public QObject
 {
     Q_OBJECT
-
 private slots:
     void worksInOrderOnOneThreadAndReportsHere()
     {

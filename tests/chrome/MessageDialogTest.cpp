@@ -11,7 +11,6 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
-#include <QToolButton>
 
 using namespace velmora;
 
@@ -50,95 +49,80 @@ class MessageDialogTest : public QObject
     Q_OBJECT
 private slots:
     void initTestCase() { Theme::install(*qApp); }
-    void buttonsAnswer_data();
-    void buttonsAnswer();
-    void enterChoosesTheDefault();
-    void escapeAndCrossCancel();
-    void checkIsReported();
-    void textIsPlain();
-    void controlEnterAccepts();
-    void pastedTextIsPlain();
+
+    void answers_data()
+    {
+        QTest::addColumn<QString>("clicked");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("answer");
+        const QString none;
+        QTest::newRow("first button") << "button0" << 0 << 0;
+        QTest::newRow("second button") << "button1" << 0 << 1;
+        QTest::newRow("third button") << "button2" << 0 << 2;
+        QTest::newRow("cross") << "btnCloseTop" << 0 << 2;
+        QTest::newRow("enter") << none << int(Qt::Key_Return) << 1;
+        QTest::newRow("escape") << none << int(Qt::Key_Escape) << 2;
+    }
+
+    void answers()
+    {
+        QFETCH(QString, clicked);
+        QFETCH(int, key);
+        const auto answer = ask([&](MessageDialog &dialog) {
+            if (clicked.isEmpty())
+                QTest::keyClick(&dialog, static_cast<Qt::Key>(key));
+            else
+                QTest::mouseClick(dialog.findChild<QAbstractButton *>(clicked), Qt::LeftButton);
+        });
+        QTEST(answer.button, "answer");
+        QVERIFY(!answer.checked);
+    }
+
+    void checkIsReported()
+    {
+        const auto answer = ask([](MessageDialog &dialog) {
+            QTest::keyClick(dialog.findChild<QCheckBox *>(QStringLiteral("chkOption")),
+                            Qt::Key_Space);
+            QTest::mouseClick(dialog.findChild<QPushButton *>(QStringLiteral("button0")),
+                              Qt::LeftButton);
+        });
+        QCOMPARE(answer.button, 0);
+        QVERIFY(answer.checked);
+    }
+
+    void textIsPlain()
+    {
+        const MessageDialog dialog(question());
+        QCOMPARE(dialog.findChild<QLabel *>(QStringLiteral("lblText"))->textFormat(),
+                 Qt::PlainText);
+    }
+
+    void controlEnterAccepts()
+    {
+        QTextEditEx edit;
+        QSignalSpy accepted(&edit, &QTextEditEx::accepted);
+        QTest::keyClicks(&edit, QStringLiteral("a"));
+        QTest::keyClick(&edit, Qt::Key_Return);
+        QCOMPARE(accepted.size(), 0);
+        QTest::keyClick(&edit, Qt::Key_Return, Qt::ControlModifier);
+        QTest::keyClick(&edit, Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier);
+        QCOMPARE(accepted.size(), 2);
+        QCOMPARE(edit.toPlainText(), QStringLiteral("a\n"));
+    }
+
+    void pastedTextIsPlain()
+    {
+        struct Edit : QTextEditEx {
+            using QTextEditEx::insertFromMimeData;
+        } edit;
+        QMimeData data;
+        data.setHtml(QStringLiteral("<b>bold</b>"));
+        data.setText(QStringLiteral("bold"));
+        edit.insertFromMimeData(&data);
+        QCOMPARE(edit.toPlainText(), QStringLiteral("bold"));
+        QVERIFY(!edit.toHtml().contains(QLatin1String("font-weight:600")));
+    }
 };
-
-void MessageDialogTest::buttonsAnswer_data()
-{
-    QTest::addColumn<int>("button");
-    for (int i = 0; i < 3; ++i)
-        QTest::addRow("%d", i) << i;
-}
-
-void MessageDialogTest::buttonsAnswer()
-{
-    QFETCH(int, button);
-    const auto answer = ask([button](MessageDialog &dialog) {
-        QTest::mouseClick(dialog.findChild<QPushButton *>(QStringLiteral("button%1").arg(button)),
-                          Qt::LeftButton);
-    });
-    QCOMPARE(answer.button, button);
-    QVERIFY(!answer.checked);
-}
-
-void MessageDialogTest::enterChoosesTheDefault()
-{
-    const auto answer =
-        ask([](MessageDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-    QCOMPARE(answer.button, 1);
-}
-
-void MessageDialogTest::escapeAndCrossCancel()
-{
-    const auto escaped =
-        ask([](MessageDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    QCOMPARE(escaped.button, 2);
-    const auto closed = ask([](MessageDialog &dialog) {
-        QTest::mouseClick(dialog.findChild<QToolButton *>(QStringLiteral("btnCloseTop")),
-                          Qt::LeftButton);
-    });
-    QCOMPARE(closed.button, 2);
-}
-
-void MessageDialogTest::checkIsReported()
-{
-    const auto answer = ask([](MessageDialog &dialog) {
-        QTest::keyClick(dialog.findChild<QCheckBox *>(QStringLiteral("chkOption")), Qt::Key_Space);
-        QTest::mouseClick(dialog.findChild<QPushButton *>(QStringLiteral("button0")),
-                          Qt::LeftButton);
-    });
-    QCOMPARE(answer.button, 0);
-    QVERIFY(answer.checked);
-}
-
-void MessageDialogTest::textIsPlain()
-{
-    const MessageDialog dialog(question());
-    QCOMPARE(dialog.findChild<QLabel *>(QStringLiteral("lblText"))->textFormat(), Qt::PlainText);
-}
-
-void MessageDialogTest::controlEnterAccepts()
-{
-    QTextEditEx edit;
-    QSignalSpy accepted(&edit, &QTextEditEx::accepted);
-    QTest::keyClicks(&edit, QStringLiteral("a"));
-    QTest::keyClick(&edit, Qt::Key_Return);
-    QCOMPARE(accepted.size(), 0);
-    QTest::keyClick(&edit, Qt::Key_Return, Qt::ControlModifier);
-    QTest::keyClick(&edit, Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier);
-    QCOMPARE(accepted.size(), 2);
-    QCOMPARE(edit.toPlainText(), QStringLiteral("a\n"));
-}
-
-void MessageDialogTest::pastedTextIsPlain()
-{
-    struct Edit : QTextEditEx {
-        using QTextEditEx::insertFromMimeData;
-    } edit;
-    QMimeData data;
-    data.setHtml(QStringLiteral("<b>bold</b>"));
-    data.setText(QStringLiteral("bold"));
-    edit.insertFromMimeData(&data);
-    QCOMPARE(edit.toPlainText(), QStringLiteral("bold"));
-    QVERIFY(!edit.toHtml().contains(QLatin1String("font-weight:600")));
-}
 
 QTEST_MAIN(MessageDialogTest)
 #include "MessageDialogTest.moc"

@@ -13,25 +13,6 @@
 
 using namespace velmora;
 
-class ProjectFileTest : public QObject
-{
-    Q_OBJECT
-private slots:
-    void takesDefaultsFromSettings();
-    void documentForm();
-    void roundTripThroughFile();
-    void transitionTimeIsReadWhenWritten();
-    void missingAudioReadsAsEmpty();
-    void faultyDocuments_data();
-    void faultyDocuments();
-    void hostileDocuments_data();
-    void hostileDocuments();
-    void unreadableFiles_data();
-    void unreadableFiles();
-    void tooLargeFileIsRefused();
-    void tooManySlidesAreRefused();
-};
-
 namespace
 {
 
@@ -68,9 +49,8 @@ QJsonObject parse(const QByteArray &text)
 {
     QJsonParseError error;
     const QJsonObject object = QJsonDocument::fromJson(text, &error).object();
-    if (error.error != QJsonParseError::NoError) {
+    if (error.error != QJsonParseError::NoError)
         qFatal("Faulty test document: %s", text.constData());
-    }
     return object;
 }
 
@@ -84,218 +64,197 @@ QJsonObject documentOf(const ProjectFile &project)
 void writeFile(const QString &path, const QByteArray &content)
 {
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("Cannot write %s", qPrintable(path));
-    }
 }
 
 } // namespace
 
-void ProjectFileTest::takesDefaultsFromSettings()
+class ProjectFileTest : public QObject
 {
-    const ProjectFile project(settings, ProjectFile::TitleSlide::Create);
-    QCOMPARE(project.name(), QStringLiteral("New project"));
-    QVERIFY(project.fileName().isEmpty());
-    QCOMPARE(project.format(), QStringLiteral("mkv"));
-    QCOMPARE(project.resolution(), QSize(1366, 768));
-    QVERIFY(project.origRatio());
-    QVERIFY(!project.scaleToFit());
-    QVERIFY(project.audio().items.isEmpty());
-    QCOMPARE(project.audio().offset, 0);
-    QVERIFY(!project.audioLoop());
-    QCOMPARE(project.audioFade(), 4);
-    QCOMPARE(project.items().size(), 1);
-    QVERIFY(qobject_cast<ProjectItemFirst *>(project.items().first()));
-    QCOMPARE(project.items().first()->time(), 9);
-    QVERIFY(ProjectFile(settings, ProjectFile::TitleSlide::Omit).items().isEmpty());
-}
-
-void ProjectFileTest::documentForm()
-{
-    const auto project = ProjectFile::fromJson(parse(kDocument), settings);
-    QVERIFY(project);
-    QCOMPARE(project->name(), QStringLiteral("Ostsee"));
-    QCOMPARE(project->fileName(), QStringLiteral("/videos/Ostsee.mp4"));
-    QCOMPARE(project->format(), QStringLiteral("mp4"));
-    QCOMPARE(project->resolution(), QSize(1280, 720));
-    QVERIFY(!project->origRatio());
-    QVERIFY(project->scaleToFit());
-    QCOMPARE(project->audio().offset, -5);
-    QVERIFY(project->audioLoop());
-    QCOMPARE(project->audioFade(), 2);
-    QCOMPARE(project->audio().items.size(), 2);
-    QCOMPARE(project->audio().items.at(1).fileName, QStringLiteral("/music/a.ogg"));
-    QCOMPARE(project->audio().items.at(1).duration, QStringLiteral("0:00:59"));
-    QCOMPARE(project->items().size(), 2);
-    QVERIFY(!project->items().at(0)->isShown());
-    QCOMPARE(project->items().at(1)->angle(), 270);
-    QCOMPARE(documentOf(*project), parse(kDocument));
-}
-
-void ProjectFileTest::roundTripThroughFile()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("Ostsee 'ü' %1.json"));
-    const auto project = ProjectFile::fromJson(parse(kDocument), settings);
-    QVERIFY(project->saveToFile(path));
-
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray content = file.readAll();
-    QVERIFY2(content.contains("\n    \"name\": \"Ostsee\""), "the document is indented");
-
-    QString error;
-    const auto read = ProjectFile::loadFromFile(path, settings, &error);
-    QVERIFY2(read, qPrintable(error));
-    QCOMPARE(documentOf(*read), parse(kDocument));
-}
-
-void ProjectFileTest::transitionTimeIsReadWhenWritten()
-{
-    AppSettings changing;
-    QJsonObject document = parse(kDocument);
-    document.insert(QStringLiteral("transition_time"), 77);
-    const auto project = ProjectFile::fromJson(document, changing);
-    for (const int seconds : {1, 2}) {
-        changing.transitionTime = seconds;
-        QCOMPARE(documentOf(*project).value(QStringLiteral("transition_time")).toInt(), seconds);
+    Q_OBJECT
+private slots:
+    void takesDefaultsFromSettings()
+    {
+        const ProjectFile project(settings, ProjectFile::TitleSlide::Create);
+        QCOMPARE(project.items().size(), 1);
+        QVERIFY(qobject_cast<ProjectItemFirst *>(project.items().first()));
+        QCOMPARE(project.items().first()->time(), 9);
+        const ProjectFile empty(settings, ProjectFile::TitleSlide::Omit);
+        QCOMPARE(documentOf(empty), parse(R"({
+            "name": "New project", "file_name": "", "format": "mkv", "resolution": "1366x768",
+            "orig_ratio": true, "scale_to_fit": false, "transition_time": 3, "images": [],
+            "audio": {"offset": 0, "loop": false, "fade": 4, "files": []}})"));
     }
-}
 
-void ProjectFileTest::missingAudioReadsAsEmpty()
-{
-    QJsonObject document = parse(kDocument);
-    document.remove(QStringLiteral("audio"));
-    const auto project = ProjectFile::fromJson(document, settings);
-    QVERIFY(project);
-    QVERIFY(project->audio().items.isEmpty());
-    QCOMPARE(project->audio().offset, 0);
-    QVERIFY(!project->audioLoop());
-    QCOMPARE(project->audioFade(), 0);
-}
-
-void ProjectFileTest::faultyDocuments_data()
-{
-    QTest::addColumn<QByteArray>("document");
-    QTest::addColumn<QString>("word");
-    const QString resolution = QStringLiteral("resolution");
-    QTest::newRow("empty") << QByteArray("{}") << resolution;
-    for (const char *text :
-         {"\"1280x\"", "\"abc\"", "\"x720\"", "\"0x0\"", "\"-5x20\"", "\"1280X720\"",
-          "\"1280x720x3\"", "\"99999999999x1\"", "1280", "null", "[1280,720]"}) {
-        QTest::newRow(text) << QByteArray("{\"resolution\":") + text + "}" << resolution;
+    void documentForm()
+    {
+        const auto project = ProjectFile::fromJson(parse(kDocument), settings);
+        QVERIFY(project);
+        QCOMPARE(project->fileName(), QStringLiteral("/videos/Ostsee.mp4"));
+        QCOMPARE(project->resolution(), QSize(1280, 720));
+        QVERIFY(!project->origRatio());
+        QVERIFY(project->scaleToFit());
+        QCOMPARE(project->audio().offset, -5);
+        QVERIFY(project->audioLoop());
+        QCOMPARE(project->audioFade(), 2);
+        QCOMPARE(project->audio().items.at(1).duration, QStringLiteral("0:00:59"));
+        QCOMPARE(documentOf(*project), parse(kDocument));
     }
-    const QString image = QStringLiteral("Failed load image info");
-    for (const char *text : {R"({"type":"video"})", "{}", "7", "null", R"("image")",
-                             R"({"type":"image"},{"type":"Image"})"}) {
-        QTest::newRow(text) << QByteArray(R"({"resolution":"64x64","images":[)") + text + "]}"
-                            << image;
+
+    void roundTripThroughFile()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("Ostsee 'ü' %1.json"));
+        const auto project = ProjectFile::fromJson(parse(kDocument), settings);
+        QVERIFY(project->saveToFile(path));
+
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY2(file.readAll().contains("\n    \"name\": \"Ostsee\""), "it is indented");
+
+        QString error;
+        const auto read = ProjectFile::loadFromFile(path, settings, &error);
+        QVERIFY2(read, qPrintable(error));
+        QCOMPARE(documentOf(*read), parse(kDocument));
     }
-}
 
-void ProjectFileTest::faultyDocuments()
-{
-    QFETCH(QByteArray, document);
-    QFETCH(QString, word);
-    QStringList errors;
-    QVERIFY(!ProjectFile::fromJson(parse(document), settings, &errors));
-    QCOMPARE(errors, QStringList{word});
-    QVERIFY(!ProjectFile::fromJson(parse(document), settings));
-}
-
-void ProjectFileTest::hostileDocuments_data()
-{
-    QTest::addColumn<QByteArray>("document");
-    const QByteArray start = R"({"resolution":"64x64",)";
-    for (const char *value :
-         {"null", "1e300", "-1e300", "\"x\"", "true", "[[[]]]", "[null]", R"({"files":{}})",
-          R"({"files":[1,null,"x",[]]})", R"({"offset":1e300,"fade":-1e300,"loop":"yes"})"}) {
-        QTest::addRow("audio %s", value) << start + "\"audio\":" + value + "}";
+    void transitionTimeIsReadWhenWritten()
+    {
+        AppSettings changing;
+        QJsonObject document = parse(kDocument);
+        document.insert(QStringLiteral("transition_time"), 77);
+        const auto project = ProjectFile::fromJson(document, changing);
+        for (const int seconds : {1, 2}) {
+            changing.transitionTime = seconds;
+            QCOMPARE(documentOf(*project).value(QStringLiteral("transition_time")).toInt(),
+                     seconds);
+        }
     }
-    for (const char *value : {"null", "1", "\"x\"", "{}", R"({"0":{"type":"image"}})"}) {
-        QTest::addRow("images %s", value) << start + "\"images\":" + value + "}";
+
+    void missingAudioReadsAsEmpty()
+    {
+        QJsonObject document = parse(kDocument);
+        document.remove(QStringLiteral("audio"));
+        const auto project = ProjectFile::fromJson(document, settings);
+        QVERIFY(project);
+        QCOMPARE(documentOf(*project).value(QStringLiteral("audio")).toObject(),
+                 parse(R"({"offset": 0, "loop": false, "fade": 0, "files": []})"));
     }
-    QTest::newRow("texts of wrong types")
-        << start + R"("name":[],"file_name":{},"format":5,"orig_ratio":"a","scale_to_fit":1})";
-    QTest::newRow("doubled keys") << start + R"("name":"a","name":"b","resolution":"32x32"})";
-    QTest::newRow("deep") << start + "\"audio\":" + QByteArray(1000, '[') + QByteArray(1000, ']') +
-                                 "}";
-    QTest::newRow("zero bytes") << start + R"("name":"a\u0000b","file_name":"\ud800"})";
-    QTest::newRow("long text") << start + "\"name\":\"" + QByteArray(5000000, 'x') + "\"}";
-}
 
-/// Whatever can be read is written in a form that reads the same.
-void ProjectFileTest::hostileDocuments()
-{
-    QFETCH(QByteArray, document);
-    const auto project = ProjectFile::fromJson(parse(document), settings);
-    QVERIFY(project);
-    const QJsonObject written = documentOf(*project);
-    const auto again = ProjectFile::fromJson(written, settings);
-    QVERIFY(again);
-    QCOMPARE(documentOf(*again), written);
-}
-
-void ProjectFileTest::unreadableFiles_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("text") << QByteArray("resolution=1280x720");
-    QTest::newRow("cut") << kDocument.left(kDocument.size() / 2);
-    QTest::newRow("array") << QByteArray("[1,2]");
-    QTest::newRow("no project") << QByteArray("{\"a\":1}");
-    QTest::newRow("broken UTF-8") << QByteArray("{\"name\":\"\xc3\x28\xff\"}");
-    QTest::newRow("zeros") << QByteArray(5000, '\0');
-    QTest::newRow("too deep") << QByteArray(100000, '[');
-    QTest::newRow("deep objects") << QByteArray("{\"a\":").repeated(100000);
-}
-
-void ProjectFileTest::unreadableFiles()
-{
-    QFETCH(QByteArray, content);
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("a.json"));
-    writeFile(path, content);
-    QString error;
-    QVERIFY(!ProjectFile::loadFromFile(path, settings, &error));
-    QVERIFY(!error.isEmpty());
-
-    QString missing;
-    QVERIFY(!ProjectFile::loadFromFile(path + QLatin1Char('x'), settings, &missing));
-    QVERIFY(!missing.isEmpty());
-    QString isFolder;
-    QVERIFY(!ProjectFile::loadFromFile(folder.path(), settings, &isFolder));
-    QVERIFY(!isFolder.isEmpty());
-}
-
-void ProjectFileTest::tooLargeFileIsRefused()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("a.json"));
-    writeFile(path, kDocument);
-    QFile file(path);
-    // A sparse file: nothing of that size is really written.
-    QVERIFY(file.resize(ProjectFile::kMaximumFileSize + 1));
-    QString error;
-    QVERIFY(!ProjectFile::loadFromFile(path, settings, &error));
-    QCOMPARE(error, QStringLiteral("The file is larger than 100 MB."));
-}
-
-void ProjectFileTest::tooManySlidesAreRefused()
-{
-    QJsonArray images;
-    for (int i = 0; i <= ProjectFile::kMaximumItems; ++i) {
-        images.append(QJsonObject{{QStringLiteral("type"), QStringLiteral("image")}});
+    void faultyDocuments_data()
+    {
+        QTest::addColumn<QByteArray>("document");
+        QTest::addColumn<QString>("word");
+        const QString resolution = QStringLiteral("resolution");
+        QTest::newRow("empty") << QByteArray("{}") << resolution;
+        for (const char *text :
+             {"\"1280x\"", "\"abc\"", "\"x720\"", "\"0x0\"", "\"-5x20\"", "\"1280X720\"",
+              "\"1280x720x3\"", "\"99999999999x1\"", "1280", "null", "[1280,720]"})
+            QTest::newRow(text) << QByteArray("{\"resolution\":") + text + "}" << resolution;
+        const QString image = QStringLiteral("Failed load image info");
+        for (const char *text : {R"({"type":"video"})", "{}", "7", "null", R"("image")",
+                                 R"({"type":"image"},{"type":"Image"})", R"({"type":1})"})
+            QTest::newRow(text) << QByteArray(R"({"resolution":"64x64","images":[)") + text + "]}"
+                                << image;
     }
-    QJsonObject document{{QStringLiteral("resolution"), QStringLiteral("64x64")},
-                         {QStringLiteral("images"), images}};
-    QStringList errors;
-    QVERIFY(!ProjectFile::fromJson(document, settings, &errors));
-    QCOMPARE(errors, QStringList{QStringLiteral("images")});
-    images.removeLast();
-    document.insert(QStringLiteral("images"), images);
-    QVERIFY(ProjectFile::fromJson(document, settings));
-}
+
+    void faultyDocuments()
+    {
+        QFETCH(QByteArray, document);
+        QFETCH(QString, word);
+        QStringList errors;
+        QVERIFY(!ProjectFile::fromJson(parse(document), settings, &errors));
+        QCOMPARE(errors, QStringList{word});
+        QVERIFY(!ProjectFile::fromJson(parse(document), settings));
+    }
+
+    void hostileDocuments_data()
+    {
+        QTest::addColumn<QByteArray>("document");
+        const QByteArray start = R"({"resolution":"64x64",)";
+        for (const char *value :
+             {"null", "1e300", "-1e300", "\"x\"", "true", "[[[]]]", "[null]", R"({"files":{}})",
+              R"({"files":[1,null,"x",[]]})", R"({"offset":1e300,"fade":-1e300,"loop":"yes"})"})
+            QTest::addRow("audio %s", value) << start + "\"audio\":" + value + "}";
+        for (const char *value : {"null", "1", "\"x\"", "{}", R"({"0":{"type":"image"}})"})
+            QTest::addRow("images %s", value) << start + "\"images\":" + value + "}";
+        QTest::newRow("texts of wrong types")
+            << start + R"("name":[],"file_name":{},"format":5,"orig_ratio":"a","scale_to_fit":1})";
+        QTest::newRow("doubled keys") << start + R"("name":"a","name":"b","resolution":"32x32"})";
+        QTest::newRow("deep") << start + "\"audio\":" + QByteArray(1000, '[') +
+                                     QByteArray(1000, ']') + "}";
+        QTest::newRow("zero bytes") << start + R"("name":"a\u0000b","file_name":"\ud800"})";
+        QTest::newRow("long text") << start + "\"name\":\"" + QByteArray(5000000, 'x') + "\"}";
+    }
+
+    /// Whatever can be read is written in a form that reads the same.
+    void hostileDocuments()
+    {
+        QFETCH(QByteArray, document);
+        const auto project = ProjectFile::fromJson(parse(document), settings);
+        QVERIFY(project);
+        const QJsonObject written = documentOf(*project);
+        const auto again = ProjectFile::fromJson(written, settings);
+        QVERIFY(again);
+        QCOMPARE(documentOf(*again), written);
+    }
+
+    void unreadableFiles_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("text") << QByteArray("resolution=1280x720");
+        QTest::newRow("cut") << kDocument.left(kDocument.size() / 2);
+        QTest::newRow("array") << QByteArray("[1,2]");
+        QTest::newRow("no project") << QByteArray("{\"a\":1}");
+        QTest::newRow("broken UTF-8") << QByteArray("{\"name\":\"\xc3\x28\xff\"}");
+        QTest::newRow("zeros") << QByteArray(5000, '\0');
+        QTest::newRow("too deep") << QByteArray(100000, '[');
+        QTest::newRow("deep objects") << QByteArray("{\"a\":").repeated(100000);
+    }
+
+    void unreadableFiles()
+    {
+        QFETCH(QByteArray, content);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("a.json"));
+        writeFile(path, content);
+        for (const QString &unreadable : {path, path + QLatin1Char('x'), folder.path()}) {
+            QString error;
+            QVERIFY(!ProjectFile::loadFromFile(unreadable, settings, &error));
+            QVERIFY(!error.isEmpty());
+        }
+    }
+
+    void tooLargeFileIsRefused()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("a.json"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        // A sparse file: nothing of that size is really written.
+        QVERIFY(file.resize(ProjectFile::kMaximumFileSize + 1));
+        QString error;
+        QVERIFY(!ProjectFile::loadFromFile(path, settings, &error));
+        QCOMPARE(error, QStringLiteral("The file is larger than 100 MB."));
+    }
+
+    void tooManySlidesAreRefused()
+    {
+        QJsonArray images;
+        for (int i = 0; i <= ProjectFile::kMaximumItems; ++i)
+            images.append(QJsonObject{{QStringLiteral("type"), QStringLiteral("image")}});
+        QJsonObject document{{QStringLiteral("resolution"), QStringLiteral("64x64")},
+                             {QStringLiteral("images"), images}};
+        QStringList errors;
+        QVERIFY(!ProjectFile::fromJson(document, settings, &errors));
+        QCOMPARE(errors, QStringList{QStringLiteral("images")});
+        images.removeLast();
+        document.insert(QStringLiteral("images"), images);
+        QVERIFY(ProjectFile::fromJson(document, settings));
+    }
+};
 
 QTEST_GUILESS_MAIN(ProjectFileTest)
 #include "ProjectFileTest.moc"
