@@ -8,11 +8,8 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTabBar>
 #include <QTextEdit>
 #include <QToolButton>
-#include <QTranslator>
-#include <QXmlStreamReader>
 #include <QtTest>
 
 using namespace velmora;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/main/StartMessage.h"
+#include "helpers/TestFiles.h"
 
-#include <QDir>
-#include <QTest>
+#include <QtTest>
 
 using namespace velmora;
 
@@ -32,8 +32,8 @@ private slots:
     {
         QTest::addColumn<QString>("message");
         QTest::newRow("empty") << QString();
-        QTest::newRow("other first line") << QStringLiteral("Hello\nfile:///etc/passwd");
-        QTest::newRow("not local") << QStringLiteral("Wake up!\nhttp://host/a.png\nfile:");
+        QTest::newRow("other first line") << "Hello\nfile:///etc/passwd";
+        QTest::newRow("not local") << "Wake up!\nhttp://host/a.png\nfile:";
     }
 
     void refusesOtherTexts()
