@@ -31,7 +31,6 @@ private slots:
         for (const char *ending : {"mp3", "m4a", "wav", "wma", "flac"})
             QTest::newRow(ending) << ending;
     }
-
     void acceptsMusic()
     {
         QFETCH(QString, ending);
@@ -52,7 +51,6 @@ private slots:
         QTest::newRow("cut.m4a") << "damaged"; // before its index
         QTest::newRow("header.wav") << "Nothing in it can be played";
     }
-
     void namesTheReason()
     {
         QFETCH(QString, reason);

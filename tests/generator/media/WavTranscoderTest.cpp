@@ -49,7 +49,6 @@ private slots:
         QTest::newRow("wav, 8 bit") << "a.wav" << 8000 << 1 << words("-acodec pcm_u8");
         QTest::newRow("mp3 by content, wav by name") << "a.wav" << 44100 << 2 << words("-f mp3");
     }
-
     void decodesEveryFormat()
     {
         QFETCH(QString, name);
@@ -82,7 +81,6 @@ private slots:
         QTest::newRow("broken tag")
             << QByteArray("ID3\x04\0\0\0\0\x10\0", 10) + noise(1500) + tone << 3.0;
     }
-
     void decodesWhatItCan()
     {
         QFETCH(QByteArray, content);
@@ -118,7 +116,6 @@ private slots:
         QTest::newRow("a tag alone")
             << QByteArray("ID3\x03\0\0\0\0\0\x40", 10) + QByteArray(64, '\0');
     }
-
     void refusesWhatHasNoSound()
     {
         QFETCH(QByteArray, content);

@@ -19,7 +19,6 @@ private slots:
         QTest::newRow("just below 4 GB") << (qint64(1) << 32) - 400 << qint64(24347885);
         QTest::newRow("10 GB") << qint64(176400) * 60000 << qint64(60000000);
     }
-
     void headerTellsTheLength()
     {
         QFETCH(qint64, dataSize);

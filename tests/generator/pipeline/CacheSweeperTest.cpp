@@ -57,7 +57,6 @@ private slots:
         row("being multiplexed", video, ".holiday.part-abc123.part.mp4", true);
         row("no unfinished video", "holiday.mp4", "holiday.mp4", false);
     }
-
     void removesTheUnfinishedVideoOfADeadRender()
     {
         QFETCH(QString, noted);

@@ -3,8 +3,6 @@
 #include "helpers/RenderFixture.h"
 #include "helpers/TestFiles.h"
 
-#include "project/slides/ProjectItemFirst.h"
-
 #include <QtTest>
 
 using namespace velmora;

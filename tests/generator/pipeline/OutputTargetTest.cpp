@@ -42,7 +42,6 @@ private slots:
         row("unknown format", "a", "../x", "a.mkv", "mkv");
         row("odd letters", "Ü 100% 'x'", "MKV", "Ü 100% 'x'.mkv", "mkv");
     }
-
     void choosesTheContainer()
     {
         QFETCH(QString, name);
@@ -68,7 +67,6 @@ private slots:
         if (QFileInfo(QStringLiteral("/proc")).isDir())
             QTest::newRow("/proc") << "/proc/a.mp4";
     }
-
     void refusesWhatCannotBeWritten()
     {
         QFETCH(QString, name);
@@ -106,7 +104,6 @@ private slots:
         QTest::newRow("longest name") << longest + QStringLiteral(".mp4") << QStringList()
                                       << longest.left(207) + QStringLiteral(" (2).mp4");
     }
-
     void keepsAVideoThatCannotBePutInPlace()
     {
         QFETCH(QString, name);

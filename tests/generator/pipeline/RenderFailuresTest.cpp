@@ -118,7 +118,6 @@ private slots:
             QTest::addRow("nothing written, %s", mode) << 9 << "exit|0" << parallel;
         }
     }
-
     void encoderFails()
     {
         QFETCH(int, call);
@@ -152,7 +151,6 @@ private slots:
                                  << "err|x: No space left on device|exit|1";
         QTest::newRow("transcoder") << QByteArray("VELMORA_TRANSCODER") << "exit|4";
     }
-
     void aFullDiskIsToldAsSuch()
     {
         QFETCH(QByteArray, program);
@@ -172,7 +170,6 @@ private slots:
         QTest::newRow("segment") << 2;
         QTest::newRow("output") << 9;
     }
-
     void cancelEndsAHangingEncoder()
     {
         QFETCH(int, call);
@@ -223,7 +220,6 @@ private slots:
         QTest::newRow("slide") << "vid_c0.mp4";
         QTest::newRow("total") << "vid_c_total.mp4";
     }
-
     void aRenameThatFailsIsTold()
     {
         QFETCH(QString, name);
@@ -287,7 +283,6 @@ private slots:
         QTest::newRow("disk") << "err|No space left on device" << video;
         QTest::newRow("output") << QString() << "none/video.mp4";
     }
-
     void theLogIsNotTranslated()
     {
         QFETCH(QString, action);

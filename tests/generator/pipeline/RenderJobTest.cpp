@@ -118,7 +118,6 @@ private slots:
             QTest::addRow("%s parallel", format) << QString::fromLatin1(format) << true;
         }
     }
-
     void rendersEveryFrame()
     {
         QFETCH(QString, format);

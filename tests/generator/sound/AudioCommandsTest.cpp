@@ -20,7 +20,6 @@ private slots:
         QTest::newRow("none") << qint64(0) << "0";
         QTest::newRow("many hours") << qint64(360000000) << "360000";
     }
-
     void lengthsAreSeconds()
     {
         QFETCH(qint64, milliseconds);
@@ -62,7 +61,6 @@ private slots:
         row("normalise", AudioCommands::normalise(a),
             "-i /c/a.wav -map 0:a:0 -ac 2 -ar 44100 -acodec pcm_s16le -rf64 auto -y");
     }
-
     void commands()
     {
         QFETCH(QStringList, built);

@@ -30,7 +30,6 @@ private slots:
         QTest::newRow("longer than the video") << 3000 << 0;
         QTest::newRow("no video") << 0 << 0;
     }
-
     void repeatsToTheVideosEnd()
     {
         QFETCH(int, length);

@@ -40,7 +40,6 @@ private slots:
             << Times{std::numeric_limits<int>::max(), 0, 60000, 0, 0};
         QTest::newRow("negative fade") << 0 << -3 << 90000 << Times{0, 0, 60000, 60000, 0};
     }
-
     void plan()
     {
         QFETCH(int, offset);
@@ -80,7 +79,6 @@ private slots:
         QTest::newRow("compressed sound in WAV") << Formats{packed, packed} << false;
         QTest::newRow("more channels than the encoders take") << Formats{surround} << false;
     }
-
     void joinsOnlyWhatMatches()
     {
         QFETCH(QVector<SoundFormat>, formats);

@@ -51,7 +51,6 @@ private slots:
         QTest::newRow("every format") << "400.mp3 600.m4a 900.wav 1300.ogg 1900.flac 600.wma"
                                       << Tones{400, 600, 900, 1300, 1900, 600};
     }
-
     void joinsPlaylists()
     {
         QFETCH(QString, names);
@@ -85,7 +84,6 @@ private slots:
         QTest::newRow("silence and all of the music") << two << -2 << 9000 << 6.0 << 2.0 << 900;
         QTest::newRow("silence longer than the video") << two << -9 << 3000 << 3.0 << 3.0 << 0;
     }
-
     void placesTheMusic()
     {
         QFETCH(QString, names);
@@ -117,7 +115,6 @@ private slots:
         QTest::newRow("behind silence") << -2 << 1 << 6000 << 2.0 << 6.0 << 1.0;
         QTest::newRow("longer than half") << 0 << 30 << 4000 << 0.0 << 4.0 << 2.0;
     }
-
     void fadesBothEnds()
     {
         QFETCH(int, offset);

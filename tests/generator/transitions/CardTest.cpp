@@ -85,7 +85,6 @@ private slots:
         for (const double degrees : {-89.0, -60.0, -10.0, 10.0, 45.0, 89.0})
             QTest::addRow("%g", degrees) << degrees;
     }
-
     void swungCardKeepsWithinItsHeight()
     {
         QFETCH(double, degrees);

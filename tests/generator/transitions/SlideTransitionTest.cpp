@@ -34,7 +34,6 @@ private slots:
             }
         }
     }
-
     void pushesByWholePixels()
     {
         QFETCH(int, type);

@@ -4,8 +4,6 @@
 #include <QRegion>
 #include <QtTest>
 
-#include <cstdlib>
-
 using namespace velmora;
 
 class TileGridTest : public QObject
@@ -13,7 +11,6 @@ class TileGridTest : public QObject
     Q_OBJECT
 private slots:
     void tilesCoverTheFrame_data() { sizes(); }
-
     void tilesCoverTheFrame()
     {
         QFETCH(QSize, frame);
@@ -34,7 +31,6 @@ private slots:
     }
 
     void spiralIsAPath_data() { sizes(); }
-
     void spiralIsAPath()
     {
         QFETCH(QSize, frame);

@@ -46,7 +46,6 @@ class TransitionTest : public QObject
     Q_OBJECT
 private slots:
     void endsAreTheTwoPictures_data() { everyEffectAndSize(); }
-
     void endsAreTheTwoPictures()
     {
         QFETCH(TransitionType, type);
@@ -60,7 +59,6 @@ private slots:
     }
 
     void everyPixelIsPainted_data() { everyEffectAndSize(); }
-
     void everyPixelIsPainted()
     {
         QFETCH(TransitionType, type);
@@ -89,7 +87,6 @@ private slots:
     }
 
     void movesToTheTargetInSteps_data() { everyEffect(); }
-
     void movesToTheTargetInSteps()
     {
         QFETCH(TransitionType, type);
@@ -123,7 +120,6 @@ private slots:
     }
 
     void paintsOnAnyDevice_data() { everyEffect(); }
-
     void paintsOnAnyDevice()
     {
         QFETCH(TransitionType, type);
@@ -186,7 +182,6 @@ private slots:
         row(T::Checkerboard, 50, QPoint(23, 22), QPoint(8, 22));
         row(T::Pixelate, 60, middle, QPoint(-1, -1));
     }
-
     void goesItsWay()
     {
         QFETCH(TransitionType, type);

@@ -39,25 +39,6 @@ private slots:
         m_output = m_fixture->output(QStringLiteral("it's a 100% vidéo 漢.mp4"));
     }
 
-    void editorRenders()
-    {
-        Composer composer;
-        QSignalSpy finished(&composer, &Composer::finished);
-        QSignalSpy progress(&composer, &Composer::progress);
-        composer.run(request(2));
-        composer.pause();
-        composer.resume();
-        QTRY_VERIFY_WITH_TIMEOUT(!composer.isRunning(), kRenderTimeout);
-        QVERIFY2(finished.size() == 1, qPrintable(composer.errorText()));
-        QCOMPARE(finished.first().first().toString(), m_output);
-        QVERIFY(QFileInfo(m_output).size() > 0);
-        QVERIFY(progress.size() > 1);
-        for (int i = 1; i < progress.size(); ++i)
-            QVERIFY(progress[i].first().toInt() > progress[i - 1].first().toInt());
-        QCOMPARE(progress.last().first().toInt(), 100);
-        QCOMPARE(leftovers(), QStringList());
-    }
-
     void editorCancels_data()
     {
         QTest::addColumn<bool>("paused");

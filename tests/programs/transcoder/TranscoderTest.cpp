@@ -31,7 +31,6 @@ private slots:
         QTest::newRow("nowhere to write") << QStringList{music, QStringLiteral("no/new.wav")} << 1
                                           << "new.wav' cannot be written";
     }
-
     void reportsFailures()
     {
         QFETCH(QStringList, names);

@@ -77,7 +77,6 @@ private slots:
                      "--json --dump-project q.json")
             << QStringList();
     }
-
     void readsForms()
     {
         QFETCH(QStringList, arguments);
@@ -127,7 +126,6 @@ private slots:
         row("--project p.json --photos a.jpg", "--photos cannot be combined");
         row("--project p.json --time 4", "--time cannot be combined");
     }
-
     void refuses()
     {
         QFETCH(QStringList, arguments);
@@ -135,15 +133,6 @@ private slots:
         QString error;
         QVERIFY(!parseMakeOptions(arguments, &error));
         QVERIFY2(error.contains(message), qPrintable(error));
-    }
-
-    void helpNeedsNothingElse()
-    {
-        for (const char *line : {"--help", "-h", "--photos a.jpg --help"}) {
-            QString error;
-            const auto options = parseMakeOptions(words(line), &error);
-            QVERIFY2(options && options->help, line);
-        }
     }
 };
 

@@ -21,7 +21,6 @@ private slots:
         QTest::newRow("many hours") << qint64(36'061'000) << "10:01:01";
         QTest::newRow("clock set back") << qint64(-5) << "0:00";
     }
-
     void writesClock()
     {
         QFETCH(qint64, milliseconds);

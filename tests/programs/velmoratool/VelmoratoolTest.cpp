@@ -37,12 +37,12 @@ private slots:
         QTest::newRow("help") << words("--help") << 0 << usage;
         QTest::newRow("short help") << words("-h") << 0 << usage;
         QTest::newRow("help of make") << words("make --help") << 0 << usage;
+        QTest::newRow("help besides") << words("make --photos a.jpg --help") << 0 << usage;
         QTest::newRow("version") << words("--version") << 0 << version;
         QTest::newRow("version of make") << words("make --version") << 0 << version;
         QTest::newRow("nothing") << QStringList() << 2 << QString();
         QTest::newRow("unknown command") << words("mak") << 2 << QString();
     }
-
     void tellsAboutItself()
     {
         QFETCH(QStringList, arguments);
@@ -68,7 +68,6 @@ private slots:
         QTest::newRow("many letters without a language")
             << QStringLiteral("Grüße 中文") << QStringLiteral("C");
     }
-
     void rendersAnyNames()
     {
         QFETCH(QString, name);
@@ -117,17 +116,15 @@ private slots:
         row("document not writable", "photo.jpg", "out/a.mp4", "--dump-project nowhere/p.json", 1,
             "nowhere/p.json|cannot be written");
     }
-
     void refuses()
     {
         QFETCH(QString, photo);
         QFETCH(QString, output);
         QFETCH(QString, more);
-        QFETCH(int, exitCode);
         QFETCH(QStringList, messages);
         const QStringList arguments =
             tiny({photo}, output) + more.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        QCOMPARE(run(arguments), exitCode);
+        QTEST(run(arguments), "exitCode");
         QCOMPARE(m_output, QString());
         for (const QString &message : qAsConst(messages))
             QVERIFY2(m_errors.contains(message), qPrintable(m_errors));
@@ -136,14 +133,9 @@ private slots:
                  QStringList());
     }
 
-    void damagedPhotoLeavesOldVideo()
+    void brokenProjectIsNamed()
     {
-        const QString output = m_fixture.file(QStringLiteral("out/old.mp4"), "older video");
-        QCOMPARE(run(tiny({m_photo, QStringLiteral("text.jpg")}, output)), 1);
-        QCOMPARE(readFile(output), QByteArray("older video"));
-        QVERIFY(QFile::remove(output));
-
-        QCOMPARE(run(words("make --project broken.json --output") << output), 2);
+        QCOMPARE(run(words("make --project broken.json --output out/a.mp4")), 2);
         QVERIFY(m_errors.contains(QStringLiteral("broken.json")));
     }
 
@@ -184,7 +176,6 @@ private slots:
         QTest::newRow("Ctrl-C in a terminal") << true << true;
         QTest::newRow("end of session") << false << false;
     }
-
     void interruptLeavesNothing()
     {
         QFETCH(bool, interrupted);
@@ -197,7 +188,7 @@ private slots:
             words("--json --time=60 --transition-length=60 --size=640x360");
         const auto tool = ProcessTree::createProcess(ProcessTree::Group::Own);
         QProcess &process = *tool;
-        setLocale(process, QStringLiteral("C.UTF-8"));
+        setEnvironment(process);
         ProcessControl::allowInterrupts();
         process.start(program(), arguments);
         m_output.clear();
@@ -232,10 +223,8 @@ private slots:
         m_fixture.file(QStringLiteral("data/settings.ini"), "[General]\nsendStatistics=true\n");
         const QString output = m_fixture.output(QStringLiteral("counted.mp4"));
         QProcess process;
-        setLocale(process, QStringLiteral("C.UTF-8"));
-        QProcessEnvironment environment = process.processEnvironment();
-        environment.insert(QStringLiteral("VELMORA_METRICS_ADDRESS"), server.url().toString());
-        process.setProcessEnvironment(environment);
+        setEnvironment(process,
+                       {{QStringLiteral("VELMORA_METRICS_ADDRESS"), server.url().toString()}});
         process.start(program(), tiny({m_photo}, output));
         QTRY_COMPARE_WITH_TIMEOUT(process.state(), QProcess::NotRunning, 120'000);
         QVERIFY(QFile::remove(settings));
@@ -274,16 +263,11 @@ private slots:
         if (QStandardPaths::findExecutable(QStringLiteral("script")).isEmpty())
             QSKIP("needs the program \"script\"");
         QProcess process; // It runs the program on a terminal of its own.
-        setLocale(process, QStringLiteral("C.UTF-8"));
-        QProcessEnvironment environment = process.processEnvironment();
-        environment.insert(QStringLiteral("TERM"), QStringLiteral("xterm"));
-        process.setProcessEnvironment(environment);
-        process.start(QStringLiteral("script"),
-                      {QStringLiteral("--quiet"), QStringLiteral("--return"),
-                       QStringLiteral("--command"),
-                       QLatin1Char('"') + program() + QStringLiteral("\" ") +
-                           arguments.join(QLatin1Char(' ')),
-                       QStringLiteral("/dev/null")});
+        setEnvironment(process, {{QStringLiteral("TERM"), QStringLiteral("xterm")}});
+        const QString command =
+            QLatin1Char('"') + program() + QStringLiteral("\" ") + arguments.join(QLatin1Char(' '));
+        process.start(QStringLiteral("script"), words("--quiet --return /dev/null --command")
+                                                    << command);
         QVERIFY(process.waitForFinished(120'000));
         QCOMPARE(process.exitCode(), 0);
         const QString shown = QString::fromUtf8(process.readAllStandardOutput());
@@ -310,8 +294,7 @@ private slots:
         if (QStandardPaths::findExecutable(QStringLiteral("groff")).isEmpty())
             QSKIP("needs the program \"groff\"");
         QProcess groff;
-        groff.start(QStringLiteral("groff"), {QStringLiteral("-man"), QStringLiteral("-ww"),
-                                              QStringLiteral("-Tutf8"), QStringLiteral(MAN_PAGE)});
+        groff.start(QStringLiteral("groff"), words("-man -ww -Tutf8") << QStringLiteral(MAN_PAGE));
         QVERIFY(groff.waitForFinished(60'000));
         QCOMPARE(groff.exitCode(), 0);
         QCOMPARE(groff.readAllStandardError(), QByteArray());
@@ -322,7 +305,7 @@ private:
     int run(const QStringList &arguments, const QString &locale = QStringLiteral("C.UTF-8"))
     {
         QProcess process;
-        setLocale(process, locale);
+        setEnvironment(process, {}, locale);
         process.setWorkingDirectory(m_fixture.path(QString()));
         process.start(program(), arguments);
         process.waitForFinished(120'000);
@@ -331,10 +314,14 @@ private:
         return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
     }
 
-    static void setLocale(QProcess &process, const QString &locale)
+    using Variables = QHash<QString, QString>;
+    static void setEnvironment(QProcess &process, const Variables &more = {},
+                               const QString &locale = QStringLiteral("C.UTF-8"))
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("LC_ALL"), locale);
+        for (auto it = more.begin(); it != more.end(); ++it)
+            environment.insert(it.key(), it.value());
         process.setProcessEnvironment(environment);
     }
 

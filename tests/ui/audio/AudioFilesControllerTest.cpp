@@ -96,7 +96,6 @@ private slots:
         QTest::newRow("after the first") << 0 << "acdb";
         QTest::newRow("after the last") << 1 << "abcd";
     }
-
     void filesGoAfterTheirRow()
     {
         QFETCH(int, newRow);
@@ -133,7 +132,6 @@ private slots:
         QTest::newRow("folder") << linkName("link to music") << QString() << 3;
         QTest::newRow("nothing") << linkName("link to nothing") << QString() << 0;
     }
-
     void shortcutsAreFollowed()
     {
         QFETCH(QString, name);
@@ -197,7 +195,6 @@ private slots:
         QTest::newRow("from both sides") << QVector<int>{0, 3} << 2 << "badc";
         QTest::newRow("in place") << QVector<int>{1, 2} << 2 << "abcd";
     }
-
     void rowsAreMoved()
     {
         QFETCH(QVector<int>, rows);

@@ -142,7 +142,7 @@ private slots:
         }
     }
 
-    void rowButtonsWork()
+    void rowsAreHeardAndDeleted()
     {
         addThree();
         AudioFilesController &controller = m_widget->controller();
@@ -152,20 +152,15 @@ private slots:
         QCOMPARE(controller.playingRow(), 1);
         clickButton(1, AudioNoFocusRectangleDelegate::StopButton);
         QCOMPARE(controller.playingRow(), -1);
-        clickButton(0, AudioNoFocusRectangleDelegate::DeleteButton);
-        QCOMPARE(order(), QStringLiteral("bc"));
-    }
-
-    void spaceListens()
-    {
-        addThree();
         table().setFocus();
         QTest::mouseClick(table().viewport(), Qt::LeftButton, {},
                           row(2).topLeft() + QPoint(60, 20));
-        QTest::keyClick(&table(), Qt::Key_Space);
-        QCOMPARE(m_widget->controller().playingRow(), 2);
-        QTest::keyClick(&table(), Qt::Key_Space);
-        QCOMPARE(m_widget->controller().playingRow(), -1);
+        for (const int playing : {2, -1}) {
+            QTest::keyClick(&table(), Qt::Key_Space);
+            QCOMPARE(controller.playingRow(), playing);
+        }
+        clickButton(0, AudioNoFocusRectangleDelegate::DeleteButton);
+        QCOMPARE(order(), QStringLiteral("bc"));
     }
 
     void valuesAreWritten()
@@ -232,7 +227,6 @@ private slots:
         QTest::newRow("help") << "btnHelpOffset" << false;
         QTest::newRow("help, clicked") << "btnHelpOffset" << true;
     }
-
     void helpIsBrokenIntoLines()
     {
         QFETCH(QString, widget);

@@ -57,7 +57,6 @@ private slots:
         QTest::newRow("without text") << false << 0 << true << QString();
         QTest::newRow("title") << true << 0 << true << "My slideshow";
     }
-
     void picturesAreThoseOfTheVideo()
     {
         QFETCH(bool, isTitle);

@@ -59,7 +59,6 @@ private slots:
         for (const char *button : {"butCancelText", "btnBackInTextEdit"})
             QTest::newRow(button) << QByteArray(button);
     }
-
     void cancellingChangesNothing()
     {
         QFETCH(QByteArray, button);
@@ -145,7 +144,6 @@ private slots:
         QTest::newRow("photos") << false;
         QTest::newRow("title too") << true;
     }
-
     void styleGoesToAllSlides()
     {
         QFETCH(bool, titleToo);

@@ -8,7 +8,6 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QProgressBar>
 #include <QStackedWidget>
 #include <QUndoStack>
 
@@ -70,7 +69,6 @@ private slots:
         QTest::newRow("!") << "a!" << true;
         QTest::newRow("hyphen") << "a-b" << true;
     }
-
     void nameIsChecked()
     {
         QFETCH(QString, name);
@@ -108,7 +106,6 @@ private slots:
         row("both", "Trip", "video", "Trip");
         row("no file name", "1:0", "", "1:0");
     }
-
     void titleAndFileNameAreTwo()
     {
         QFETCH(QString, title);
@@ -139,7 +136,6 @@ private slots:
         QTest::newRow("photo arrives and goes") << "add undo" << true;
         QTest::newRow("read-only history") << QString() << false;
     }
-
     void createMakesTheVideo()
     {
         QFETCH(QString, lateEdits);
@@ -154,7 +150,8 @@ private slots:
         QSignalSpy ended(m->page.get(), &MainWindowWidget::progressFinished);
         QSignalSpy progress(m->page.get(), &MainWindowWidget::progress);
         QSignalSpy recorded(m->page.get(), &MainWindowWidget::recorded);
-        setName(QStringLiteral("video!"));
+        const QString name = QStringLiteral("it's a 100% vidéo 漢!");
+        setName(name);
         create();
         QVERIFY(m->page->isGenerating());
         QVERIFY(!m->table().isEnabled());
@@ -166,9 +163,11 @@ private slots:
         QCOMPARE(finished.count(), 1);
         QCOMPARE(recorded.count(), isSame && historyWritable ? 1 : 0);
         QCOMPARE(m->message().isEmpty(), historyWritable);
-        const QString file = m->path("video!.mp4");
+        const QString file = QDir(m->settings.folder).filePath(name + QStringLiteral(".mp4"));
         QCOMPARE(finished.first().first().toString(), file);
         QVERIFY(QFileInfo(file).size() > 1000);
+        for (int i = 1; i < progress.size(); ++i)
+            QVERIFY(progress[i].first().toInt() > progress[i - 1].first().toInt());
         QCOMPARE(progress.last().first().toInt(), 100);
         QCOMPARE(m->history->projects().size(), std::size_t(1));
         QCOMPARE(m->history->projects().front()->fileName(), file);
@@ -233,7 +232,6 @@ private slots:
         for (const char *what : {"photo", "music", "dates"})
             QTest::newRow(what) << QString::fromLatin1(what);
     }
-
     void waitsForWhatIsOnItsWay()
     {
         QFETCH(QString, what);
@@ -262,7 +260,6 @@ private slots:
         for (const char *by : {"another project", "photo", "caption"})
             QTest::newRow(by) << QString::fromLatin1(by);
     }
-
     void preparationsCanBeOvertaken()
     {
         QFETCH(QString, by);
@@ -297,7 +294,6 @@ private slots:
                 << QStringLiteral("/proc") << QStringLiteral("be written to");
         QTest::newRow("below a file") << QString() << "cannot be made";
     }
-
     void folderMustBeWritable()
     {
         QFETCH(QString, folder);

@@ -10,7 +10,6 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QFileDialog>
-#include <QLineEdit>
 #include <QMenu>
 #include <QTextEdit>
 #include <QToolButton>
@@ -61,7 +60,6 @@ private slots:
         QTest::newRow("after the title slide") << 0 << "zxyabcd";
         QTest::newRow("at the end") << -1 << "abcdzxy";
     }
-
     void droppedFilesFollowTheirRow()
     {
         QFETCH(int, newRow);
@@ -127,7 +125,6 @@ private slots:
         QTest::newRow("actDown") << "adbc";
         QTest::newRow("actDelete") << "ad";
     }
-
     void keysEditTheSelection()
     {
         m->addPhotos(QStringLiteral("abcd"));

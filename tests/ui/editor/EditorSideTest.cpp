@@ -32,7 +32,6 @@ private slots:
         QTest::newRow("usual") << QSize(1440, 804) << EditorSide::Mode::PreviewAndTabs;
         QTest::newRow("large") << QSize(2560, 1340) << EditorSide::Mode::All;
     }
-
     void asMuchIsShownAsFits()
     {
         QFETCH(QSize, size);

@@ -74,7 +74,6 @@ private slots:
         QTest::newRow("empty") << QString();
         QTest::newRow("other files") << "inner/notes.txt";
     }
-
     void folderWithoutPhotosIsListed()
     {
         QFETCH(QString, file);

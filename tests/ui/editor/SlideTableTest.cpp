@@ -73,7 +73,6 @@ private slots:
         QTest::newRow("two up") << QVector<int>{3, 5} << 1 << "ceabd";
         QTest::newRow("never above the title slide") << QVector<int>{2} << 0 << "bacde";
     }
-
     void rowsAreReorderedByDragging()
     {
         QFETCH(QVector<int>, rows);
@@ -98,7 +97,6 @@ private slots:
         QTest::newRow("within the selection") << QVector<int>{2, 4} << QVector<int>{2, 4};
         QTest::newRow("outside of it") << QVector<int>{4, 5} << QVector<int>{2};
     }
-
     void valueIsChosenForTheSelection()
     {
         QFETCH(QVector<int>, selected);

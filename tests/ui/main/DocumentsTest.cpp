@@ -40,7 +40,6 @@ private slots:
         for (const char *answer : {"RESUME", "CANCEL"})
             QTest::newRow(answer) << answer;
     }
-
     void resumeAsksAboutMissingFiles()
     {
         QFETCH(QString, answer);
@@ -103,6 +102,7 @@ private slots:
         QVERIFY(QFile::exists(copy + QStringLiteral(".json")));
         m->press(Qt::Key_N, Qt::ControlModifier);
         QCOMPARE(m->view->page(), MainView::Start);
+        QCOMPARE(m->view->windowTitle(), QStringLiteral("Corvel Velmora"));
         QVERIFY(!m->view->document().project());
     }
 
@@ -126,7 +126,6 @@ private slots:
         QTest::newRow("no project") << QByteArray("{\"a\": 1}");
         QTest::newRow("empty") << QByteArray();
     }
-
     void badDocumentChangesNothing()
     {
         QFETCH(QByteArray, content);
@@ -179,7 +178,6 @@ private slots:
         QTest::newRow("discard") << "DON'T SAVE" << true << false;
         QTest::newRow("save") << "SAVE" << true << true;
     }
-
     void closingAsks()
     {
         QFETCH(QString, answer);

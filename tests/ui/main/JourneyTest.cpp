@@ -10,7 +10,6 @@
 #include "ui/preview/PreviewWidget.h"
 
 #include <QLabel>
-#include <QPushButton>
 #include <QTableView>
 #include <QTextEdit>
 

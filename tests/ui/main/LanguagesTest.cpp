@@ -121,7 +121,6 @@ private slots:
                 << QString::fromLatin1(language) << QSize(1920, 1080);
         }
     }
-
     void showsWholeTranslatedTexts()
     {
         QFETCH(QString, language);

@@ -71,7 +71,6 @@ private slots:
         QTest::newRow("history page") << true << false;
         QTest::newRow("history page, cancelled") << true << true;
     }
-
     void photosAreChosen()
     {
         QFETCH(bool, fromHistory);
@@ -184,11 +183,6 @@ private slots:
         // The history keeps the slideshow, so that nothing would be lost.
         QVERIFY(!m->view->isWindowModified());
         QVERIFY(m->view->close());
-    }
-
-    void removedVideoIsNotOffered()
-    {
-        m->addToHistory("old.mp4");
         m->show();
         QVERIFY(m->child<QLabel>("lblLastProject")->isVisible());
         m->click("btnHistory");
@@ -241,7 +235,6 @@ private slots:
         QTest::newRow("help_main") << int(MainView::Editor);
         QTest::newRow("help_history") << int(MainView::History);
     }
-
     void helpNamesThePlace()
     {
         QFETCH(int, page);
@@ -275,7 +268,6 @@ private slots:
         for (const char *opener : {"btnHelp", "btnSettings", "btnSort", "btnTotal"})
             QTest::addRow("%s, editor", opener) << opener << "txtProjName";
     }
-
     void dialogsGiveTheFocusBack()
     {
         QFETCH(QString, opener);

@@ -8,7 +8,6 @@
 
 #include <QComboBox>
 #include <QStackedWidget>
-#include <QTcpServer>
 
 using namespace velmora;
 
@@ -85,7 +84,6 @@ private slots:
         row("Google Drive", "btnUploadGoogleDrive", "/file/d/");
         row("Dropbox", "btnUploadDropBox", "/home/Apps/");
     }
-
     void videoIsUploaded()
     {
         QFETCH(QString, button);
@@ -148,7 +146,6 @@ private slots:
         row("dropbox", "single", 500, "", "500: Unknown error");
         row("dropbox", "dropbox/client_id", 0, "", "Uploading to Dropbox is not configured.");
     }
-
     void failureIsTold()
     {
         QFETCH(QString, service);

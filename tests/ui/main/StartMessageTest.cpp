@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/main/StartMessage.h"
-#include "helpers/TestFiles.h"
 
 #include <QtTest>
 
@@ -19,7 +18,6 @@ private slots:
         QTest::newRow("odd names") << QStringList({QStringLiteral("/a/new\nline %20 #1?.png"),
                                                    QStringLiteral("/\u00fc/\u65e5\u672c.jpg")});
     }
-
     void carriesFiles()
     {
         QFETCH(QStringList, files);
@@ -35,7 +33,6 @@ private slots:
         QTest::newRow("other first line") << "Hello\nfile:///etc/passwd";
         QTest::newRow("not local") << "Wake up!\nhttp://host/a.png\nfile:";
     }
-
     void refusesOtherTexts()
     {
         QFETCH(QString, message);

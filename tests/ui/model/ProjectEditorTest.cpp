@@ -3,8 +3,6 @@
 #include "app/AppSettings.h"
 #include "helpers/TestFiles.h"
 #include "project/documents/ProjectFile.h"
-#include "project/slides/ProjectItemFirst.h"
-#include "project/slides/ProjectItemSimple.h"
 #include "ui/model/PhotoImporter.h"
 #include "ui/model/ValueLists.h"
 
@@ -107,7 +105,6 @@ private slots:
         row("transition time", [](auto &e, auto &) { e.setTransitionSeconds(3); });
         row("name", [](auto &e, auto &) { e.setName(QStringLiteral("Holiday")); });
     }
-
     void everyEditCanBeUndoneAndRedone()
     {
         QFETCH(Edit, edit);
@@ -154,7 +151,6 @@ private slots:
         QTest::newRow("title stays first") << 0 << "xyzabcd";
         QTest::newRow("beyond") << 99 << "abcdxyz";
     }
-
     void photosGoToTheirRow()
     {
         QFETCH(int, row);
@@ -211,7 +207,6 @@ private slots:
                                         "1600x900,1600x1200,1920x1080,2560x1440,3840x2160";
         QTest::newRow("formats") << ValueLists::formats() << ".mp4,.avi,.mov,.webm";
     }
-
     void valueListsAreComplete()
     {
         QFETCH(QPopupButton::Values, values);

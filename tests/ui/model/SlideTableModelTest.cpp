@@ -4,7 +4,6 @@
 #include "helpers/TestFiles.h"
 #include "project/documents/ProjectFile.h"
 #include "ui/model/ProjectEditor.h"
-#include "ui/model/ValueLists.h"
 
 #include <QUndoStack>
 #include <QtTest>
@@ -97,7 +96,6 @@ private slots:
         QTest::newRow("small photos stay small") << QSize(30, 20) << 0 << QSize(30, 20);
         QTest::newRow("panorama") << QSize(4000, 2) << 0 << QSize(96, 1);
     }
-
     void thumbnailsArriveLater()
     {
         QFETCH(QSize, photo);
@@ -122,7 +120,6 @@ private slots:
         QTest::newRow("comes whole") << "broken";
         QTest::newRow("edited") << "photo";
     }
-
     void thumbnailFollowsTheFile()
     {
         QFETCH(QString, before);

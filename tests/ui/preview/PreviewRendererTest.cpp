@@ -53,7 +53,6 @@ private slots:
         QTest::newRow("push") << 22 << QString();
         QTest::newRow("none, captions") << 0 << "By the lake";
     }
-
     void framesAreThePainters()
     {
         QFETCH(int, transition);

@@ -56,7 +56,6 @@ private slots:
         QTest::newRow("looped") << 0 << 0 << true << 6.0;
         QTest::newRow("looped and faded") << 0 << 1 << true << 5.0;
     }
-
     void trackIsThatOfARender()
     {
         QFETCH(int, offset);
@@ -102,7 +101,6 @@ private slots:
         QTest::newRow("loop") << 0 << true << kLength << true;
         QTest::newRow("length") << 0 << false << kLength + 1000 << true;
     }
-
     void isMadeAgainOnlyForAChange()
     {
         QFETCH(int, fade);

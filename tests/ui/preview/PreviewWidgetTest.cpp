@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/preview/PreviewWidget.h"
 
-#include "app/AppSettings.h"
 #include "helpers/LogCapture.h"
 #include "helpers/MediaSamples.h"
 #include "project/frames/SlideRenderer.h"
@@ -192,7 +191,6 @@ private slots:
             editor.moveSlides({slides.at(2)}, 0);
         }) << false << 6000;
     }
-
     void editsWhilePlaying()
     {
         QFETCH(Edit, edit);
@@ -226,7 +224,6 @@ private slots:
         QTest::newRow("Escape") << false;
         QTest::newRow("closed by the desktop") << true;
     }
-
     void fullSizeKeepsPlaying()
     {
         QFETCH(bool, closed);

@@ -88,7 +88,6 @@ private slots:
         QTest::newRow("two seconds") << qint64(2000) << 50.0;
         QTest::newRow("backwards") << qint64(-1) << 50.0;
     }
-
     void stepsAreLimited()
     {
         QFETCH(qint64, elapsed);
@@ -130,7 +129,6 @@ private slots:
         for (const int slides : {1, 2, 3, 9})
             QTest::addRow("%d slides", slides) << slides;
     }
-
     void fillsAsManyBuffersAsSlides()
     {
         QFETCH(int, slides);
@@ -247,7 +245,6 @@ private slots:
         QTest::newRow("one frame without an effect") << 0 << 2900.0 << 1 << 0;
         QTest::newRow("and one still") << 0 << 3000.0 << 1 << 1;
     }
-
     void showsTheFrameOfThePosition()
     {
         QFETCH(int, transition);

@@ -19,7 +19,6 @@ private slots:
         QTest::newRow("btnClose") << int(QDialog::Rejected);
         QTest::newRow("btnCloseTop") << int(QDialog::Rejected);
     }
-
     void answers()
     {
         SetNameDialog dialog(QStringLiteral("Old"));

@@ -137,7 +137,6 @@ private slots:
         for (const char *pressed : {"btnCancel", "btnClose", "Escape", ""})
             QTest::newRow(pressed) << pressed;
     }
-
     void hidingWritesNothing()
     {
         QFETCH(QString, pressed);
@@ -169,7 +168,6 @@ private slots:
         QTest::newRow("footer") << "settingsFooter" << QPoint(8, 8);
         QTest::newRow("right of a check box") << "chkScaleToFit" << QPoint(-5, -5);
     }
-
     void pressInThePanelChangesNothing()
     {
         QFETCH(QString, widget);
@@ -196,27 +194,6 @@ private slots:
         QVERIFY(dialogs.text().contains(QDir::toNativeSeparators(m_store->fileName())));
         QCOMPARE(m_settings.defaultTime, 7);
         QTRY_VERIFY(!m_panel->isVisible());
-    }
-
-    void survivesGarbage_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::newRow("wrong types")
-            << QByteArray("[General]\ndefaultTime=abc\ntransitionTime=-4\nresolution=0x0\n"
-                          "audioOffset=999999999999\nscaleToFit=perhaps\nlocale=../../etc\n"
-                          "outputProfile=huge\n");
-        QTest::newRow("no INI file") << QByteArray("\x00\xff\xfe[[[=\n\n=;;", 12);
-    }
-
-    void survivesGarbage()
-    {
-        QFETCH(QByteArray, content);
-        write(QStringLiteral("settings.ini"), content);
-        open();
-        QCOMPARE(child<QPopupButton>("btnTime")->value().toInt(), 3);
-        QCOMPARE(child<QPopupButton>("btnResolution")->text(), QStringLiteral("1920x1080"));
-        QCOMPARE(child<QPopupButton>("btnProfile")->value().toString(), QStringLiteral("original"));
-        QVERIFY(child<QComboBox>("cbxLanguage")->currentIndex() >= 0);
     }
 
     void valuesBesideTheListsAreKept()

@@ -30,7 +30,6 @@ private slots:
         QTest::newRow("btnDownload") << int(QDialog::Accepted);
         QTest::newRow("btnCancel") << int(QDialog::Rejected);
     }
-
     void buttons()
     {
         QFETCH(int, result);
