@@ -38,7 +38,8 @@ public:
     ~RenderFixture();
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
-    QString cacheFolder() const { return path(QStringLiteral("cache")); }
+    /// Its name is odd, as that of a user's folder may be.
+    QString cacheFolder() const { return path(QStringLiteral("it's the 100%d cache ü 写真")); }
     QString outputFolder() const { return path(QStringLiteral("out")); }
     QString output(const QString &name) const { return outputFolder() + QLatin1Char('/') + name; }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/encoding/EncoderLocator.h"
+#include "helpers/TestFiles.h"
 
-#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace velmora;
@@ -14,13 +14,12 @@ class EncoderLocatorTest : public QObject
     static QString makeEncoder(const QTemporaryDir &folder, const QByteArray &version)
     {
         const QFileInfo tool(QStringLiteral(FAKE_TOOL));
-        const QString suffix =
-            tool.suffix().isEmpty() ? QString() : QLatin1Char('.') + tool.suffix();
-        const QString program = folder.filePath(QStringLiteral("ffmpeg") + suffix);
-        QFile file(program + QStringLiteral(".version"));
-        if (file.open(QIODevice::WriteOnly))
-            file.write("ffmpeg version " + version);
-        return QFile::copy(tool.filePath(), program) ? program : QString();
+        const QString program =
+            folder.filePath(tool.fileName().replace(tool.baseName(), QStringLiteral("ffmpeg")));
+        return writeFile(program + QStringLiteral(".version"), "ffmpeg version " + version) &&
+                       QFile::copy(tool.filePath(), program)
+                   ? program
+                   : QString();
     }
 
     static bool onWindows()
@@ -69,26 +68,18 @@ private slots:
     void prefersTheConfiguredProgram()
     {
         const QTemporaryDir configured;
+        const QTemporaryDir old;
         const QTemporaryDir path;
-        const QString program = makeEncoder(configured, "6.0");
-        makeEncoder(path, "6.1");
-        qputenv("PATH", QFile::encodeName(path.path()));
-        qputenv("VELMORA_FFMPEG", QFile::encodeName(program));
-        const EncoderLocation location = locateEncoder();
-        QCOMPARE(location.program, program);
-        QVERIFY(location.error.isEmpty());
-    }
-
-    void fallsBackToThePath()
-    {
-        const QTemporaryDir configured;
-        const QTemporaryDir path;
-        const QString program = makeEncoder(path, "6.1");
+        const QString inPath = makeEncoder(path, "6.1");
         qputenv("PATH", QFile::encodeName(path.path()));
         qputenv("VELMORA_FFMPEG", "/nowhere/ffmpeg");
+        QCOMPARE(locateEncoder().program, inPath);
+        qputenv("VELMORA_FFMPEG", QFile::encodeName(makeEncoder(old, "4.2.7")));
+        QCOMPARE(locateEncoder().program, inPath);
+        const QString program = makeEncoder(configured, "6.0");
+        qputenv("VELMORA_FFMPEG", QFile::encodeName(program));
         QCOMPARE(locateEncoder().program, program);
-        qputenv("VELMORA_FFMPEG", QFile::encodeName(makeEncoder(configured, "4.2.7")));
-        QCOMPARE(locateEncoder().program, program);
+        QVERIFY(locateEncoder().error.isEmpty());
     }
 
     void namesWhatIsTooOld()

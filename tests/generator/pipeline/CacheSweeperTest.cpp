@@ -1,16 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/CacheSweeper.h"
 #include "helpers/DeadLock.h"
+#include "helpers/TestFiles.h"
 
 #include "generator/pipeline/RenderCache.h"
 
-#include <QDateTime>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QLockFile>
-#include <QSysInfo>
-#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace velmora;
@@ -23,20 +17,13 @@ class CacheSweeperTest : public QObject
 
     QString path(const QString &name) const { return m_cache->filePath(name); }
 
-    static void write(const QString &name, const QByteArray &content)
-    {
-        QFile file(name);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), qint64(content.size()));
-    }
-
     /// What a render leaves that was killed: its lock names a process that cannot exist.
     QString makeDead(const QString &name) const
     {
         const QString folder = path(name);
         QDir().mkpath(folder + QStringLiteral("/images"));
-        write(folder + QStringLiteral("/images/img_i0_00001.jpg"), "x");
-        write(folder + QLatin1Char('/') + CacheSweeper::kLockFile, deadLock());
+        writeFile(folder + QStringLiteral("/images/img_i0_00001.jpg"), "x");
+        writeFile(folder + QLatin1Char('/') + CacheSweeper::kLockFile, deadLock());
         return folder;
     }
 
@@ -59,20 +46,28 @@ private slots:
 
     void removesTheUnfinishedVideoOfADeadRender_data()
     {
+        QTest::addColumn<QString>("noted");
         QTest::addColumn<QString>("name");
-        QTest::newRow("complete") << QStringLiteral(".holiday.part-abc123.mp4");
-        QTest::newRow("being multiplexed") << QStringLiteral(".holiday.part-abc123.part.mp4");
+        QTest::addColumn<bool>("removed");
+        const auto row = [](const char *what, const char *noted, const char *name, bool removed) {
+            QTest::newRow(what) << noted << QString::fromLatin1(name) << removed;
+        };
+        const char *video = ".holiday.part-abc123.mp4";
+        row("complete", video, video, true);
+        row("being multiplexed", video, ".holiday.part-abc123.part.mp4", true);
+        row("no unfinished video", "holiday.mp4", "holiday.mp4", false);
     }
-
     void removesTheUnfinishedVideoOfADeadRender()
     {
+        QFETCH(QString, noted);
         QFETCH(QString, name);
-        write(path(name), "half");
+        QFETCH(bool, removed);
+        QVERIFY(writeFile(path(name), "half"));
         const QString dead = makeDead(QStringLiteral("render-dead01"));
-        write(dead + QLatin1Char('/') + CacheSweeper::kOutputNote,
-              path(QStringLiteral(".holiday.part-abc123.mp4")).toUtf8());
+        QVERIFY(
+            writeFile(dead + QLatin1Char('/') + CacheSweeper::kOutputNote, path(noted).toUtf8()));
         CacheSweeper::sweep(m_cache->path());
-        QVERIFY(!QFileInfo::exists(path(name)));
+        QCOMPARE(QFileInfo::exists(path(name)), !removed);
         QVERIFY(!QFileInfo::exists(dead));
     }
 
@@ -80,28 +75,18 @@ private slots:
     {
         const QString video = path(QStringLiteral(".holiday.part-abc123.mp4"));
         QVERIFY(QDir().mkpath(video)); // in place of a file that is open
-        const QString dead = makeDead(QStringLiteral("render-dead01"));
-        const QString note = dead + QLatin1Char('/') + CacheSweeper::kOutputNote;
-        write(note, video.toUtf8());
+        const QString note = makeDead(QStringLiteral("render-dead01")) + QLatin1Char('/') +
+                             CacheSweeper::kOutputNote;
+        QVERIFY(writeFile(note, video.toUtf8()));
         QCOMPARE(CacheSweeper::sweep(m_cache->path()), 0);
         QVERIFY(QFileInfo::exists(note));
-    }
-
-    void removesNoOtherFileThatANoteNames()
-    {
-        const QString video = path(QStringLiteral("holiday.mp4"));
-        write(video, "whole");
-        const QString dead = makeDead(QStringLiteral("render-dead01"));
-        write(dead + QLatin1Char('/') + CacheSweeper::kOutputNote, video.toUtf8());
-        CacheSweeper::sweep(m_cache->path());
-        QVERIFY(QFileInfo::exists(video));
     }
 
     void removesTheLocksOfDeadRendersOnly()
     {
         QLockFile live(path(QStringLiteral("live.lock")));
         QVERIFY(live.tryLock(0));
-        write(path(QStringLiteral("dead.lock")), deadLock());
+        QVERIFY(writeFile(path(QStringLiteral("dead.lock")), deadLock()));
         CacheSweeper::sweepLocks(m_cache->path());
         QVERIFY(QFileInfo::exists(path(QStringLiteral("live.lock"))));
         QVERIFY(!QFileInfo::exists(path(QStringLiteral("dead.lock"))));
@@ -121,7 +106,7 @@ private slots:
 
     void aCacheThatCannotBeMadeSaysWhy()
     {
-        write(path(QStringLiteral("file")), "x");
+        QVERIFY(writeFile(path(QStringLiteral("file")), "x"));
         const RenderCache cache(path(QStringLiteral("file")));
         QVERIFY(!cache.isValid());
         QVERIFY(!cache.errorText().isEmpty());

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/InputCheck.h"
 #include "helpers/RenderFixture.h"
+#include "helpers/TestFiles.h"
 
-#include "project/slides/ProjectItemFirst.h"
-
-#include <QFile>
 #include <QtTest>
 
 using namespace velmora;
@@ -31,10 +29,10 @@ private slots:
     void namesAllBadFilesInTheirOrderAndOnce()
     {
         const QString first = m_fixture.path(QStringLiteral("gone.jpg"));
-        QFile whole(m_fixture.photo(QStringLiteral("whole.jpg"), 1, {640, 480}));
-        QVERIFY(whole.open(QIODevice::ReadOnly));
+        const QByteArray whole =
+            readFile(m_fixture.photo(QStringLiteral("whole.jpg"), 1, {640, 480}));
         const QString second =
-            m_fixture.file(QStringLiteral("half.jpg"), whole.read(whole.size() / 2));
+            m_fixture.file(QStringLiteral("half.jpg"), whole.left(whole.size() / 2));
         const QString sound = m_fixture.file(QStringLiteral("text.mp3"), "This is no music.\n");
         RenderRequest request =
             m_fixture.request({first, m_fixture.photo(QStringLiteral("a.jpg"), 1), second, first},

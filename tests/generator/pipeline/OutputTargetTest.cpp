@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/OutputTarget.h"
 #include "helpers/DeadLock.h"
+#include "helpers/TestFiles.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace velmora;
@@ -16,25 +13,12 @@ class OutputTargetTest : public QObject
 
     std::unique_ptr<QTemporaryDir> m_folder;
 
-    QString path(const QString &name) const { return m_folder->filePath(name); }
+    QString path(const QString &name) const { return QDir(m_folder->path()).filePath(name); }
     QString locks() const { return path(QStringLiteral("locks")); }
 
     RenderError prepare(OutputTarget &target, const QString &name) const
     {
         return target.prepare(path(name), QStringLiteral("mp4"), locks());
-    }
-
-    static void write(const QString &name, const QByteArray &content)
-    {
-        QFile file(name);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), qint64(content.size()));
-    }
-
-    static QByteArray read(const QString &name)
-    {
-        QFile file(name);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
 private slots:
@@ -58,7 +42,6 @@ private slots:
         row("unknown format", "a", "../x", "a.mkv", "mkv");
         row("odd letters", "Ü 100% 'x'", "MKV", "Ü 100% 'x'.mkv", "mkv");
     }
-
     void choosesTheContainer()
     {
         QFETCH(QString, name);
@@ -76,38 +59,25 @@ private slots:
     void refusesWhatCannotBeWritten_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("told");
-        const auto row = [](const QString &name, const char *told) {
-            QTest::newRow(told) << name << QString::fromLatin1(told);
-        };
-        row(QStringLiteral("none/a.mp4"), "does not exist");
-        row(QStringLiteral("plain/a.mp4"), "not a folder");
-        row(QStringLiteral("dir.mp4"), "a folder has that name");
-        row(QString(150, QChar(0xfc)), "too long"); // in bytes
+        QTest::newRow("does not exist") << "none/a.mp4";
+        QTest::newRow("not a folder") << "plain/a.mp4";
+        QTest::newRow("a folder has that name") << "dir.mp4";
+        QTest::newRow("too long") << QString(150, QChar(0xfc)); // in bytes
+        // The system's own files are read-only even for the super-user.
+        if (QFileInfo(QStringLiteral("/proc")).isDir())
+            QTest::newRow("/proc") << "/proc/a.mp4";
     }
-
     void refusesWhatCannotBeWritten()
     {
         QFETCH(QString, name);
-        QFETCH(QString, told);
-        write(path(QStringLiteral("plain")), "x");
+        QVERIFY(writeFile(path(QStringLiteral("plain")), "x"));
         QDir(m_folder->path()).mkdir(QStringLiteral("dir.mp4"));
         OutputTarget target;
         const RenderError error = prepare(target, name);
-        QCOMPARE(error.code, QString(RenderErrorCode::kOutput));
-        QVERIFY2(error.text.contains(told), qPrintable(error.text));
-    }
-
-    void refusesAReadOnlyFolder()
-    {
-        // The system's own files are read-only even for the super-user.
-        if (!QFileInfo(QStringLiteral("/proc")).isDir())
-            QSKIP("needs a folder into which nobody can write");
-        OutputTarget target;
-        const RenderError error =
-            target.prepare(QStringLiteral("/proc/a.mp4"), QStringLiteral("mp4"), locks());
-        QVERIFY(error.isSet());
-        QVERIFY2(error.text.contains(QLatin1String("/proc")), qPrintable(error.text));
+        if (!name.startsWith(QLatin1Char('/'))) // where the system claims to have no room
+            QCOMPARE(error.code, QString(RenderErrorCode::kOutput));
+        QVERIFY2(error.text.contains(QLatin1String(QTest::currentDataTag())),
+                 qPrintable(error.text));
     }
 
     void takesTheLongestNames()
@@ -116,20 +86,9 @@ private slots:
         const RenderError error =
             prepare(target, QString(251, QLatin1Char('x')) + QStringLiteral(".mp4"));
         QVERIFY2(!error.isSet(), qPrintable(error.text));
-        write(target.temporaryFile(), "video");
+        QVERIFY(writeFile(target.temporaryFile(), "video"));
         QVERIFY(!target.commit().isSet());
-        QCOMPARE(read(target.fileName()), QByteArray("video"));
-    }
-
-    void replacesTheOlderVideoOnlyAtTheEnd()
-    {
-        write(path(QStringLiteral("a.mp4")), "old");
-        OutputTarget target;
-        QVERIFY(!prepare(target, QStringLiteral("a.mp4")).isSet());
-        write(target.temporaryFile(), "new");
-        QCOMPARE(read(path(QStringLiteral("a.mp4"))), QByteArray("old"));
-        QVERIFY(!target.commit().isSet());
-        QCOMPARE(read(path(QStringLiteral("a.mp4"))), QByteArray("new"));
+        QCOMPARE(readFile(target.fileName()), QByteArray("video"));
     }
 
     void keepsAVideoThatCannotBePutInPlace_data()
@@ -138,16 +97,13 @@ private slots:
         QTest::addColumn<QStringList>("taken");
         QTest::addColumn<QString>("kept");
         const QString longest(251, QLatin1Char('x'));
-        QTest::newRow("first free name")
-            << QStringLiteral("50% %1.MP4") << QStringList() << QStringLiteral("50% %1 (2).MP4");
+        QTest::newRow("first free name") << "50% %1.MP4" << QStringList() << "50% %1 (2).MP4";
         QTest::newRow("others taken")
-            << QStringLiteral("a.mp4")
-            << QStringList{QStringLiteral("a (2).mp4"), QStringLiteral("a (3).mp4")}
-            << QStringLiteral("a (4).mp4");
+            << "a.mp4" << QStringList{QStringLiteral("a (2).mp4"), QStringLiteral("a (3).mp4")}
+            << "a (4).mp4";
         QTest::newRow("longest name") << longest + QStringLiteral(".mp4") << QStringList()
                                       << longest.left(207) + QStringLiteral(" (2).mp4");
     }
-
     void keepsAVideoThatCannotBePutInPlace()
     {
         QFETCH(QString, name);
@@ -155,31 +111,37 @@ private slots:
         QFETCH(QString, kept);
         OutputTarget target;
         QVERIFY(!prepare(target, name).isSet());
-        write(target.temporaryFile(), "video");
+        QVERIFY(writeFile(target.temporaryFile(), "video"));
         for (const QString &other : qAsConst(taken))
-            write(path(other), "older");
+            QVERIFY(writeFile(path(other), "older"));
         QVERIFY(QDir().mkpath(path(name))); // nothing can be renamed to a folder's name
         const RenderError error = target.commit();
         target.release();
         QCOMPARE(error.code, QString(RenderErrorCode::kOutput));
         QVERIFY2(error.text.contains(path(name)), qPrintable(error.text));
         QVERIFY2(error.text.contains(path(kept)), qPrintable(error.text));
-        QCOMPARE(read(path(kept)), QByteArray("video"));
+        QCOMPARE(readFile(path(kept)), QByteArray("video"));
         for (const QString &other : qAsConst(taken))
-            QCOMPARE(read(path(other)), QByteArray("older"));
+            QCOMPARE(readFile(path(other)), QByteArray("older"));
     }
 
-    void leavesNothingWithoutCommit()
+    void replacesTheOlderVideoOnlyAtTheEnd()
     {
-        write(path(QStringLiteral("a.mp4")), "old");
-        {
-            OutputTarget target;
-            QVERIFY(!prepare(target, QStringLiteral("a.mp4")).isSet());
-            write(target.temporaryFile(), "half");
+        const QString video = path(QStringLiteral("a.mp4"));
+        QVERIFY(writeFile(video, "old"));
+        for (const bool committed : {false, true}) {
+            {
+                OutputTarget target;
+                QVERIFY(!prepare(target, QStringLiteral("a.mp4")).isSet());
+                QVERIFY(writeFile(target.temporaryFile(), "new"));
+                QCOMPARE(readFile(video), QByteArray("old"));
+                if (committed)
+                    QVERIFY(!target.commit().isSet());
+            }
+            QCOMPARE(readFile(video), QByteArray(committed ? "new" : "old"));
+            QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden),
+                     QStringList{QStringLiteral("a.mp4")});
         }
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden),
-                 QStringList{QStringLiteral("a.mp4")});
-        QCOMPARE(read(path(QStringLiteral("a.mp4"))), QByteArray("old"));
     }
 
     void refusesASecondRenderOfTheSameVideo()
@@ -189,7 +151,7 @@ private slots:
         const QString folder = QFileInfo(m_folder->path()).fileName();
         QFile::link(m_folder->path(), path(QStringLiteral("link")));
         const bool linked = QFileInfo(path(QStringLiteral("link"))).isDir();
-        write(path(QStringLiteral("B.MP4")), "x");
+        QVERIFY(writeFile(path(QStringLiteral("B.MP4")), "x"));
         const bool anyCase = QFileInfo::exists(path(QStringLiteral("b.mp4")));
         for (const QString &name : {QStringLiteral("../%1/a.mp4").arg(folder),
                                     linked ? QStringLiteral("link/a.mp4") : QStringLiteral("a.mp4"),
@@ -212,7 +174,7 @@ private slots:
             QVERIFY(!prepare(target, QStringLiteral("a.mp4")).isSet());
             lockFile = QDir(locks()).entryInfoList(QDir::Files).constFirst().filePath();
         }
-        write(lockFile, deadLock());
+        QVERIFY(writeFile(lockFile, deadLock()));
         OutputTarget target;
         const RenderError error = prepare(target, QStringLiteral("a.mp4"));
         QVERIFY2(!error.isSet(), qPrintable(error.text));
@@ -220,13 +182,11 @@ private slots:
 
     void sweepsUnfinishedVideosOfTheSameName()
     {
-        const QStringList strays{QStringLiteral(".a.part-abc123.mp4"),
-                                 QStringLiteral(".a.part-abc123.part.mp4")};
-        const QStringList others{
-            QStringLiteral(".a.part-abc123.avi"), QStringLiteral(".a.part-b.part-abc123.mp4"),
-            QStringLiteral(".a.part-ABC124.mp4"), QStringLiteral("a.part.mp4")};
+        const QStringList strays = words(".a.part-abc123.mp4 .a.part-abc123.part.mp4");
+        const QStringList others =
+            words(".a.part-abc123.avi .a.part-b.part-abc123.mp4 .a.part-ABC124.mp4 a.part.mp4");
         for (const QString &name : strays + others)
-            write(path(name), "x");
+            QVERIFY(writeFile(path(name), "x"));
         OutputTarget target;
         QVERIFY(!prepare(target, QStringLiteral("a.mp4")).isSet());
         for (const QString &name : strays)

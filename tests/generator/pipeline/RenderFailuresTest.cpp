@@ -5,12 +5,10 @@
 #include "helpers/LogCapture.h"
 #include "helpers/ProcessControl.h"
 #include "helpers/RenderFixture.h"
+#include "helpers/TestFiles.h"
 #include "platform/TerminationWatcher.h"
 #include "services/MetricSender.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTranslator>
 #include <QtTest>
 
 using namespace velmora;
@@ -41,14 +39,31 @@ class RenderFailuresTest : public QObject
     RenderFixture m_fixture;
     QStringList m_photos;
 
+    RenderRequest request(const QStringList &photos) const
+    {
+        return m_fixture.request(photos, m_fixture.output(QStringLiteral("video.mp4")));
+    }
+
     RenderRequest request(bool parallel = false) const
     {
-        RenderRequest made =
-            m_fixture.request(m_photos, m_fixture.output(QStringLiteral("video.mp4")));
+        RenderRequest made = request(m_photos);
         made.parallel = parallel;
         // This profile has the joined picture copied into the output, by one more run.
         made.profile = OutputProfile::PlaysEverywhere;
         return made;
+    }
+
+    /// Runs the job; once the files are checked, and before the first frame, @p disturb happens.
+    template <typename Disturb> static RenderOutcome runDisturbed(RenderJob &job, Disturb disturb)
+    {
+        job.setPaused(true);
+        connect(&job, &RenderJob::stageChanged, &job, [&](const QString &stage) {
+            if (stage != QLatin1String("frames"))
+                return;
+            disturb();
+            job.setPaused(false);
+        });
+        return RenderFixture::run(job);
     }
 
     void fakeEncoder(int call, const QString &action) const
@@ -56,12 +71,8 @@ class RenderFailuresTest : public QObject
         m_fixture.fakeTool("VELMORA_FFMPEG", call, action);
     }
 
-    /// The process whose id a fake program wrote to @p file.
-    static qint64 pidIn(const QString &file)
-    {
-        QFile pid(file);
-        return pid.open(QIODevice::ReadOnly) ? pid.readAll().toLongLong() : -1;
-    }
+    /// The process whose id a fake program wrote to @p file; 0 if it did not yet.
+    static qint64 pidIn(const QString &file) { return readFile(file).toLongLong(); }
 
 private slots:
     void initTestCase()
@@ -75,15 +86,10 @@ private slots:
 
     void init()
     {
-        QFile old(m_fixture.output(QStringLiteral("video.mp4")));
-        QVERIFY(old.open(QIODevice::WriteOnly));
-        old.write("old");
+        m_fixture.file(QStringLiteral("out/video.mp4"), "old");
         // What a killed render left goes, whatever this one ends with.
-        const QString dead = m_fixture.cacheFolder() + QStringLiteral("/render-dead01");
-        QVERIFY(QDir().mkpath(dead));
-        QFile lock(dead + QLatin1Char('/') + CacheSweeper::kLockFile);
-        QVERIFY(lock.open(QIODevice::WriteOnly));
-        lock.write(deadLock());
+        const QString dead = m_fixture.cacheFolder() + QStringLiteral("/render-dead01/");
+        QVERIFY(QDir().mkpath(dead) && writeFile(dead + CacheSweeper::kLockFile, deadLock()));
     }
 
     void cleanup()
@@ -92,9 +98,7 @@ private slots:
         qunsetenv("VELMORA_TRANSCODER");
         if (QTest::currentTestFunction() == QByteArray("withoutACacheNothingIsRendered"))
             QDir(m_fixture.cacheFolder()).removeRecursively(); // another folder was swept
-        QFile old(m_fixture.output(QStringLiteral("video.mp4")));
-        QVERIFY(old.open(QIODevice::ReadOnly));
-        QCOMPARE(old.readAll(), QByteArray("old"));
+        QCOMPARE(readFile(m_fixture.output(QStringLiteral("video.mp4"))), QByteArray("old"));
         QCOMPARE(m_fixture.leftovers(), QStringList());
     }
 
@@ -114,14 +118,21 @@ private slots:
             QTest::addRow("nothing written, %s", mode) << 9 << "exit|0" << parallel;
         }
     }
-
     void encoderFails()
     {
         QFETCH(int, call);
         QFETCH(QString, action);
         QFETCH(bool, parallel);
         fakeEncoder(call, action);
+        const auto told = [](const char *event) {
+            return MetricSender::instance().pending().filter(QLatin1String(event)).size();
+        };
+        const int failures = told("err1:");
+        const int starts = told("gres:160x90");
         const RenderOutcome outcome = m_fixture.render(request(parallel));
+        QCOMPARE(told("gres:160x90"), starts + 1);
+        QCOMPARE(told("err1:"), failures + 1);
+        QCOMPARE(told("end:"), 0);
         QCOMPARE(outcome.kind, RenderOutcome::Failed);
         QCOMPARE(outcome.endings, 1);
         QCOMPARE(outcome.error.code, QString(RenderErrorCode::kEncoder));
@@ -137,20 +148,16 @@ private slots:
         QTest::addColumn<QByteArray>("program");
         QTest::addColumn<QString>("action");
         QTest::newRow("encoder") << QByteArray("VELMORA_FFMPEG")
-                                 << QStringLiteral("err|x: No space left on device|exit|1");
-        QTest::newRow("transcoder") << QByteArray("VELMORA_TRANSCODER") << QStringLiteral("exit|4");
+                                 << "err|x: No space left on device|exit|1";
+        QTest::newRow("transcoder") << QByteArray("VELMORA_TRANSCODER") << "exit|4";
     }
-
     void aFullDiskIsToldAsSuch()
     {
         QFETCH(QByteArray, program);
         QFETCH(QString, action);
         m_fixture.fakeTool(program.constData(), 1, action);
         RenderRequest made = request();
-        const QString music = m_fixture.sound(QStringLiteral("music.mp3"), 2);
-        AudioItemList list;
-        list.items.append({music, QString()});
-        made.project->setAudio(list);
+        made.project->setAudio({{{m_fixture.sound(QStringLiteral("music.mp3"), 2), {}}}, 0});
         const RenderOutcome outcome = m_fixture.render(std::move(made));
         QCOMPARE(outcome.error.code, QString(RenderErrorCode::kDiskFull));
         QVERIFY2(outcome.error.text.contains(m_fixture.cacheFolder()),
@@ -163,7 +170,6 @@ private slots:
         QTest::newRow("segment") << 2;
         QTest::newRow("output") << 9;
     }
-
     void cancelEndsAHangingEncoder()
     {
         QFETCH(int, call);
@@ -211,58 +217,27 @@ private slots:
     void aRenameThatFailsIsTold_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("slide") << QStringLiteral("vid_c0.mp4");
-        QTest::newRow("total") << QStringLiteral("vid_c_total.mp4");
+        QTest::newRow("slide") << "vid_c0.mp4";
+        QTest::newRow("total") << "vid_c_total.mp4";
     }
-
     void aRenameThatFailsIsTold()
     {
         QFETCH(QString, name);
-        RenderJob job(
-            m_fixture.request({m_photos.first()}, m_fixture.output(QStringLiteral("video.mp4"))),
-            m_fixture.settings, m_fixture.cacheFolder());
-        job.setPaused(true);
-        connect(&job, &RenderJob::stageChanged, &job, [&](const QString &stage) {
-            if (stage != QLatin1String("frames"))
-                return;
+        RenderJob job(request({m_photos.first()}), m_fixture.settings, m_fixture.cacheFolder());
+        const RenderOutcome outcome = runDisturbed(job, [&] {
             const QDir cache(m_fixture.cacheFolder());
             const QString render = cache.entryList({QStringLiteral("render-*")}).value(0);
             QVERIFY(cache.mkpath(QStringLiteral("%1/video/%2/x").arg(render, name)));
-            job.setPaused(false);
         });
-        const RenderOutcome outcome = RenderFixture::run(job);
         QVERIFY2(outcome.error.text.endsWith(name + QStringLiteral(" cannot be written.")),
                  qPrintable(outcome.error.text));
-    }
-
-    void failuresAreCounted_data()
-    {
-        QTest::addColumn<int>("call");
-        QTest::newRow("a segment") << 2;
-        QTest::newRow("the total join") << 8;
-    }
-
-    void failuresAreCounted()
-    {
-        QFETCH(int, call);
-        const auto told = [](const char *event) {
-            return MetricSender::instance().pending().filter(QLatin1String(event)).size();
-        };
-        const int failures = told("err1:");
-        const int starts = told("gres:160x90");
-        fakeEncoder(call, QStringLiteral("exit|1"));
-        m_fixture.render(request());
-        QCOMPARE(told("gres:160x90"), starts + 1);
-        QCOMPARE(told("err1:"), failures + 1);
-        QCOMPARE(told("end:"), 0);
     }
 
     void refusesRequestsThatMakeNoVideo()
     {
         RenderRequest none;
         QCOMPARE(m_fixture.render(std::move(none)).error.code, QString(RenderErrorCode::kRequest));
-        const RenderOutcome empty =
-            m_fixture.render(m_fixture.request({}, m_fixture.output(QStringLiteral("video.mp4"))));
+        const RenderOutcome empty = m_fixture.render(request(QStringList()));
         QCOMPARE(empty.error.code, QString(RenderErrorCode::kRequest));
         QCOMPARE(empty.error.text, QStringLiteral("The slideshow has no slides."));
         RenderRequest tiny = request();
@@ -272,10 +247,8 @@ private slots:
 
     void badInputRendersNothing()
     {
-        RenderRequest bad =
-            m_fixture.request(m_photos + QStringList{m_fixture.path(QStringLiteral("gone.jpg"))},
-                              m_fixture.output(QStringLiteral("video.mp4")));
-        const RenderOutcome outcome = m_fixture.render(std::move(bad));
+        const RenderOutcome outcome = m_fixture.render(
+            request(m_photos + QStringList{m_fixture.path(QStringLiteral("gone.jpg"))}));
         QCOMPARE(outcome.error.code, QString(RenderErrorCode::kInput));
         QVERIFY(outcome.error.text.contains(QLatin1String("gone.jpg")));
         QCOMPARE(outcome.stages, QStringList{QStringLiteral("check")});
@@ -284,35 +257,11 @@ private slots:
     void aPhotoThatVanishesIsNamed()
     {
         const QString photo = m_fixture.photo(QStringLiteral("vanishing.jpg"), 5);
-        RenderJob job(m_fixture.request(m_photos + QStringList{photo},
-                                        m_fixture.output(QStringLiteral("video.mp4"))),
-                      m_fixture.settings, m_fixture.cacheFolder());
-        job.setPaused(true);
-        connect(&job, &RenderJob::stageChanged, &job, [&](const QString &stage) {
-            if (stage != QLatin1String("frames"))
-                return;
-            QFile::remove(photo);
-            job.setPaused(false);
-        });
-        const RenderOutcome outcome = RenderFixture::run(job);
+        RenderJob job(request(m_photos + QStringList{photo}), m_fixture.settings,
+                      m_fixture.cacheFolder());
+        const RenderOutcome outcome = runDisturbed(job, [&] { QFile::remove(photo); });
         QCOMPARE(outcome.error.code, QString(RenderErrorCode::kInput));
         QVERIFY(outcome.error.text.contains(photo));
-    }
-
-    void twoRendersOfTheSameVideo()
-    {
-        RenderJob first(request(), m_fixture.settings, m_fixture.cacheFolder());
-        first.setPaused(true);
-        RenderOutcome second;
-        connect(&first, &RenderJob::stageChanged, &first, [&](const QString &stage) {
-            if (stage != QLatin1String("frames"))
-                return;
-            second = m_fixture.render(request());
-            first.cancel();
-        });
-        QCOMPARE(RenderFixture::run(first).kind, RenderOutcome::Cancelled);
-        QCOMPARE(second.error.code, QString(RenderErrorCode::kBusy));
-        QVERIFY(second.error.text.contains(QLatin1String("video.mp4")));
     }
 
     void withoutACacheNothingIsRendered()
@@ -330,11 +279,10 @@ private slots:
         QTest::addColumn<QString>("action"); // of the first run
         QTest::addColumn<QString>("output");
         const QString video = QStringLiteral("video.mp4");
-        QTest::newRow("encoder") << QStringLiteral("exit|1") << video;
-        QTest::newRow("disk") << QStringLiteral("err|No space left on device") << video;
-        QTest::newRow("output") << QString() << QStringLiteral("none/video.mp4");
+        QTest::newRow("encoder") << "exit|1" << video;
+        QTest::newRow("disk") << "err|No space left on device" << video;
+        QTest::newRow("output") << QString() << "none/video.mp4";
     }
-
     void theLogIsNotTranslated()
     {
         QFETCH(QString, action);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/RenderPlan.h"
+#include "helpers/TestFiles.h"
 
 #include "app/AppSettings.h"
 #include "project/documents/ProjectFile.h"
@@ -119,8 +120,7 @@ private slots:
         QStringList prefixes;
         for (const PlannedStage &stage : made.slides().at(1).stages)
             prefixes.append(stage.prefix());
-        QCOMPARE(prefixes, (QStringList{QStringLiteral("_p2"), QStringLiteral("_t2"),
-                                        QStringLiteral("_i2")}));
+        QCOMPARE(prefixes, words("_p2 _t2 _i2"));
         QCOMPARE(made.totalFrames(), 75 + 50 + 50 + 75);
     }
 };

@@ -96,21 +96,17 @@ class RemainingTimeTest : public QObject
 {
     Q_OBJECT
 private slots:
-    void unknownAtFirst()
+    void unknownAtFirstAndWhileNothingMoves()
     {
         RemainingTime time;
         QCOMPARE(time.remaining(0), qint64(-1));
         time.update(0, 0, 1000);
         time.update(500, 10, 1000);
         QCOMPARE(time.remaining(500), qint64(-1));
-    }
-
-    void unknownWhileNothingMoves()
-    {
-        RemainingTime time;
+        RemainingTime stuck;
         for (qint64 now = 0; now <= 10000; now += 100)
-            time.update(now, 5, 1000);
-        QCOMPARE(time.remaining(10000), qint64(-1));
+            stuck.update(now, 5, 1000);
+        QCOMPARE(stuck.remaining(10000), qint64(-1));
     }
 
     void steadySpeedIsExact()

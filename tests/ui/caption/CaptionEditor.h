@@ -9,9 +9,8 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QImage>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QUndoStack>
+#include <QtTest>
 
 #include <memory>
 
@@ -40,7 +39,7 @@ public:
         widget->resize(900, 600);
         widget->show();
         QApplication::setActiveWindow(widget.get());
-        isShown = QTest::qWaitForWindowActive(widget.get());
+        QVERIFY(QTest::qWaitForWindowActive(widget.get()));
     }
 
     template <typename T> T &child(const char *name) const
@@ -74,7 +73,6 @@ public:
     std::unique_ptr<ProjectFile> project;
     std::unique_ptr<ProjectEditor> editor;
     std::unique_ptr<TextEditWidget> widget;
-    bool isShown = false;
 
 private:
     QTemporaryDir m_folder;

@@ -5,9 +5,7 @@
 #include "project/slides/ProjectItemSimple.h"
 
 #include <QPainter>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QtTest>
 
 using namespace velmora;
 
@@ -16,9 +14,17 @@ namespace
 
 constexpr QSize kSize(320, 180);
 
-QImage pictureOf(const QSignalSpy &spy, int index)
+QImage bareOf(const ProjectItem &slide, bool origRatio = true)
 {
-    return spy.at(index).at(0).value<QImage>();
+    return SlideRenderer::bareFrame(slide, {kSize, origRatio, true});
+}
+
+/// The photo of @p request with its caption, as the video has it.
+QImage captionedOf(const CaptionPictureRequest &request)
+{
+    ProjectItemSimple slide;
+    request.slide.applyTo(slide);
+    return SlideRenderer::captionedFrame(bareOf(slide), slide);
 }
 
 } // namespace
@@ -27,15 +33,130 @@ class CaptionPictureMakerTest : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void picturesAreThoseOfTheVideo_data();
-    void picturesAreThoseOfTheVideo();
-    void ownSizeFollowsTheVideo();
-    void newestRequestWins();
-    void effectLeadsFromBareToCaptioned();
-    void effectIsBrokenOff();
-    void unreadablePhotoIsExplained();
-    void changedPhotoIsReadAgain();
+    void initTestCase()
+    {
+        m_photo = m_folder.filePath(QStringLiteral("photo.png"));
+        paintPhoto(m_photo, Qt::darkGreen);
+    }
+
+    void init()
+    {
+        m_maker = std::make_unique<CaptionPictureMaker>();
+        m_ready = std::make_unique<QSignalSpy>(m_maker.get(), &CaptionPictureMaker::pictureReady);
+    }
+
+    void picturesAreThoseOfTheVideo_data()
+    {
+        QTest::addColumn<bool>("isTitle");
+        QTest::addColumn<int>("angle");
+        QTest::addColumn<bool>("origRatio");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("photo") << false << 0 << true << "By the sea";
+        QTest::newRow("turned") << false << 90 << true << "By the sea";
+        QTest::newRow("stretched") << false << 0 << false << "By\nthe sea";
+        QTest::newRow("without text") << false << 0 << true << QString();
+        QTest::newRow("title") << true << 0 << true << "My slideshow";
+    }
+    void picturesAreThoseOfTheVideo()
+    {
+        QFETCH(bool, isTitle);
+        QFETCH(int, angle);
+        QFETCH(bool, origRatio);
+        QFETCH(QString, text);
+        CaptionPictureRequest request = photoRequest(text);
+        request.isTitle = isTitle;
+        request.slide.angle = angle;
+        request.slide.backgroundIndex = 19;
+        request.slide.caption.position = 2;
+        request.video.origRatio = origRatio;
+        ProjectItemFirst title(3);
+        ProjectItemSimple photo;
+        ProjectItem &slide = isTitle ? static_cast<ProjectItem &>(title) : photo;
+        request.slide.applyTo(slide);
+        const QImage bare = bareOf(slide, origRatio);
+        const QImage picture = pictureFor(request);
+        QCOMPARE(picture, SlideRenderer::captionedFrame(bare, slide));
+        QCOMPARE(picture == bare, text.isEmpty());
+    }
+
+    /// Small photos that are not enlarged look as small as they will in the video.
+    void ownSizeFollowsTheVideo()
+    {
+        CaptionPictureRequest request = photoRequest(QString());
+        request.video = {QSize(1600, 900), true, false};
+        const QImage picture = pictureFor(request);
+        QCOMPARE(picture.size(), kSize);
+        // 400 x 300 px of 1600 x 900 are a quarter and a third.
+        QCOMPARE(picture.pixelColor(110, 90), QColor(Qt::black));
+        QCOMPARE(picture.pixelColor(160, 50), QColor(Qt::black));
+        QCOMPARE(picture.pixelColor(130, 70), QColor(Qt::white));
+        QCOMPARE(picture.pixelColor(190, 110), QColor(Qt::darkGreen));
+    }
+
+    void newestRequestWins()
+    {
+        constexpr int kRequests = 200;
+        CaptionPictureRequest request;
+        for (int i = 0; i < kRequests; ++i) {
+            request = photoRequest(QString::number(i));
+            m_maker->request(request);
+        }
+        QTRY_COMPARE(newest(), captionedOf(request));
+        QVERIFY2(m_ready->size() < kRequests, "pictures are made that nobody wants any more");
+    }
+
+    void effectLeadsFromBareToCaptioned()
+    {
+        CaptionPictureRequest request = photoRequest(QStringLiteral("Appears"));
+        request.slide.caption.effect = 27; // cross fade
+        request.play = true;
+        request.milliseconds = 400;
+        ProjectItemSimple slide;
+        request.slide.applyTo(slide);
+        const QImage captioned = captionedOf(request);
+        m_maker->request(request);
+        QTRY_COMPARE(newest(), captioned);
+        QCOMPARE(picture(0), bareOf(slide));
+        QVERIFY(m_ready->size() >= 3);
+        QVERIFY(picture(1) != picture(0) && picture(1) != captioned);
+    }
+
+    void effectIsBrokenOff()
+    {
+        CaptionPictureRequest request = photoRequest(QStringLiteral("Long"));
+        request.play = true;
+        request.milliseconds = 3600 * 1000;
+        m_maker->request(request);
+        QTRY_VERIFY(m_ready->size() >= 2);
+        const CaptionPictureRequest next = photoRequest(QStringLiteral("Next"));
+        m_maker->request(next);
+        QTRY_COMPARE(newest(), captionedOf(next));
+        // Another long one is in work when the maker goes.
+        m_maker->request(request);
+    }
+
+    void unreadablePhotoIsExplained()
+    {
+        CaptionPictureRequest request = photoRequest(QStringLiteral("Gone"));
+        request.slide.fileName = m_folder.filePath(QStringLiteral("gone.jpg"));
+        QVERIFY(pictureFor(request).isNull());
+        QVERIFY(!m_ready->first().at(1).toString().isEmpty());
+    }
+
+    void changedPhotoIsReadAgain()
+    {
+        CaptionPictureRequest request = photoRequest(QString());
+        request.slide.fileName = m_folder.filePath(QStringLiteral("changing.png"));
+        paintPhoto(request.slide.fileName, Qt::red);
+        QCOMPARE(pictureFor(request).pixelColor(250, 170), QColor(Qt::red));
+        paintPhoto(request.slide.fileName, Qt::blue);
+        QFile file(request.slide.fileName);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(60),
+                                 QFileDevice::FileModificationTime));
+        file.close();
+        QCOMPARE(pictureFor(request).pixelColor(250, 170), QColor(Qt::blue));
+    }
 
 private:
     CaptionPictureRequest photoRequest(const QString &text) const
@@ -58,163 +179,21 @@ private:
         QVERIFY(photo.save(path));
     }
 
+    QImage picture(int index) const { return m_ready->value(index).value(0).value<QImage>(); }
+    QImage newest() const { return picture(m_ready->size() - 1); }
+    /// What the maker makes of a single request.
+    QImage pictureFor(const CaptionPictureRequest &request)
+    {
+        const int before = m_ready->size();
+        m_maker->request(request);
+        return QTest::qWaitFor([&] { return m_ready->size() > before; }) ? newest() : QImage();
+    }
+
     QTemporaryDir m_folder;
     QString m_photo;
+    std::unique_ptr<CaptionPictureMaker> m_maker;
+    std::unique_ptr<QSignalSpy> m_ready;
 };
-
-void CaptionPictureMakerTest::initTestCase()
-{
-    m_photo = m_folder.filePath(QStringLiteral("photo.png"));
-    paintPhoto(m_photo, Qt::darkGreen);
-}
-
-void CaptionPictureMakerTest::picturesAreThoseOfTheVideo_data()
-{
-    QTest::addColumn<bool>("isTitle");
-    QTest::addColumn<int>("angle");
-    QTest::addColumn<bool>("origRatio");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("photo") << false << 0 << true << QStringLiteral("By the sea");
-    QTest::newRow("turned") << false << 90 << true << QStringLiteral("By the sea");
-    QTest::newRow("stretched") << false << 0 << false << QStringLiteral("By\nthe sea");
-    QTest::newRow("without text") << false << 0 << true << QString();
-    QTest::newRow("title") << true << 0 << true << QStringLiteral("My slideshow");
-}
-
-void CaptionPictureMakerTest::picturesAreThoseOfTheVideo()
-{
-    QFETCH(bool, isTitle);
-    QFETCH(int, angle);
-    QFETCH(bool, origRatio);
-    QFETCH(QString, text);
-    CaptionPictureRequest request = photoRequest(text);
-    request.isTitle = isTitle;
-    request.slide.angle = angle;
-    request.slide.backgroundIndex = 19;
-    request.slide.caption.position = 2;
-    request.video.origRatio = origRatio;
-    ProjectItemFirst title(3);
-    ProjectItemSimple photo;
-    ProjectItem &slide = isTitle ? static_cast<ProjectItem &>(title) : photo;
-    request.slide.applyTo(slide);
-    const QImage bare = SlideRenderer::bareFrame(slide, {kSize, origRatio, true});
-
-    CaptionPictureMaker maker;
-    QSignalSpy ready(&maker, &CaptionPictureMaker::pictureReady);
-    maker.request(request);
-    QTRY_COMPARE(ready.size(), 1);
-    QCOMPARE(pictureOf(ready, 0), SlideRenderer::captionedFrame(bare, slide));
-    QCOMPARE(pictureOf(ready, 0) == bare, text.isEmpty());
-}
-
-/// Small photos that are not enlarged look as small as they will in the video.
-void CaptionPictureMakerTest::ownSizeFollowsTheVideo()
-{
-    CaptionPictureRequest request = photoRequest(QString());
-    request.video = {QSize(1600, 900), true, false};
-    CaptionPictureMaker maker;
-    QSignalSpy ready(&maker, &CaptionPictureMaker::pictureReady);
-    maker.request(request);
-    QTRY_COMPARE(ready.size(), 1);
-    const QImage picture = pictureOf(ready, 0);
-    QCOMPARE(picture.size(), kSize);
-    // 400 x 300 px of 1600 x 900 are a quarter and a third.
-    QCOMPARE(picture.pixelColor(110, 90), QColor(Qt::black));
-    QCOMPARE(picture.pixelColor(160, 50), QColor(Qt::black));
-    QCOMPARE(picture.pixelColor(130, 70), QColor(Qt::white));
-    QCOMPARE(picture.pixelColor(190, 110), QColor(Qt::darkGreen));
-}
-
-void CaptionPictureMakerTest::newestRequestWins()
-{
-    constexpr int kRequests = 200;
-    CaptionPictureMaker maker;
-    QSignalSpy ready(&maker, &CaptionPictureMaker::pictureReady);
-    CaptionPictureRequest request;
-    for (int i = 0; i < kRequests; ++i) {
-        request = photoRequest(QString::number(i));
-        maker.request(request);
-    }
-    ProjectItemSimple slide;
-    request.slide.applyTo(slide);
-    const QImage last =
-        SlideRenderer::captionedFrame(SlideRenderer::bareFrame(slide, {kSize, true, true}), slide);
-    QTRY_VERIFY(!ready.isEmpty() && pictureOf(ready, ready.size() - 1) == last);
-    QVERIFY2(ready.size() < kRequests, "pictures are made that nobody wants any more");
-}
-
-void CaptionPictureMakerTest::effectLeadsFromBareToCaptioned()
-{
-    CaptionPictureRequest request = photoRequest(QStringLiteral("Appears"));
-    request.slide.caption.effect = 27; // cross fade
-    request.play = true;
-    request.milliseconds = 400;
-    ProjectItemSimple slide;
-    request.slide.applyTo(slide);
-    const QImage bare = SlideRenderer::bareFrame(slide, {kSize, true, true});
-    const QImage captioned = SlideRenderer::captionedFrame(bare, slide);
-    CaptionPictureMaker maker;
-    QSignalSpy ready(&maker, &CaptionPictureMaker::pictureReady);
-    maker.request(request);
-    QTRY_VERIFY(!ready.isEmpty() && pictureOf(ready, ready.size() - 1) == captioned);
-    QCOMPARE(pictureOf(ready, 0), bare);
-    QVERIFY(ready.size() >= 3);
-    QVERIFY(pictureOf(ready, 1) != bare && pictureOf(ready, 1) != captioned);
-}
-
-void CaptionPictureMakerTest::effectIsBrokenOff()
-{
-    CaptionPictureRequest request = photoRequest(QStringLiteral("Long"));
-    request.play = true;
-    request.milliseconds = 3600 * 1000;
-    CaptionPictureMaker maker;
-    QSignalSpy ready(&maker, &CaptionPictureMaker::pictureReady);
-    maker.request(request);
-    QTRY_VERIFY(ready.size() >= 2);
-    const CaptionPictureRequest next = photoRequest(QStringLiteral("Next"));
-    ProjectItemSimple slide;
-    next.slide.applyTo(slide);
-    const QImage expected =
-        SlideRenderer::captionedFrame(SlideRenderer::bareFrame(slide, {kSize, true, true}), slide);
-    maker.request(next);
-    QTRY_COMPARE(pictureOf(ready, ready.size() - 1), expected);
-    // Another long one is in work when the maker goes.
-    maker.request(request);
-}
-
-void CaptionPictureMakerTest::unreadablePhotoIsExplained()
-{
-    CaptionPictureRequest request = photoRequest(QStringLiteral("Gone"));
-    request.slide.fileName = m_folder.filePath(QStringLiteral("gone.jpg"));
-    CaptionPictureMaker maker;
-    QSignalSpy ready(&maker, &CaptionPictureMaker::pictureReady);
-    maker.request(request);
-    QTRY_COMPARE(ready.size(), 1);
-    QVERIFY(pictureOf(ready, 0).isNull());
-    QVERIFY(!ready.first().at(1).toString().isEmpty());
-}
-
-void CaptionPictureMakerTest::changedPhotoIsReadAgain()
-{
-    const QString path = m_folder.filePath(QStringLiteral("changing.png"));
-    paintPhoto(path, Qt::red);
-    CaptionPictureRequest request = photoRequest(QString());
-    request.slide.fileName = path;
-    CaptionPictureMaker maker;
-    QSignalSpy ready(&maker, &CaptionPictureMaker::pictureReady);
-    maker.request(request);
-    QTRY_COMPARE(ready.size(), 1);
-    QCOMPARE(pictureOf(ready, 0).pixelColor(250, 170), QColor(Qt::red));
-    paintPhoto(path, Qt::blue);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadWrite));
-    QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(60),
-                             QFileDevice::FileModificationTime));
-    file.close();
-    maker.request(request);
-    QTRY_COMPARE(ready.size(), 2);
-    QCOMPARE(pictureOf(ready, 1).pixelColor(250, 170), QColor(Qt::blue));
-}
 
 QTEST_MAIN(CaptionPictureMakerTest)
 #include "CaptionPictureMakerTest.moc"

@@ -7,9 +7,7 @@
 #include <QCheckBox>
 #include <QFontComboBox>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTextEdit>
-#include <QTimer>
 
 using namespace velmora;
 
@@ -23,11 +21,7 @@ private:
 
 private slots:
     void initTestCase() { Theme::install(*qApp); }
-    void init()
-    {
-        m = std::make_unique<CaptionEditor>();
-        QVERIFY(m->isShown);
-    }
+    void init() { m = std::make_unique<CaptionEditor>(); }
     void cleanup() { m.reset(); }
 
     void savingIsOneStep()
@@ -62,13 +56,13 @@ private slots:
     void cancellingChangesNothing_data()
     {
         QTest::addColumn<QByteArray>("button");
-        QTest::newRow("CANCEL") << QByteArray("butCancelText");
-        QTest::newRow("back") << QByteArray("btnBackInTextEdit");
+        for (const char *button : {"butCancelText", "btnBackInTextEdit"})
+            QTest::newRow(button) << QByteArray(button);
     }
-
     void cancellingChangesNothing()
     {
         QFETCH(QByteArray, button);
+
         const CaptionStyle before = m->slide(1)->caption();
         m->edit(m->slide(1));
         auto &fonts = m->child<QFontComboBox>("cbFont");
@@ -150,7 +144,6 @@ private slots:
         QTest::newRow("photos") << false;
         QTest::newRow("title too") << true;
     }
-
     void styleGoesToAllSlides()
     {
         QFETCH(bool, titleToo);
@@ -163,12 +156,11 @@ private slots:
         if (titleToo)
             QTest::mouseClick(&m->child<QCheckBox>("chkTitleToo"), Qt::LeftButton, {}, {8, 12});
         m->click("butSaveText");
-        QCOMPARE(m->slide(0)->caption().position, titleToo ? 0 : 4);
-        QCOMPARE(m->slide(1)->caption().position, 0);
-        QCOMPARE(m->slide(2)->caption().position, 0);
-        QCOMPARE(m->slide(0)->caption().text, QStringLiteral("My slideshow"));
-        QCOMPARE(m->slide(1)->caption().text, QString());
-        QCOMPARE(m->slide(2)->caption().text, QStringLiteral("Second"));
+        const char *texts[] = {"My slideshow", "", "Second"};
+        for (int row = 0; row < 3; ++row) {
+            QCOMPARE(m->slide(row)->caption().position, row > 0 || titleToo ? 0 : 4);
+            QCOMPARE(m->slide(row)->caption().text, QLatin1String(texts[row]));
+        }
         QCOMPARE(m->stack().count(), 1);
         m->stack().undo();
         QCOMPARE(m->slide(2)->caption(), second);

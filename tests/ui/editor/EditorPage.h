@@ -10,14 +10,11 @@
 #include "ui/model/SlideTableModel.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QImage>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
+#include <QtTest>
 
 #include <memory>
 
@@ -43,9 +40,8 @@ public:
         page->resize(1200, 800);
         page->show();
         QApplication::setActiveWindow(page.get());
-        isShown = QTest::qWaitForWindowExposed(page.get());
+        QVERIFY(QTest::qWaitForWindowExposed(page.get()));
     }
-
     ~EditorPage() { page.reset(); }
 
     QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
@@ -65,6 +61,15 @@ public:
         return names;
     }
 
+    /// The first letters of the photos' names.
+    QString letters() const
+    {
+        QString letters;
+        for (const QString &name : names().mid(1))
+            letters += name.at(0);
+        return letters;
+    }
+
     QString makePhoto(const QString &name, const QColor &color = Qt::darkGreen) const
     {
         const QString file = m_folder.filePath(name);
@@ -74,20 +79,19 @@ public:
         return image.save(file) ? file : QString();
     }
 
-    /// "a.png", "b.png" ... for the letters, through the page as a drop at its end.
-    void addPhotos(const QString &letters) const
+    /// "a.png", "b.png" ... for the letters, through the page as a drop after that row.
+    void addPhotos(const QString &letters, int row = -1) const
     {
         QStringList paths;
         for (const QChar letter : letters)
             paths.append(makePhoto(letter + QStringLiteral(".png")));
         const int count = items().size() + paths.size();
-        page->onFilesDropped(paths, -1);
+        page->onFilesDropped(paths, row);
         QTRY_COMPARE(items().size(), count);
     }
 
     void select(const QVector<int> &rows) const
     {
-        ProjectEditor::Slides slides;
         QItemSelection selection;
         for (const int row : rows)
             selection.select(table().model()->index(row, 0), table().model()->index(row, 3));
@@ -109,9 +113,8 @@ public:
                 return;
             timer->deleteLater();
             m_message = dialog->findChild<QLabel *>(QStringLiteral("lblText"))->text();
-            if (const auto *more =
-                    dialog->findChild<QPlainTextEdit *>(QStringLiteral("txtDetails")))
-                m_details = more->toPlainText();
+            const auto *more = dialog->findChild<QPlainTextEdit *>();
+            m_details = more ? more->toPlainText() : QString();
             dialog->findChild<QPushButton *>(QStringLiteral("button%1").arg(button))->click();
         });
         timer->start(10);
@@ -123,7 +126,6 @@ public:
     std::unique_ptr<HistoryStore> history;
     std::unique_ptr<ProjectFile> project;
     std::unique_ptr<MainWindowWidget> page;
-    bool isShown = false;
 
 private:
     QTemporaryDir m_folder;

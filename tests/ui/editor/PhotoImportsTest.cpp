@@ -4,8 +4,8 @@
 #include "ui/editor/EditorPage.h"
 
 #include "helpers/OrdinaryUser.h"
+#include "helpers/TestFiles.h"
 
-#include <QElapsedTimer>
 #include <QUndoStack>
 
 using namespace velmora;
@@ -16,12 +16,10 @@ class PhotoImportsTest : public QObject
     Q_OBJECT
 
 private:
-    void write(const QString &name, const QByteArray &content)
+    void write(const QString &name, const QByteArray &content) const
     {
-        QFile file(m->path("drop/") + name);
-        QVERIFY(QDir().mkpath(QFileInfo(file).path()));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
+        const QString path = m->path("drop/") + name;
+        QVERIFY(QDir().mkpath(QFileInfo(path).path()) && writeFile(path, content));
     }
     void letOthersEnter() const
     {
@@ -30,36 +28,29 @@ private:
                                                        QFile::ExeOther));
     }
     MessageDialog *report() const { return m->child<MessageDialog>("notAllPhotos"); }
+    QString details() const { return report()->findChild<QPlainTextEdit *>()->toPlainText(); }
+    bool isImporting() const { return m->page->findChild<PhotoImports *>()->isRunning(); }
 
     std::unique_ptr<EditorPage> m;
 
 private slots:
-    void init()
-    {
-        m = std::make_unique<EditorPage>();
-        QVERIFY(m->isShown);
-    }
+    void init() { m = std::make_unique<EditorPage>(); }
     void cleanup() { m.reset(); }
 
     void folderOf5000MixedFiles()
     {
-        QFile photo(m->makePhoto(QStringLiteral("drop/a/img0.png")));
-        QVERIFY(photo.open(QIODevice::ReadOnly));
-        const QByteArray png = photo.readAll();
+        const QByteArray png = readFile(m->makePhoto(QStringLiteral("drop/a/img0.png")));
         for (int i = 1; i < 5000; ++i) {
             const QString name = QStringLiteral("%1/img%2").arg(QLatin1Char("abc"[i % 3])).arg(i);
             if (i % 5 == 0)
                 write(name + QStringLiteral(".txt"), "no photo");
-            else if (i % 500 == 1)
-                write(name + QStringLiteral(".png"), "broken");
             else
-                write(name + QStringLiteral(".png"), png);
+                write(name + QStringLiteral(".png"), i % 500 == 1 ? "broken" : png);
         }
         m->page->addFolder(m->path("drop"));
         QTRY_COMPARE_WITH_TIMEOUT(m->items().size(), 1 + 5000 - 999 - 10, 60000);
         QTRY_VERIFY(report());
-        QCOMPARE(report()->findChild<QPlainTextEdit *>()->toPlainText().count(QLatin1Char('\n')),
-                 9);
+        QCOMPARE(details().count(QLatin1Char('\n')), 9);
         QCOMPARE(m->items().at(1)->title(), QStringLiteral("img0.png"));
         QVERIFY(m->names().indexOf(QStringLiteral("img9.png")) <
                 m->names().indexOf(QStringLiteral("img12.png")));
@@ -81,9 +72,8 @@ private slots:
     {
         QTest::addColumn<QString>("file");
         QTest::newRow("empty") << QString();
-        QTest::newRow("other files") << QStringLiteral("inner/notes.txt");
+        QTest::newRow("other files") << "inner/notes.txt";
     }
-
     void folderWithoutPhotosIsListed()
     {
         QFETCH(QString, file);
@@ -92,7 +82,7 @@ private slots:
             write(file, "text");
         m->page->addFolder(m->path("drop"));
         QTRY_VERIFY(report());
-        QCOMPARE(report()->findChild<QPlainTextEdit *>()->toPlainText(),
+        QCOMPARE(details(),
                  QDir::toNativeSeparators(m->path("drop")) + QStringLiteral(": holds no photos"));
     }
 
@@ -108,8 +98,7 @@ private slots:
             QSKIP("This user may read every file.");
         m->page->addFolder(m->path("drop"));
         QTRY_VERIFY(report());
-        const QString text = report()->findChild<QPlainTextEdit *>()->toPlainText();
-        QCOMPARE(text, QDir::toNativeSeparators(secret) + QStringLiteral(": cannot be read"));
+        QCOMPARE(details(), QDir::toNativeSeparators(secret) + QStringLiteral(": cannot be read"));
         QCOMPARE(m->names().mid(1), QStringList(QStringLiteral("good.png")));
     }
 
@@ -118,9 +107,9 @@ private slots:
         for (int i = 0; i < 2000; ++i)
             write(QStringLiteral("img%1.png").arg(i), "broken");
         m->page->addFolder(m->path("drop"));
-        QTRY_VERIFY(m->page->findChild<PhotoImports *>()->isRunning());
+        QTRY_VERIFY(isImporting());
         emit m->page->findChild<BusyNote *>()->cancelClicked();
-        QTRY_VERIFY(!m->page->findChild<PhotoImports *>()->isRunning());
+        QTRY_VERIFY(!isImporting());
         QCOMPARE(m->items().size(), 1);
         QVERIFY(!report());
         QVERIFY(!m->child<QWidget>("busyNote")->isVisible());
@@ -137,11 +126,9 @@ private slots:
         m->page->onFilesDropped({m->path("drop/notes.txt"), good}, 0);
         m->page->onFilesDropped({m->path("drop/gone.png")}, -1);
         QTRY_VERIFY(report());
-        const QString text = report()->findChild<QPlainTextEdit *>()->toPlainText();
-        QVERIFY(text.contains(QStringLiteral("broken.png")));
-        QVERIFY(text.contains(QStringLiteral("cut.jpg: is damaged or incomplete")));
-        QVERIFY(text.contains(QStringLiteral("notes.txt")));
-        QVERIFY(text.contains(QStringLiteral("gone.png")));
+        for (const char *line :
+             {"broken.png", "cut.jpg: is damaged or incomplete", "notes.txt", "gone.png"})
+            QVERIFY2(details().contains(QLatin1String(line)), line);
         QCOMPARE(m->page->findChildren<MessageDialog *>().size(), 1);
         QCOMPARE(m->names().mid(1), QStringList(QStringLiteral("good.png")));
     }
@@ -156,8 +143,8 @@ private slots:
             QSKIP("This user may read every file.");
         m->page->onFilesDropped({secret}, -1);
         QTRY_VERIFY(report());
-        const QString text = report()->findChild<QPlainTextEdit *>()->toPlainText();
-        QVERIFY2(text.contains(QStringLiteral("secret.png: cannot be opened")), qPrintable(text));
+        QVERIFY2(details().contains(QStringLiteral("secret.png: cannot be opened")),
+                 qPrintable(details()));
         QCOMPARE(m->items().size(), 1);
     }
 
@@ -168,7 +155,7 @@ private slots:
         m->page->addFolder(m->path("drop"));
         ProjectFile other(m->settings, ProjectFile::TitleSlide::Create);
         m->page->setProject(&other);
-        QTRY_VERIFY(!m->page->findChild<PhotoImports *>()->isRunning());
+        QTRY_VERIFY(!isImporting());
         QCOMPARE(other.items().size(), 1);
         m->page->setProject(nullptr);
     }

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "helpers/TestFiles.h"
 #include "project/images/Pictures.h"
 #include "ui/editor/EditorPage.h"
 
 #include <QAction>
-#include <QFile>
-#include <QSet>
 #include <QUndoStack>
 
 using namespace velmora;
@@ -35,16 +34,12 @@ private:
     std::unique_ptr<EditorPage> m;
 
 private slots:
-    void init()
-    {
-        m = std::make_unique<EditorPage>();
-        QVERIFY(m->isShown);
-    }
+    void init() { m = std::make_unique<EditorPage>(); }
     void cleanup() { m.reset(); }
 
     void buttonSortsNaturallyAndTurnsAround()
     {
-        add({QStringLiteral("img10.png"), QStringLiteral("IMG2.png"), QStringLiteral("img1.png")});
+        add(words("img10.png IMG2.png img1.png"));
         const auto arrow = [this] {
             return m->child<QAbstractButton>("btnSort")->icon().pixmap(24, 24).toImage();
         };
@@ -63,7 +58,7 @@ private slots:
 
     void datesAreReadInTheBackground()
     {
-        add({QStringLiteral("b.png"), QStringLiteral("a.png"), QStringLiteral("c.png")});
+        add(words("b.png a.png c.png"));
         changeDate("a.png", 3);
         changeDate("b.png", 1);
         changeDate("c.png", 2);
@@ -76,7 +71,7 @@ private slots:
 
     void dateTakenGoesBeforeDateOfFile()
     {
-        add({QStringLiteral("a.png"), QStringLiteral("b.png")});
+        add(words("a.png b.png"));
         Pictures::setExif(m->path("b.png"), "Exif.Photo.DateTimeOriginal", "2010:01:01 10:00:00");
         changeDate("a.png", 1);
         changeDate("b.png", 2);

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/RowsMimeData.h"
 #include "chrome/Theme.h"
+#include "helpers/Drop.h"
 #include "ui/editor/EditorPage.h"
 #include "ui/editor/SlideNumberDelegate.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QDragEnterEvent>
-#include <QMimeData>
-#include <QSignalSpy>
 #include <QUndoStack>
-#include <QUrl>
 
 using namespace velmora;
 
@@ -39,23 +36,12 @@ private:
     {
         return m->table().viewport()->findChild<QComboBox *>(QStringLiteral("cellValues"));
     }
-    void drop(QMimeData &data, const QPoint &position) const
+
+    void loseSecondPhoto() const
     {
-        constexpr Qt::DropActions kActions(Qt::CopyAction | Qt::MoveAction);
-        QWidget *viewport = m->table().viewport();
-        QDragEnterEvent enter(position, kActions, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(viewport, &enter);
-        QDragMoveEvent move(position, kActions, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(viewport, &move);
-        QDropEvent event(position, kActions, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(viewport, &event);
-    }
-    QString letters() const
-    {
-        QString letters;
-        for (const QString &name : m->names().mid(1))
-            letters += name.left(1);
-        return letters;
+        QFile::remove(m->path("b.png"));
+        m->table().slides()->checkFiles();
+        QTRY_VERIFY(m->table().model()->index(2, 0).data(SlideTableModel::MissingRole).toBool());
     }
 
     std::unique_ptr<EditorPage> m;
@@ -64,7 +50,6 @@ private slots:
     void init()
     {
         m = std::make_unique<EditorPage>();
-        QVERIFY(m->isShown);
         m->addPhotos(QStringLiteral("abcde"));
         QCoreApplication::processEvents();
     }
@@ -72,11 +57,11 @@ private slots:
 
     void filesAreDroppedBetweenRows()
     {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(m->makePhoto(QStringLiteral("x.png"))),
-                      QUrl::fromLocalFile(m->makePhoto(QStringLiteral("y.png")))});
-        drop(data, cell(2, 0).center() + QPoint(0, 20));
-        QTRY_COMPARE(letters(), QStringLiteral("abxycde"));
+        QVERIFY(dropFilesOn(
+            m->table().viewport(),
+            {m->makePhoto(QStringLiteral("x.png")), m->makePhoto(QStringLiteral("y.png"))},
+            cell(2, 0).center() + QPoint(0, 20)));
+        QTRY_COMPARE(m->letters(), QStringLiteral("abxycde"));
     }
 
     void rowsAreReorderedByDragging_data()
@@ -84,30 +69,25 @@ private slots:
         QTest::addColumn<QVector<int>>("rows");
         QTest::addColumn<int>("before");
         QTest::addColumn<QString>("order");
-        QTest::newRow("one down") << QVector<int>{1} << 4 << QStringLiteral("bcade");
-        QTest::newRow("two up") << QVector<int>{3, 5} << 1 << QStringLiteral("ceabd");
-        QTest::newRow("never above the title slide")
-            << QVector<int>{2} << 0 << QStringLiteral("bacde");
+        QTest::newRow("one down") << QVector<int>{1} << 4 << "bcade";
+        QTest::newRow("two up") << QVector<int>{3, 5} << 1 << "ceabd";
+        QTest::newRow("never above the title slide") << QVector<int>{2} << 0 << "bacde";
     }
-
     void rowsAreReorderedByDragging()
     {
         QFETCH(QVector<int>, rows);
         QFETCH(int, before);
-        QFETCH(QString, order);
         const ProjectEditor::Slides slides = m->items();
         m->select(rows);
         RowsMimeData data(&m->table(), rows);
-        drop(data, cell(before, 0).topLeft() + QPoint(60, 4));
-        QCOMPARE(letters(), order);
-        QVector<ProjectItem *> selected;
-        for (const QModelIndex &index : m->table().selectionModel()->selectedRows())
-            selected.append(m->table().slides()->slideAt(index.row()));
-        QCOMPARE(selected.size(), rows.size());
+        QVERIFY(dropOn(m->table().viewport(), data, cell(before, 0).topLeft() + QPoint(60, 4)));
+        QTEST(m->letters(), "order");
+        QCOMPARE(m->table().selectionModel()->selectedRows().size(), rows.size());
         for (const int row : rows)
-            QVERIFY(selected.contains(slides.at(row)));
+            QVERIFY(m->table().selectionModel()->isRowSelected(m->items().indexOf(slides.at(row)),
+                                                               QModelIndex()));
         m->page->editor().undoStack()->undo();
-        QCOMPARE(letters(), QStringLiteral("abcde"));
+        QCOMPARE(m->letters(), QStringLiteral("abcde"));
     }
 
     void valueIsChosenForTheSelection_data()
@@ -117,7 +97,6 @@ private slots:
         QTest::newRow("within the selection") << QVector<int>{2, 4} << QVector<int>{2, 4};
         QTest::newRow("outside of it") << QVector<int>{4, 5} << QVector<int>{2};
     }
-
     void valueIsChosenForTheSelection()
     {
         QFETCH(QVector<int>, selected);
@@ -168,7 +147,7 @@ private slots:
         QCOMPARE(clicked.first().at(1).toInt(), 3);
         QCOMPARE(m->table().selectionModel()->selectedRows().size(), 2);
         clickAt(button(2, 1));
-        QCOMPARE(letters(), QStringLiteral("acde"));
+        QCOMPARE(m->letters(), QStringLiteral("acde"));
         clickAt(button(0, 1));
         QVERIFY(!m->items().first()->isShown());
         clickAt(button(0, 1));
@@ -182,7 +161,7 @@ private slots:
         QTest::mousePress(m->table().viewport(), Qt::LeftButton, Qt::NoModifier, button(2, 1));
         QTest::mouseRelease(m->table().viewport(), Qt::LeftButton, Qt::NoModifier, button(4, 1));
         QCOMPARE(clicked.size(), 0);
-        QCOMPARE(letters(), QStringLiteral("abcde"));
+        QCOMPARE(m->letters(), QStringLiteral("abcde"));
     }
 
     void deletingMovesTheSelectionOn()
@@ -191,7 +170,7 @@ private slots:
         QTest::keyClick(&m->table(), Qt::Key_Delete);
         QCOMPARE(m->table().currentIndex().row(), 2);
         QTest::keyClick(&m->table(), Qt::Key_Delete);
-        QCOMPARE(letters(), QStringLiteral("ade"));
+        QCOMPARE(m->letters(), QStringLiteral("ade"));
     }
 
     void keysAskForCaptionAndPreview()
@@ -208,27 +187,21 @@ private slots:
 
     void rowsShowPhotoAndMissingState()
     {
-        QFile::remove(m->path("b.png"));
-        m->table().slides()->checkFiles();
-        QTRY_VERIFY(m->table().model()->index(2, 0).data(SlideTableModel::MissingRole).toBool());
+        loseSecondPhoto();
         const QRect photo = cell(1, 0);
         QTRY_COMPARE(m->table().viewport()->grab(photo).toImage().pixelColor(
                          SlideNumberDelegate::width() / 2 + 10, photo.height() / 2),
                      QColor(Qt::darkGreen));
         const QImage text = m->table().viewport()->grab(cell(2, 3)).toImage();
         bool red = false;
-        for (int y = 0; y < text.height() && !red; ++y) {
-            for (int x = 0; x < text.width() && !red; ++x)
-                red = text.pixelColor(x, y) == QColor(Theme::Danger);
-        }
+        for (int i = 0; i < text.width() * text.height() && !red; ++i)
+            red = text.pixelColor(i % text.width(), i / text.width()) == QColor(Theme::Danger);
         QVERIFY(red);
     }
 
     void relocateButtonHoldsItsText()
     {
-        QFile::remove(m->path("b.png"));
-        m->table().slides()->checkFiles();
-        QTRY_VERIFY(m->table().model()->index(2, 0).data(SlideTableModel::MissingRole).toBool());
+        loseSecondPhoto();
         // The widgets of the program have larger letters than the application.
         QFont font = m->table().font();
         font.setPixelSize(24);

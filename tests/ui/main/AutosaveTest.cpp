@@ -18,6 +18,23 @@ class AutosaveTest : public QObject
 private:
     QString fileName() const { return m->folder.filePath(QStringLiteral("autosave.json")); }
 
+    /// Changes a slideshow, and waits until that is kept.
+    void change()
+    {
+        m->show();
+        m->beginSlideshow();
+        QTRY_VERIFY(QFile::exists(fileName()));
+    }
+    /// Starts again, as after a crash: the window was not closed.
+    void restart(const QString &answer)
+    {
+        m->view.reset();
+        QVERIFY(QFile::exists(fileName()));
+        m->show();
+        m->dialogs.press(answer);
+        m->view->offerRestore();
+    }
+
     std::unique_ptr<MainViewFixture> m;
 
 private slots:
@@ -35,10 +52,9 @@ private slots:
     void changesAreKeptAndRestored_data()
     {
         QTest::addColumn<QString>("answer");
-        QTest::newRow("RESTORE") << QStringLiteral("RESTORE");
-        QTest::newRow("DISCARD") << QStringLiteral("DISCARD");
+        for (const char *answer : {"RESTORE", "DISCARD"})
+            QTest::newRow(answer) << answer;
     }
-
     void changesAreKeptAndRestored()
     {
         QFETCH(QString, answer);
@@ -46,12 +62,7 @@ private slots:
         m->view->offerRestore(); // nothing is there
         m->beginSlideshow();
         QTRY_VERIFY(QFile::exists(fileName()));
-        m->view.reset(); // as a crash leaves it: the window was not closed
-        QVERIFY(QFile::exists(fileName()));
-
-        m->show();
-        m->dialogs.press(answer);
-        m->view->offerRestore();
+        restart(answer);
         QVERIFY(m->dialogs.text().contains(QStringLiteral("New project")));
         if (answer == QLatin1String("DISCARD")) {
             QCOMPARE(m->view->page(), MainView::Start);
@@ -67,29 +78,16 @@ private slots:
         QTRY_VERIFY(!QFile::exists(fileName()));
     }
 
-    void savedDocumentNeedsNone()
-    {
-        m->show();
-        m->beginSlideshow();
-        QTRY_VERIFY(QFile::exists(fileName()));
-        QString error;
-        QVERIFY(m->view->document().save(m->folder.filePath(QStringLiteral("a.json")), &error));
-        QTRY_VERIFY(!QFile::exists(fileName()));
-    }
-
     void restoredDocumentRemembersItsFile()
     {
-        m->show();
-        m->beginSlideshow();
+        change();
         QString error;
         const QString path = m->folder.filePath(QStringLiteral("Trip.json"));
         QVERIFY(m->view->document().save(path, &error));
-        QTRY_VERIFY(!QFile::exists(fileName()));
+        QTRY_VERIFY(!QFile::exists(fileName())); // it needs none
         m->view->editorPage().editor().addPhotos({m->makePhoto(QStringLiteral("b.png"))}, -1);
         QTRY_VERIFY(QFile::exists(fileName()));
-        m->show();
-        m->dialogs.press(QStringLiteral("RESTORE"));
-        m->view->offerRestore();
+        restart(QStringLiteral("RESTORE"));
         QCOMPARE(m->view->document().path(), path);
         QCOMPARE(m->photos().size(), 2);
     }
@@ -101,21 +99,17 @@ private slots:
         QTest::newRow("cut off") << QByteArray("{\"path\":\"\",\"project\":{\"na");
         QTest::newRow("no project") << QByteArray("{\"project\": 3}");
     }
-
     void damagedFileIsPutAside()
     {
         QFETCH(QByteArray, content);
-        QFile file(fileName());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        file.close();
+        QVERIFY(writeFile(fileName(), content));
         m->show();
         m->view->offerRestore();
         QCOMPARE(m->view->page(), MainView::Start);
         QVERIFY(!QFile::exists(fileName()));
-        QFile damaged(m->folder.filePath(QStringLiteral("autosave.damaged.json")));
-        QVERIFY(damaged.open(QIODevice::ReadOnly));
-        QCOMPARE(damaged.readAll(), content);
+        const QString damaged = m->folder.filePath(QStringLiteral("autosave.damaged.json"));
+        QVERIFY(QFile::exists(damaged));
+        QCOMPARE(readFile(damaged), content);
         // What comes next is kept as always.
         m->beginSlideshow();
         QTRY_VERIFY(QFile::exists(fileName()));
@@ -123,9 +117,7 @@ private slots:
 
     void unreadableFileStays()
     {
-        m->show();
-        m->beginSlideshow();
-        QTRY_VERIFY(QFile::exists(fileName()));
+        change();
         m->view.reset();
         QVERIFY(QFile::setPermissions(fileName(), {}));
         QVERIFY(QFile::setPermissions(m->folder.path(), QFile::Permissions(QFlag(0x7777))));
@@ -143,9 +135,7 @@ private slots:
             m->view.reset();
         }
         QVERIFY(QFile::setPermissions(fileName(), QFile::ReadOwner | QFile::WriteOwner));
-        m->show();
-        m->dialogs.press(QStringLiteral("RESTORE"));
-        m->view->offerRestore();
+        restart(QStringLiteral("RESTORE"));
         QCOMPARE(m->photos(), QStringList(QStringLiteral("begin.png")));
     }
 
@@ -161,9 +151,7 @@ private slots:
             return m->view->document().project()->items().first()->caption().text;
         };
         QVERIFY(!caption().endsWith(QLatin1String("Sylt")));
-        m->show();
-        m->dialogs.press(QStringLiteral("RESTORE"));
-        m->view->offerRestore();
+        restart(QStringLiteral("RESTORE"));
         QVERIFY(caption().endsWith(QLatin1String("Sylt")));
     }
 
@@ -186,9 +174,7 @@ private slots:
 
     void onlyTheFirstOfSeveralKeepsOne()
     {
-        m->show();
-        m->beginSlideshow();
-        QTRY_VERIFY(QFile::exists(fileName()));
+        change();
         Autosave second(m->view->document(), m->view->editorPage().editor(), m->folder.path(),
                         1000);
         QVERIFY(!second.find(m->settings).project);

@@ -13,10 +13,6 @@
 #include "ui/update/UpdateDialog.h"
 
 #include <QAction>
-#include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QLineEdit>
 
 #include <functional>
 
@@ -76,8 +72,7 @@ private:
     void lookAtSharing()
     {
         const QString video = m_fixture.folder.filePath(QStringLiteral("Summer at the lake.mp4"));
-        QFile file(video);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(3000000));
+        QVERIFY(writeFile(video, QByteArray(3000000, 'x')));
         FinalWindow final(video, m_fixture.fileManager, m_fixture.view.get());
         show("final", final);
         FakeDiscWriter::State state;
@@ -98,10 +93,9 @@ private:
         lookAtNext("close-during-render", [&] { QVERIFY(!actions->mayClose(true, false)); });
         QJsonObject project;
         m_fixture.view->document().toJson(project);
-        QFile autosave(m_fixture.folder.filePath(QStringLiteral("autosave.json")));
-        QVERIFY(autosave.open(QIODevice::WriteOnly));
-        autosave.write(QJsonDocument(QJsonObject{{QStringLiteral("project"), project}}).toJson());
-        autosave.close();
+        QVERIFY(
+            writeFile(m_fixture.folder.filePath(QStringLiteral("autosave.json")),
+                      QJsonDocument(QJsonObject{{QStringLiteral("project"), project}}).toJson()));
         lookAtNext("restore", [&] { m_fixture.view->offerRestore(); });
     }
 
@@ -110,10 +104,10 @@ private:
         auto *name = m_fixture.child<QLineEdit>("txtProjName");
         const QString format = m_fixture.view->document().project()->format();
         name->setText(QStringLiteral("Summer"));
-        QFile old(m_fixture.folder.filePath(QStringLiteral("Summer.") + format));
-        QVERIFY(old.open(QIODevice::WriteOnly));
+        const QString old = m_fixture.folder.filePath(QStringLiteral("Summer.") + format);
+        QVERIFY(writeFile(old));
         lookAtNext("replace-video", [&] { m_fixture.click("btnCreate"); });
-        QVERIFY(old.remove());
+        QVERIFY(QFile::remove(old));
         Composer &composer = m_fixture.view->editorPage().createPanel().composer();
         composer.setProgram(m_fixture.folder.filePath(QStringLiteral("none")));
         lookAtNext("creation-error", [&] { m_fixture.click("btnCreate"); });
@@ -122,8 +116,7 @@ private:
     void lookAtRefusedFiles()
     {
         const QString notes = m_fixture.folder.filePath(QStringLiteral("notes.txt"));
-        QFile file(notes);
-        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(writeFile(notes));
         const QStringList files = {notes, m_fixture.folder.filePath(QStringLiteral("gone.jpg"))};
         lookAtNext("photos-not-added", [&] { m_fixture.view->openFiles(files); });
         lookAtNext("audio-not-added", [&] {

@@ -37,10 +37,9 @@ private slots:
     void resumeAsksAboutMissingFiles_data()
     {
         QTest::addColumn<QString>("answer");
-        QTest::newRow("RESUME") << QStringLiteral("RESUME");
-        QTest::newRow("CANCEL") << QStringLiteral("CANCEL");
+        for (const char *answer : {"RESUME", "CANCEL"})
+            QTest::newRow(answer) << answer;
     }
-
     void resumeAsksAboutMissingFiles()
     {
         QFETCH(QString, answer);
@@ -49,19 +48,20 @@ private slots:
         entry->addFiles({m->makePhoto(QStringLiteral("there.png")),
                          m->folder.filePath(QStringLiteral("gone.png"))},
                         3, 1);
-        AudioItemList audio;
-        audio.items = {{m->folder.filePath(QStringLiteral("gone.mp3")), QStringLiteral("0:03")}};
-        entry->setAudio(audio);
+        entry->setAudio({{{m->folder.filePath(QStringLiteral("gone.mp3")), {}}}, 0});
         m->history->add(std::move(entry));
         m->show();
         QCOMPARE(m->child<QPushButton>("btnRecent")->text(),
                  QStringLiteral("Continue with Old trip"));
+        const bool isResumed = answer == QLatin1String("RESUME");
+        if (isResumed)
+            m->click("btnHistory");
         m->dialogs.press(answer);
-        m->click("btnRecent");
+        m->click(isResumed ? "btnResumeProject" : "btnRecent");
         QTRY_COMPARE(m->dialogs.title(), QStringLiteral("Not all files exist"));
         QCOMPARE(m->dialogs.text(),
                  QStringLiteral("Not all files exist, do you want to resume the project?"));
-        if (answer == QLatin1String("CANCEL")) {
+        if (!isResumed) {
             QVERIFY(!m->view->document().project());
             QCOMPARE(m->view->page(), MainView::Start);
             return;
@@ -102,6 +102,7 @@ private slots:
         QVERIFY(QFile::exists(copy + QStringLiteral(".json")));
         m->press(Qt::Key_N, Qt::ControlModifier);
         QCOMPARE(m->view->page(), MainView::Start);
+        QCOMPARE(m->view->windowTitle(), QStringLiteral("Corvel Velmora"));
         QVERIFY(!m->view->document().project());
     }
 
@@ -125,20 +126,16 @@ private slots:
         QTest::newRow("no project") << QByteArray("{\"a\": 1}");
         QTest::newRow("empty") << QByteArray();
     }
-
     void badDocumentChangesNothing()
     {
         QFETCH(QByteArray, content);
         m->beginSlideshow();
-        QFile file(m->folder.filePath(QStringLiteral("bad.json")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        file.close();
+        const QString bad = m->folder.filePath(QStringLiteral("bad.json"));
+        QVERIFY(writeFile(bad, content));
         m->dialogs.press(QStringLiteral("CLOSE"));
-        m->view->openFiles({file.fileName(), m->makePhoto(QStringLiteral("good.png"))});
+        m->view->openFiles({bad, m->makePhoto(QStringLiteral("good.png"))});
         QVERIFY(m->dialogs.text().contains(QStringLiteral("bad.json")));
-        QTRY_COMPARE(m->photos(),
-                     QStringList({QStringLiteral("begin.png"), QStringLiteral("good.png")}));
+        QTRY_COMPARE(m->photos(), words("begin.png good.png"));
         QVERIFY(m->view->isWindowModified());
     }
 
@@ -177,11 +174,10 @@ private slots:
         QTest::addColumn<QString>("answer");
         QTest::addColumn<bool>("closed");
         QTest::addColumn<bool>("saved");
-        QTest::newRow("cancel") << QStringLiteral("CANCEL") << false << false;
-        QTest::newRow("discard") << QStringLiteral("DON'T SAVE") << true << false;
-        QTest::newRow("save") << QStringLiteral("SAVE") << true << true;
+        QTest::newRow("cancel") << "CANCEL" << false << false;
+        QTest::newRow("discard") << "DON'T SAVE" << true << false;
+        QTest::newRow("save") << "SAVE" << true << true;
     }
-
     void closingAsks()
     {
         QFETCH(QString, answer);

@@ -8,11 +8,8 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTabBar>
 #include <QTextEdit>
 #include <QToolButton>
-#include <QTranslator>
-#include <QXmlStreamReader>
 #include <QtTest>
 
 using namespace velmora;
@@ -124,7 +121,6 @@ private slots:
                 << QString::fromLatin1(language) << QSize(1920, 1080);
         }
     }
-
     void showsWholeTranslatedTexts()
     {
         QFETCH(QString, language);

@@ -4,6 +4,7 @@
 #include "app/AppSettings.h"
 #include "app/ServicesConfig.h"
 #include "helpers/DialogDriver.h"
+#include "helpers/TestFiles.h"
 #include "platform/DesktopNotification.h"
 #include "platform/FileManager.h"
 #include "platform/TaskbarProgress.h"
@@ -16,13 +17,10 @@
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QImage>
 #include <QLineEdit>
 #include <QListView>
-#include <QSettings>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QtTest>
 
 namespace velmora
 {
@@ -146,6 +144,14 @@ public:
                 names.append(QFileInfo(photo->fileName()).fileName());
         }
         return names;
+    }
+
+    /// Has the history list the slideshow of a video of that name.
+    void addToHistory(const char *video)
+    {
+        auto entry = std::make_unique<ProjectFile>(settings, ProjectFile::TitleSlide::Create);
+        entry->setFileName(folder.filePath(QLatin1String(video)));
+        history->add(std::move(entry));
     }
 
     /// Opens an unsaved slideshow of one photo.

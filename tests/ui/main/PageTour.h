@@ -108,14 +108,10 @@ private:
     {
         m_fixture.click("btnHistory");
         look("history-empty");
-        for (const char *name : {"Norway.mp4", "Birthday 2026.mp4"}) {
-            auto entry =
-                std::make_unique<ProjectFile>(m_fixture.settings, ProjectFile::TitleSlide::Create);
-            entry->setFileName(m_fixture.folder.filePath(QLatin1String(name)));
-            m_fixture.history->add(std::move(entry));
-        }
-        QFile video(m_fixture.folder.filePath(QStringLiteral("Birthday 2026.mp4")));
-        QVERIFY(video.open(QIODevice::WriteOnly) && video.resize(3000000));
+        m_fixture.addToHistory("Norway.mp4");
+        m_fixture.addToHistory("Birthday 2026.mp4");
+        QVERIFY(writeFile(m_fixture.folder.filePath(QStringLiteral("Birthday 2026.mp4")),
+                          QByteArray(3000000, 'x')));
         m_fixture.view->onBtnHistoryClicked();
         look("history");
     }

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/main/StartMessage.h"
 
-#include <QDir>
-#include <QTest>
+#include <QtTest>
 
 using namespace velmora;
 
@@ -19,7 +18,6 @@ private slots:
         QTest::newRow("odd names") << QStringList({QStringLiteral("/a/new\nline %20 #1?.png"),
                                                    QStringLiteral("/\u00fc/\u65e5\u672c.jpg")});
     }
-
     void carriesFiles()
     {
         QFETCH(QStringList, files);
@@ -32,10 +30,9 @@ private slots:
     {
         QTest::addColumn<QString>("message");
         QTest::newRow("empty") << QString();
-        QTest::newRow("other first line") << QStringLiteral("Hello\nfile:///etc/passwd");
-        QTest::newRow("not local") << QStringLiteral("Wake up!\nhttp://host/a.png\nfile:");
+        QTest::newRow("other first line") << "Hello\nfile:///etc/passwd";
+        QTest::newRow("not local") << "Wake up!\nhttp://host/a.png\nfile:";
     }
-
     void refusesOtherTexts()
     {
         QFETCH(QString, message);

@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/model/SlideTableModel.h"
 #include "app/AppSettings.h"
+#include "helpers/TestFiles.h"
 #include "project/documents/ProjectFile.h"
 #include "ui/model/ProjectEditor.h"
-#include "ui/model/ValueLists.h"
 
-#include <QAbstractItemModelTester>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QUndoStack>
+#include <QtTest>
 
 using namespace velmora;
 
@@ -28,6 +25,11 @@ private:
     QImage thumbnail(const SlideTableModel &model, int row) const
     {
         return model.index(row, 0).data(Qt::DecorationRole).value<QImage>();
+    }
+
+    static bool isMissing(const SlideTableModel &model, int row)
+    {
+        return model.index(row, 0).data(SlideTableModel::MissingRole).toBool();
     }
 
     QTemporaryDir m_folder;
@@ -74,16 +76,13 @@ private slots:
         const QString path = makePhoto(QStringLiteral("here.png"));
         m_editor->addPhotos({path, QStringLiteral("/p/gone.jpg")}, -1);
         SlideTableModel model(*m_editor);
-        const auto missing = [&model](int row) {
-            return model.index(row, 0).data(SlideTableModel::MissingRole).toBool();
-        };
-        QTRY_VERIFY(missing(2));
-        QVERIFY(!missing(1));
+        QTRY_VERIFY(isMissing(model, 2));
+        QVERIFY(!isMissing(model, 1));
         QVERIFY(QFile::remove(path));
         model.checkFiles();
-        QTRY_VERIFY(missing(1));
+        QTRY_VERIFY(isMissing(model, 1));
         m_editor->relocate(m_project->items().at(2), makePhoto(QStringLiteral("new.png")));
-        QTRY_VERIFY(!missing(2));
+        QTRY_VERIFY(!isMissing(model, 2));
     }
 
     void thumbnailsArriveLater_data()
@@ -97,7 +96,6 @@ private slots:
         QTest::newRow("small photos stay small") << QSize(30, 20) << 0 << QSize(30, 20);
         QTest::newRow("panorama") << QSize(4000, 2) << 0 << QSize(96, 1);
     }
-
     void thumbnailsArriveLater()
     {
         QFETCH(QSize, photo);
@@ -119,10 +117,9 @@ private slots:
     {
         QTest::addColumn<QString>("before");
         QTest::newRow("comes back") << QString();
-        QTest::newRow("comes whole") << QStringLiteral("broken");
-        QTest::newRow("edited") << QStringLiteral("photo");
+        QTest::newRow("comes whole") << "broken";
+        QTest::newRow("edited") << "photo";
     }
-
     void thumbnailFollowsTheFile()
     {
         QFETCH(QString, before);
@@ -130,21 +127,16 @@ private slots:
         QFile::remove(path);
         if (before == QLatin1String("photo"))
             QCOMPARE(makePhoto(QStringLiteral("follows.png")), path);
-        QFile file(path);
         if (before == QLatin1String("broken"))
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write("broken") == 6);
-        file.close();
+            QVERIFY(writeFile(path, "broken"));
         m_editor->addPhotos({path}, -1);
         SlideTableModel model(*m_editor);
         const auto shown = [&] { return thumbnail(model, 1).pixelColor(0, 0); };
-        const auto isMissing = [&model] {
-            return model.index(1, 0).data(SlideTableModel::MissingRole).toBool();
-        };
         QVERIFY(thumbnail(model, 1).isNull());
         if (before == QLatin1String("photo"))
             QTRY_COMPARE(shown(), QColor(Qt::red));
         else if (before.isEmpty())
-            QTRY_VERIFY(isMissing());
+            QTRY_VERIFY(isMissing(model, 1));
         QTest::qWait(100); // the thread has looked at what there is
         QImage image(300, 200, QImage::Format_RGB32);
         image.fill(Qt::blue);
@@ -157,17 +149,16 @@ private slots:
     {
         SlideTableModel model(*m_editor);
         m_editor->setResolution({1920, 1080});
-        const auto shown = [&] { return thumbnail(model, 0); };
-        QCOMPARE(shown().size(), QSize(96, 54));
-        const QImage before = shown();
+        const QImage before = thumbnail(model, 0);
+        QCOMPARE(before.size(), QSize(96, 54));
         CaptionStyle caption = m_project->items().first()->caption();
         caption.text.clear();
         m_editor->setCaption(m_project->items(), caption);
-        QVERIFY(shown() != before);
+        QVERIFY(thumbnail(model, 0) != before);
         QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
         m_editor->setResolution({640, 480});
         QVERIFY(changed.size() > 0);
-        QCOMPARE(shown().size(), QSize(85, 64));
+        QCOMPARE(thumbnail(model, 0).size(), QSize(85, 64));
     }
 
     void onlyVisibleRowsAreDecoded()
@@ -199,17 +190,17 @@ private slots:
     {
         m_editor->addPhotos({QStringLiteral("/p/a.jpg")}, -1);
         SlideTableModel model(*m_editor);
-        QVERIFY(model.index(0, 0).data(SlideTableModel::TitleSlideRole).toBool());
-        QVERIFY(!model.index(1, 0).data(SlideTableModel::TitleSlideRole).toBool());
-        QVERIFY(!(model.flags(model.index(0, 0)) & Qt::ItemIsDragEnabled));
-        QVERIFY(model.flags(model.index(1, 0)) & Qt::ItemIsDragEnabled);
+        for (const int row : {0, 1}) {
+            const QModelIndex index = model.index(row, 0);
+            QCOMPARE(index.data(SlideTableModel::TitleSlideRole).toBool(), row == 0);
+            QCOMPARE(index.flags().testFlag(Qt::ItemIsDragEnabled), row == 1);
+        }
         QCOMPARE(model.index(1, 0).data(SlideTableModel::TitleRole).toString(),
                  QStringLiteral("a.jpg"));
-        const QStringList headers = {QStringLiteral("#"), QStringLiteral("Time"),
-                                     QStringLiteral("Transition"), QStringLiteral("Text")};
-        for (int column = 0; column < headers.size(); ++column)
-            QCOMPARE(model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(),
-                     headers.at(column));
+        QStringList headers;
+        for (int column = 0; column < 4; ++column)
+            headers.append(model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+        QCOMPARE(headers, words("# Time Transition Text"));
     }
 };
 
