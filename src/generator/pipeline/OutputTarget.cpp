@@ -196,8 +196,10 @@ RenderError OutputTarget::tryWriting() const
     const bool opened = trial.open(QIODevice::WriteOnly);
     const bool written =
         opened && trial.write(QByteArray(kTrialSize, '\0')) == kTrialSize && trial.flush();
+    // Discs and the like have no room either, but that is not what keeps them from being written.
+    const QStorageInfo storage(m_folder);
     const bool noSpace = trial.error() == QFileDevice::ResourceError ||
-                         QStorageInfo(m_folder).bytesAvailable() < kTrialSize;
+                         (!storage.isReadOnly() && storage.bytesAvailable() < kTrialSize);
     const QString reason = trial.errorString();
     if (opened)
         trial.remove();
