@@ -18,24 +18,22 @@ FakeComObject *makePoint(FakeDisc &fake)
 {
     auto *point =
         new FakeComObject(fake, QStringLiteral("IConnectionPoint"), __uuidof(IConnectionPoint));
-    point->on(
-        5, +[](FakeComObject *self, IUnknown *sink, DWORD *cookie) -> HRESULT {
-            const HRESULT result = self->note(QStringLiteral("Advise"));
-            if (FAILED(result))
-                return result;
-            *cookie = kCookie;
-            return sink->QueryInterface(IID_IDispatch, reinterpret_cast<void **>(&disc(self).sink));
-        });
-    point->on(
-        6, +[](FakeComObject *self, DWORD cookie) -> HRESULT {
-            IDispatch *&sink = disc(self).sink;
-            if (cookie != kCookie || !sink)
-                self->note(QStringLiteral("Unadvise %1").arg(cookie));
-            else
-                sink->Release();
-            sink = nullptr;
-            return S_OK;
-        });
+    point->on(5, [](FakeComObject *self, IUnknown *sink, DWORD *cookie) {
+        const HRESULT result = self->note(QStringLiteral("Advise"));
+        if (FAILED(result))
+            return result;
+        *cookie = kCookie;
+        return sink->QueryInterface(IID_IDispatch, reinterpret_cast<void **>(&disc(self).sink));
+    });
+    point->on(6, [](FakeComObject *self, DWORD cookie) {
+        IDispatch *&sink = disc(self).sink;
+        if (cookie != kCookie || !sink)
+            self->note(QStringLiteral("Unadvise %1").arg(cookie));
+        else
+            sink->Release();
+        sink = nullptr;
+        return S_OK;
+    });
     return point;
 }
 
@@ -62,16 +60,15 @@ void FakeParts::addEvents(FakeComObject *source)
         auto *container =
             new FakeComObject(source->record(), QStringLiteral("IConnectionPointContainer"),
                               __uuidof(IConnectionPointContainer));
-        container->on(
-            4, +[](FakeComObject *self, const IID *wanted, IConnectionPoint **point) -> HRESULT {
-                const bool data = *wanted == __uuidof(DDiscFormat2DataEvents);
-                const HRESULT result = self->note(
-                    data ? QStringLiteral("FindConnectionPoint DDiscFormat2DataEvents")
-                         : QStringLiteral("FindConnectionPoint DDiscFormat2EraseEvents"));
-                if (SUCCEEDED(result))
-                    *point = makePoint(disc(self))->as<IConnectionPoint>();
-                return result;
-            });
+        container->on(4, [](FakeComObject *self, const IID *wanted, IConnectionPoint **point) {
+            const bool data = *wanted == __uuidof(DDiscFormat2DataEvents);
+            const HRESULT result =
+                self->note(data ? QStringLiteral("FindConnectionPoint DDiscFormat2DataEvents")
+                                : QStringLiteral("FindConnectionPoint DDiscFormat2EraseEvents"));
+            if (SUCCEEDED(result))
+                *point = makePoint(disc(self))->as<IConnectionPoint>();
+            return result;
+        });
         return container->as<IUnknown>();
     };
 }
