@@ -189,7 +189,8 @@ class Services:
     @staticmethod
     def path_of(argument):
         match = re.fullmatch(r'\{ "path": ("(?:[^"\\]|\\.)*"), "mode": "overwrite", '
-                             r'"autorename": (?:true|false), "mute": true \}', argument)
+                             r'"autorename": false, "mute": true \}', argument)
+        require(argument.isascii(), "the argument is not ASCII")
         require(match, "the argument is " + argument)
         return json.loads(match.group(1))
 
