@@ -34,7 +34,7 @@ windows_tests=(
     TerminationWatcherTest ThubnailProviderTest TileGridTest TimelineTest TitleBackgroundTest
     ToolRunnerTest TransitionTest TransitionTypeTest TranslationsTest UnavailableUploadTest
     UpdateCheckerTest VelmoraStartTest VelmoratoolTest WavTranscoderTest WavWriterTest
-    WindowsBurnTest WorkerProtocolTest WorkerTest
+    WorkerProtocolTest WorkerTest
 )
 sdk=${VELMORA_WINDOWS_SDK_ARCHIVE:-../shared/windows/velmora-windows-sdk.tar.xz}
 usage() { sed -n 's/^#   //p' "$0"; }
