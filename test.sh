@@ -23,11 +23,11 @@ windows_tests=(
     ConcatListTest CrashDumpTest CrashReporterTest CreateVideoTest DiscSessionTest DiscWriterTest
     DocumentsTest DropAreaTest EncoderCommandsTest EncoderLocatorTest EncoderOptionsTest
     EncoderProgressTest ExifReaderTest FadeComposerTest FileManagerTest FirstRunTest FrameFitterTest
-    FrameWriterTest HistoryModelTest HistoryStoreTest HistoryWidgetTest HistoryWriterTest
-    ImageCheckTest ImageLoaderTest InputCheckTest LogTest MakeOptionsTest MakeProjectTest
-    MediaFileInfoTest MediaSuffixesTest MetricSenderTest Mp3Test OutputTargetTest PhotoFileTest
-    ProcessTreeTest ProgressTest ProgressTextTest ProjectFileTest ProjectNameTest ProjectSlidesTest
-    RemainingTimeTest RenderControlTest RenderPlanTest SecretMaskTest SecretsTest
+    FrameWriterTest HistoryModelTest HistoryRemovalTest HistoryStoreTest HistoryWidgetTest
+    HistoryWriterTest ImageCheckTest ImageLoaderTest InputCheckTest LogTest MakeOptionsTest
+    MakeProjectTest MediaFileInfoTest MediaSuffixesTest MetricSenderTest Mp3Test OutputTargetTest
+    PhotoFileTest ProcessTreeTest ProgressTest ProgressTextTest ProjectFileTest ProjectNameTest
+    ProjectSlidesTest RemainingTimeTest RenderControlTest RenderPlanTest SecretMaskTest SecretsTest
     ServicesConfigTest SessionKeyTest SessionValuesTest ShortcutResolverTest SingleInstanceTest
     SlideRendererTest SlideTableModelTest SlideTransitionTest SlidesTest SoundCheckerTest
     SoundPlanTest StandardOutputTest StartMessageTest SystemInfoTest TaskThreadTest
