@@ -56,7 +56,6 @@ public:
     explicit UploadFixture(FakeServices &services) : m_services(services)
     {
         services.reset();
-        m_store = openSettings(m_folder.filePath(QStringLiteral("settings.ini")));
         configure();
     }
 
@@ -107,14 +106,12 @@ public:
     }
     void save(const QString &service, const QString &token)
     {
-        const auto secrets = createSecrets(m_folder.path(), SecretKeyPlace::File);
-        TokenStore(*m_store, *secrets).save(keyOf(service), token);
+        TokenStore(*m_store, *m_secrets).save(keyOf(service), token);
     }
     /// The stored token.
     QString load(const QString &service)
     {
-        const auto secrets = createSecrets(m_folder.path(), SecretKeyPlace::File);
-        return TokenStore(*m_store, *secrets).load(keyOf(service));
+        return TokenStore(*m_store, *m_secrets).load(keyOf(service));
     }
 
     void start(const QString &service, const QString &file, const QString &title = QString())
@@ -171,7 +168,8 @@ private:
 
     FakeServices &m_services;
     QTemporaryDir m_folder;
-    std::unique_ptr<QSettings> m_store;
+    const std::unique_ptr<Secrets> m_secrets = createSecrets(m_folder.path(), SecretKeyPlace::File);
+    const std::unique_ptr<QSettings> m_store = openSettings(path("settings.ini"));
     std::unique_ptr<UploadController> m_controller;
     QByteArray m_hash;
 };
