@@ -38,11 +38,8 @@ QByteArray outputOf(const QString &tool, const QStringList &arguments, bool *ok)
 
 QStringList toneInput(const MediaSamples::Tone &tone)
 {
-    return words("-f lavfi -i") << QStringLiteral(
-                                       "sine=frequency=%1:sample_rate=%2:duration=%3,volume=4")
-                                       .arg(tone.frequency)
-                                       .arg(tone.sampleRate)
-                                       .arg(tone.seconds);
+    const QString sine = QStringLiteral("sine=frequency=%1:sample_rate=%2:duration=%3,volume=4");
+    return words("-f lavfi -i") << sine.arg(tone.frequency).arg(tone.sampleRate).arg(tone.seconds);
 }
 
 /// Power of one frequency, by Goertzel's recurrence.
@@ -99,10 +96,9 @@ bool MediaSamples::makeToneWithCover(const QString &path, const Tone &tone)
     const QTemporaryDir folder;
     const QString cover = folder.filePath(QStringLiteral("cover.jpg"));
     return encode(words("-f lavfi -i color=red:size=64x64 -frames:v 1") << cover) &&
-           encode(
-               toneInput(tone) << words("-i") << cover
-                               << words("-map 1 -map 0 -c:v copy -disposition:v attached_pic -ac")
-                               << QString::number(tone.channels) << path);
+           encode(toneInput(tone) + words("-i") + QStringList{cover} +
+                  words("-map 1 -map 0 -c:v copy -disposition:v attached_pic -ac") +
+                  QStringList{QString::number(tone.channels), path});
 }
 
 MediaSamples::Sound MediaSamples::listen(const QString &path)

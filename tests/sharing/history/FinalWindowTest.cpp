@@ -4,9 +4,7 @@
 #include "helpers/DialogDriver.h"
 #include "helpers/Files.h"
 #include "platform/FileManager.h"
-#include "sharing/upload/UploaderFactory.h"
 
-#include <QSignalSpy>
 #include <QTemporaryDir>
 
 using namespace velmora;
@@ -44,37 +42,6 @@ private slots:
     {
         m_manager = NotingFileManager();
         open(m_video);
-    }
-
-    void choicesCloseAndReport_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("service");
-        const char *rows[][3] = {{"btnUploadYoutube", "YOUTUBE", "youtube"},
-                                 {"btnUploadGoogleDrive", "GOOGLE DRIVE", "googledrive"},
-                                 {"btnUploadDropBox", "DROPBOX", "dropbox"},
-                                 {"btnBurnDvd", "BURN DVD", ""},
-                                 {"btnClose", "CLOSE", ""}};
-        for (const auto &row : rows)
-            QTest::newRow(row[0]) << row[1] << row[2];
-    }
-
-    void choicesCloseAndReport()
-    {
-        QFETCH(QString, service);
-        QPushButton *pressed = button(QTest::currentDataTag());
-        QSignalSpy uploads(m_window.get(), &FinalWindow::uploadService);
-        QSignalSpy burn(m_window.get(), &FinalWindow::burnDvd);
-        QTEST(pressed->text(), "text");
-        if (!service.isEmpty())
-            QCOMPARE(pressed->toolTip(), uploadHindrance().isEmpty()
-                                             ? QStringLiteral("Upload the video to this service")
-                                             : uploadHindrance());
-        QTest::mouseClick(pressed, Qt::LeftButton);
-        QVERIFY(m_window->isHidden());
-        QCOMPARE(uploads.isEmpty() ? QString() : uploads.first().first().toString(), service);
-        QCOMPARE(burn.size(), pressed == button("btnBurnDvd") ? 1 : 0);
-        QVERIFY(m_manager.shown.isEmpty());
     }
 
     void uploadsAreRefused()

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helpers/FakeServices.h"
-#include "sharing/upload/dropbox/DropBoxReplyHandler.h"
 #include "sharing/upload/youtube/YoutubeHandler.h"
 
-#include <QElapsedTimer>
 #include <QNetworkInterface>
 #include <QSignalSpy>
 #include <QTcpSocket>
@@ -176,27 +174,6 @@ private slots:
         }
         if (tried == 0)
             QSKIP("This machine has no other address");
-    }
-
-    void takenPortIsReported()
-    {
-        YoutubeHandler second(m_port);
-        QVERIFY(!second.open());
-        m_handler->shut();
-        QVERIFY(second.open());
-    }
-
-    void callbacks()
-    {
-        QCOMPARE(YoutubeHandler(15674).callback(), QStringLiteral("http://127.0.0.1:15674/"));
-        const quint16 port = freePort();
-        DropBoxReplyHandler handler(port);
-        QCOMPARE(handler.callback(), QStringLiteral("http://localhost:%1/cb").arg(port));
-        handler.setState(kState);
-        QVERIFY(handler.open());
-        QVERIFY(ask(port, kGood).startsWith("HTTP/1.1 404"));
-        QVERIFY(ask(port, "GET /cb?code=x&state=the-state HTTP/1.1\r\n\r\n")
-                    .startsWith("HTTP/1.1 200"));
     }
 
 private:

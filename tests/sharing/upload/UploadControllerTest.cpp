@@ -184,17 +184,6 @@ private slots:
         }
     }
 
-    void unconfiguredSaysSo()
-    {
-        UploadFixture user(m_services);
-        user.configure({{QStringLiteral("youtube/client_id"), QString()}});
-        QVERIFY(!user.controller().isConfigured(kYoutube));
-        QVERIFY(user.controller().isConfigured(QStringLiteral("googledrive")));
-        user.run(kYoutube, user.video(10));
-        QVERIFY(
-            user.trouble().startsWith(QLatin1String("Uploading to Youtube is not configured.")));
-    }
-
     void unknownServiceIsLogged()
     {
         UploadFixture user(m_services);
