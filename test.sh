@@ -23,18 +23,18 @@ windows_tests=(
     ConcatListTest CrashDumpTest CrashReporterTest CreateVideoTest DiscSessionTest DiscWriterTest
     DocumentsTest DropAreaTest EncoderCommandsTest EncoderLocatorTest EncoderOptionsTest
     EncoderProgressTest ExifReaderTest FadeComposerTest FileManagerTest FirstRunTest FrameFitterTest
-    FrameWriterTest HistoryModelTest HistoryStoreTest HistoryWidgetTest HistoryWriterTest
-    ImageCheckTest ImageLoaderTest InputCheckTest LogTest MakeOptionsTest MakeProjectTest
-    MediaFileInfoTest MediaSuffixesTest MetricSenderTest Mp3Test OutputTargetTest PhotoFileTest
-    ProcessTreeTest ProgramLanguageTest ProgressTest ProgressTextTest ProjectFileTest ProjectNameTest
-    ProjectSlidesTest RemainingTimeTest RenderControlTest RenderPlanTest SecretMaskTest SecretsTest
-    ServicesConfigTest SessionKeyTest SessionValuesTest ShortcutResolverTest SingleInstanceTest
-    SlideRendererTest SlideTableModelTest SlideTransitionTest SlidesTest SoundCheckerTest
-    SoundPlanTest StandardOutputTest StartMessageTest SystemInfoTest TaskThreadTest
-    TerminationWatcherTest ThubnailProviderTest TileGridTest TimelineTest TitleBackgroundTest
-    ToolRunnerTest TransitionTest TransitionTypeTest UnavailableUploadTest
-    UpdateCheckerTest VelmoraStartTest VelmoratoolTest WavTranscoderTest WavWriterTest
-    WindowsBurnTest WorkerProtocolTest WorkerTest
+    FrameWriterTest HistoryModelTest HistoryRemovalTest HistoryStoreTest HistoryWidgetTest
+    HistoryWriterTest ImageCheckTest ImageLoaderTest InputCheckTest LogTest MakeOptionsTest
+    MakeProjectTest MediaFileInfoTest MediaSuffixesTest MetricSenderTest Mp3Test OutputTargetTest
+    PhotoFileTest ProcessTreeTest ProgramLanguageTest ProgressTest ProgressTextTest ProjectFileTest
+    ProjectNameTest ProjectSlidesTest RemainingTimeTest RenderControlTest RenderPlanTest
+    SecretMaskTest SecretsTest ServicesConfigTest SessionKeyTest SessionValuesTest
+    ShortcutResolverTest SingleInstanceTest SlideRendererTest SlideTableModelTest
+    SlideTransitionTest SlidesTest SoundCheckerTest SoundPlanTest StandardOutputTest
+    StartMessageTest SystemInfoTest TaskThreadTest TerminationWatcherTest ThubnailProviderTest
+    TileGridTest TimelineTest TitleBackgroundTest ToolRunnerTest TransitionTest TransitionTypeTest
+    UnavailableUploadTest UpdateCheckerTest VelmoraStartTest VelmoratoolTest WavTranscoderTest
+    WavWriterTest WorkerProtocolTest WorkerTest
 )
 sdk=${VELMORA_WINDOWS_SDK_ARCHIVE:-../shared/windows/velmora-windows-sdk.tar.xz}
 usage() { sed -n 's/^#   //p' "$0"; }

@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A render worker that follows a script in place of a project: its request file holds one step a
-// line:
+// line, a word of ToolActs.h or
 //   print TEXT            a line on standard output
-//   flood BYTES           fill standard error
 //   await paused|running|canceled   wait for the session value
-//   touch FILE            make a file
 //   helper FILE           start a child that hangs, and write its process id to the file
-//   deaf                  ignore requests to end
-//   hang, crash, exit CODE
 #include "app/Paths.h"
-#include "helpers/Crash.h"
+#include "fakes/ToolActs.h"
 #include "platform/ProcessTree.h"
 #include "platform/SessionValues.h"
 
@@ -19,9 +15,6 @@
 #include <QSaveFile>
 #include <QThread>
 
-#include <csignal>
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
 
 using namespace velmora;
@@ -38,48 +31,19 @@ QString option(const QString &name)
 class FakeWorker
 {
 public:
-    FakeWorker()
-        : m_session(
-              createSessionValues(option(QStringLiteral("--session_id")), Paths::dataFolder()))
+    void step(const QString &word, const QString &value)
     {
-    }
-
-    void step(const QString &command, const QString &value)
-    {
-        if (command == QLatin1String("print"))
-            print(value);
-        else if (command == QLatin1String("flood"))
-            flood(value.toInt());
-        else if (command == QLatin1String("await"))
+        if (word == QLatin1String("print"))
+            act("out", value.toStdString());
+        else if (word == QLatin1String("await"))
             await(value);
-        else if (command == QLatin1String("touch"))
-            writeFile(value, "reached");
-        else if (command == QLatin1String("helper"))
+        else if (word == QLatin1String("helper"))
             startHelper(value);
-        else if (command == QLatin1String("deaf"))
-            std::signal(SIGTERM, SIG_IGN);
-        else if (command == QLatin1String("hang"))
-            QThread::sleep(3600);
-        else if (command == QLatin1String("crash"))
-            velmora::crash();
-        else if (command == QLatin1String("exit"))
-            std::exit(value.toInt());
+        else if (!act(word.toStdString()))
+            act(word.toStdString(), value.toStdString());
     }
 
 private:
-    static void print(const QString &text)
-    {
-        std::puts(text.toUtf8().constData());
-        std::fflush(stdout);
-    }
-
-    static void flood(int bytes)
-    {
-        const QByteArray line = QByteArray(99, 'x') + '\n';
-        for (int written = 0; written < bytes; written += line.size())
-            std::fputs(line.constData(), stderr);
-    }
-
     void await(const QString &what) const
     {
         const auto reached = [&] {
@@ -91,15 +55,6 @@ private:
             QThread::msleep(10);
     }
 
-    static void writeFile(const QString &path, const QByteArray &content)
-    {
-        QSaveFile file(path);
-        if (file.open(QIODevice::WriteOnly)) {
-            file.write(content);
-            file.commit();
-        }
-    }
-
     void startHelper(const QString &pidFile)
     {
         m_helper = ProcessTree::createProcess(ProcessTree::Group::Inherited);
@@ -107,10 +62,15 @@ private:
         m_helper->start(QCoreApplication::applicationDirPath() + tool,
                         {QStringLiteral("deaf"), QStringLiteral("hang")});
         m_helper->waitForStarted();
-        writeFile(pidFile, QByteArray::number(m_helper->processId()));
+        QSaveFile file(pidFile);
+        if (file.open(QIODevice::WriteOnly)) {
+            file.write(QByteArray::number(m_helper->processId()));
+            file.commit();
+        }
     }
 
-    std::unique_ptr<SessionValues> m_session;
+    std::unique_ptr<SessionValues> m_session =
+        createSessionValues(option(QStringLiteral("--session_id")), Paths::dataFolder());
     std::unique_ptr<QProcess> m_helper;
 };
 

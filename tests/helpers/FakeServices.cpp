@@ -14,24 +14,12 @@
 namespace velmora
 {
 
-namespace
-{
-
 quint16 freePort()
 {
     QTcpServer server;
     server.listen(QHostAddress::LocalHost);
     return server.serverPort();
 }
-
-QSslConfiguration trusting(const QString &caFile)
-{
-    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
-    tls.addCaCertificates(QSslCertificate::fromPath(caFile));
-    return tls;
-}
-
-} // namespace
 
 FakeServices::FakeServices(bool tls)
 {
@@ -79,8 +67,11 @@ ServicesConfig FakeServices::config(const QHash<QString, QString> &extra) const
 QJsonObject FakeServices::exchange(const QString &path, const QByteArray &body)
 {
     QNetworkRequest request(QUrl(m_url + path));
-    if (!m_caFile.isEmpty())
-        request.setSslConfiguration(trusting(m_caFile));
+    if (!m_caFile.isEmpty()) {
+        QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+        tls.addCaCertificates(m_caFile);
+        request.setSslConfiguration(tls);
+    }
     request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
     QNetworkReply *reply = body.isNull() ? m_network.get(request) : m_network.post(request, body);
     QEventLoop loop;
@@ -102,9 +93,9 @@ void FakeServices::reset()
     control({{QStringLiteral("reset"), true}, {QStringLiteral("answer"), QStringLiteral("allow")}});
 }
 
-QJsonObject FakeServices::action(const char *json)
+void FakeServices::fail(const QString &step, const QString &json, int times)
 {
-    return QJsonDocument::fromJson(json).object();
+    fail(step, QJsonDocument::fromJson(json.toUtf8()).object(), times);
 }
 
 void FakeServices::fail(const QString &step, QJsonObject action, int times)
@@ -113,9 +104,14 @@ void FakeServices::fail(const QString &step, QJsonObject action, int times)
     control({{QStringLiteral("fail"), QJsonObject{{step, QJsonArray{action}}}}});
 }
 
+QJsonValue FakeServices::log(const char *part)
+{
+    return exchange(QStringLiteral("/_log")).value(QLatin1String(part));
+}
+
 QJsonArray FakeServices::requests()
 {
-    return exchange(QStringLiteral("/_log")).value(QLatin1String("requests")).toArray();
+    return log("requests").toArray();
 }
 
 QStringList FakeServices::steps()
@@ -123,25 +119,23 @@ QStringList FakeServices::steps()
     QStringList steps;
     const QJsonArray all = requests();
     for (const QJsonValue &request : all)
-        steps.append(request.toObject().value(QLatin1String("step")).toString());
+        steps.append(request[QLatin1String("step")].toString());
     return steps;
 }
 
 QStringList FakeServices::problems()
 {
-    const QJsonValue all = exchange(QStringLiteral("/_log")).value(QLatin1String("problems"));
-    return all.toVariant().toStringList();
+    return log("problems").toVariant().toStringList();
 }
 
 QJsonArray FakeServices::files()
 {
-    return exchange(QStringLiteral("/_log")).value(QLatin1String("files")).toArray();
+    return log("files").toArray();
 }
 
 QStringList FakeServices::secrets()
 {
-    const QJsonValue all = exchange(QStringLiteral("/_log")).value(QLatin1String("secrets"));
-    return all.toVariant().toStringList();
+    return log("secrets").toVariant().toStringList();
 }
 
 ScriptedBrowser::ScriptedBrowser()

@@ -12,6 +12,9 @@
 namespace velmora
 {
 
+/// One of this machine on which nobody listens.
+quint16 freePort();
+
 /// The fake upload services of tests/fakes/services in a process of their own.
 class FakeServices
 {
@@ -28,10 +31,9 @@ public:
     /// See control() in tests/fakes/services/server.py.
     QJsonObject control(const QJsonObject &orders);
     void reset();
-    /// Of JSON text.
-    static QJsonObject action(const char *json);
     /// The next @p times requests of @p step end as @p action says.
     void fail(const QString &step, QJsonObject action, int times = 1);
+    void fail(const QString &step, const QString &json, int times = 1);
 
     QJsonArray requests();  ///< So far, in order.
     QStringList steps();    ///< Their kinds.
@@ -40,6 +42,7 @@ public:
     QStringList secrets();  ///< Codes and tokens that were handed out.
 
 private:
+    QJsonValue log(const char *part);
     QJsonObject exchange(const QString &path, const QByteArray &body = {});
 
     QProcess m_process;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helpers/MediaSamples.h"
 
+#include "helpers/Words.h"
+
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
@@ -36,11 +38,8 @@ QByteArray outputOf(const QString &tool, const QStringList &arguments, bool *ok)
 
 QStringList toneInput(const MediaSamples::Tone &tone)
 {
-    return {QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
-            QStringLiteral("sine=frequency=%1:sample_rate=%2:duration=%3,volume=4")
-                .arg(tone.frequency)
-                .arg(tone.sampleRate)
-                .arg(tone.seconds)};
+    const QString sine = QStringLiteral("sine=frequency=%1:sample_rate=%2:duration=%3,volume=4");
+    return words("-f lavfi -i") << sine.arg(tone.frequency).arg(tone.sampleRate).arg(tone.seconds);
 }
 
 /// Power of one frequency, by Goertzel's recurrence.
@@ -75,51 +74,31 @@ QStringList MediaSamples::vorbis()
 {
     bool ok = false;
     static const bool hasLibrary =
-        outputOf(encoder(),
-                 {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-encoders")}, &ok)
-            .contains("libvorbis");
-    const QString codec = QStringLiteral("-acodec");
-    if (hasLibrary)
-        return {codec, QStringLiteral("libvorbis")};
-    return {codec,
-            QStringLiteral("vorbis"),
-            QStringLiteral("-strict"),
-            QStringLiteral("-2"),
-            QStringLiteral("-ac"),
-            QStringLiteral("2")};
+        outputOf(encoder(), words("-v error -encoders"), &ok).contains("libvorbis");
+    return words(hasLibrary ? "-acodec libvorbis" : "-acodec vorbis -strict -2 -ac 2");
 }
 
 bool MediaSamples::encode(const QStringList &arguments)
 {
     bool ok = false;
-    outputOf(encoder(),
-             QStringList{QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-y")} +
-                 arguments,
-             &ok);
+    outputOf(encoder(), words("-v error -y") + arguments, &ok);
     return ok;
 }
 
 bool MediaSamples::makeTone(const QString &path, const Tone &tone, const QStringList &options)
 {
-    return encode(toneInput(tone) +
-                  QStringList{QStringLiteral("-ac"), QString::number(tone.channels)} + options +
-                  QStringList{path});
+    return encode(toneInput(tone) << words("-ac") << QString::number(tone.channels) << options
+                                  << path);
 }
 
 bool MediaSamples::makeToneWithCover(const QString &path, const Tone &tone)
 {
     const QTemporaryDir folder;
     const QString cover = folder.filePath(QStringLiteral("cover.jpg"));
-    return encode({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
-                   QStringLiteral("color=red:size=64x64"), QStringLiteral("-frames:v"),
-                   QStringLiteral("1"), cover}) &&
-           encode(toneInput(tone) + QStringList{QStringLiteral("-i"), cover, QStringLiteral("-map"),
-                                                QStringLiteral("1"), QStringLiteral("-map"),
-                                                QStringLiteral("0"), QStringLiteral("-ac"),
-                                                QString::number(tone.channels),
-                                                QStringLiteral("-c:v"), QStringLiteral("copy"),
-                                                QStringLiteral("-disposition:v"),
-                                                QStringLiteral("attached_pic"), path});
+    return encode(words("-f lavfi -i color=red:size=64x64 -frames:v 1") << cover) &&
+           encode(toneInput(tone) + words("-i") + QStringList{cover} +
+                  words("-map 1 -map 0 -c:v copy -disposition:v attached_pic -ac") +
+                  QStringList{QString::number(tone.channels), path});
 }
 
 MediaSamples::Sound MediaSamples::listen(const QString &path)
@@ -127,10 +106,8 @@ MediaSamples::Sound MediaSamples::listen(const QString &path)
     bool ok = false;
     const QByteArray bytes =
         outputOf(encoder(),
-                 {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-i"), path,
-                  QStringLiteral("-map"), QStringLiteral("0:a:0"), QStringLiteral("-ac"),
-                  QStringLiteral("1"), QStringLiteral("-ar"), QString::number(soundRate),
-                  QStringLiteral("-f"), QStringLiteral("f32le"), QStringLiteral("-")},
+                 words("-v error -i") << path << words("-map 0:a:0 -ac 1 -f f32le -ar")
+                                      << QString::number(soundRate) << words("-"),
                  &ok);
     if (!ok)
         return {};
@@ -173,13 +150,11 @@ int MediaSamples::tone(const Sound &sound, double from, double to, const QVector
 QString MediaSamples::format(const QString &path)
 {
     bool ok = false;
-    const QByteArray text =
-        outputOf(program(QStringLiteral("ffprobe")),
-                 {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-select_streams"),
-                  QStringLiteral("a:0"), QStringLiteral("-show_entries"),
-                  QStringLiteral("stream=sample_rate,channels"), QStringLiteral("-of"),
-                  QStringLiteral("csv=p=0"), path},
-                 &ok);
+    const QByteArray text = outputOf(
+        program(QStringLiteral("ffprobe")),
+        words("-v error -select_streams a:0 -show_entries stream=sample_rate,channels -of csv=p=0")
+            << path,
+        &ok);
     return QString::fromUtf8(text).trimmed();
 }
 

@@ -2,12 +2,13 @@
 #include "helpers/RenderFixture.h"
 
 #include "generator/pipeline/RenderJob.h"
+#include "helpers/Files.h"
+#include "helpers/Words.h"
 #include "project/slides/ProjectItemSimple.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
-#include <QFile>
 #include <QImage>
 #include <QLinearGradient>
 #include <QPainter>
@@ -56,23 +57,16 @@ QString RenderFixture::photo(const QString &name, int variant, const QSize &size
 
 QString RenderFixture::sound(const QString &name, int seconds) const
 {
-    const QStringList arguments{QStringLiteral("-v"),
-                                QStringLiteral("error"),
-                                QStringLiteral("-y"),
-                                QStringLiteral("-f"),
-                                QStringLiteral("lavfi"),
-                                QStringLiteral("-i"),
-                                QStringLiteral("sine=frequency=440:duration=%1").arg(seconds),
-                                path(name)};
-    if (QProcess::execute(QStringLiteral("ffmpeg"), arguments) != 0)
+    const QString tone = QStringLiteral("sine=frequency=440:duration=%1").arg(seconds);
+    if (QProcess::execute(QStringLiteral("ffmpeg"), words("-v error -y -f lavfi -i")
+                                                        << tone << path(name)) != 0)
         qFatal("The tone could not be made.");
     return path(name);
 }
 
 QString RenderFixture::file(const QString &name, const QByteArray &content) const
 {
-    QFile file(path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+    if (!writeFile(path(name), content))
         qFatal("The file could not be written.");
     return path(name);
 }
@@ -146,10 +140,9 @@ RenderOutcome RenderFixture::render(RenderRequest request) const
 
 QStringList RenderFixture::leftovers() const
 {
-    QStringList found =
-        QDir(cacheFolder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    const QStringList output =
-        QDir(outputFolder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    const auto all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+    QStringList found = QDir(cacheFolder()).entryList(all);
+    const QStringList output = QDir(outputFolder()).entryList(all);
     for (const QString &name : output) {
         if (name.startsWith(QLatin1Char('.')) || name.contains(QLatin1String(".part")))
             found.append(name);

@@ -14,6 +14,13 @@ inline QString testProcessPath()
     return QCoreApplication::applicationDirPath() + QStringLiteral("/testprocess");
 }
 
+/// Runs it to its end; false on a time-out.
+inline bool runTestProcess(QProcess &process, const QStringList &arguments, int timeoutMs = 30000)
+{
+    process.start(testProcessPath(), arguments);
+    return process.waitForFinished(timeoutMs);
+}
+
 /// Waits for the next whole line of a process's output, without its newline; null on a time-out.
 inline QByteArray nextLine(QProcess &process, int timeoutMs = 20000)
 {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helpers/VideoProbe.h"
 
+#include "helpers/Words.h"
+
 #include <QProcess>
-#include <QStringList>
 
 #include <algorithm>
 #include <cstdlib>
@@ -14,7 +15,6 @@ namespace
 {
 
 constexpr int kLongestRun = 60'000; // ms
-constexpr int kRate = 8000;         // Hz, one channel of 16 bits
 
 QByteArray output(const QString &program, const QStringList &arguments,
                   QByteArray *errors = nullptr)
@@ -27,22 +27,19 @@ QByteArray output(const QString &program, const QStringList &arguments,
     return process.readAllStandardOutput();
 }
 
-QStringList decode(const QString &file, const QStringList &options)
+QByteArray decode(const QString &file, const char *options, QByteArray *errors = nullptr)
 {
-    return QStringList{QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-i"), file} +
-           options;
+    return output(QStringLiteral("ffmpeg"), words("-v error -i") << file << words(options), errors);
 }
 
 } // namespace
 
 int VideoProbe::frameCount(const QString &file)
 {
-    const QByteArray text =
-        output(QStringLiteral("ffprobe"),
-               {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-count_frames"),
-                QStringLiteral("-select_streams"), QStringLiteral("v:0"),
-                QStringLiteral("-show_entries"), QStringLiteral("stream=nb_read_frames"),
-                QStringLiteral("-of"), QStringLiteral("csv=p=0"), file});
+    const QByteArray text = output(QStringLiteral("ffprobe"),
+                                   words("-v error -count_frames -select_streams v:0 -show_entries "
+                                         "stream=nb_read_frames -of csv=p=0")
+                                       << file);
     bool ok = false;
     const int count = text.trimmed().toInt(&ok);
     return ok ? count : -1;
@@ -50,22 +47,13 @@ int VideoProbe::frameCount(const QString &file)
 
 double VideoProbe::soundLength(const QString &file)
 {
-    const QByteArray samples =
-        output(QStringLiteral("ffmpeg"),
-               decode(file, {QStringLiteral("-vn"), QStringLiteral("-ac"), QStringLiteral("1"),
-                             QStringLiteral("-ar"), QString::number(kRate), QStringLiteral("-f"),
-                             QStringLiteral("s16le"), QStringLiteral("-")}));
-    return samples.size() / 2.0 / kRate;
+    // One channel of 8000 Hz and 16 bits.
+    return decode(file, "-vn -ac 1 -ar 8000 -f s16le -").size() / 16000.0;
 }
 
 QVector<QImage> VideoProbe::frames(const QString &file, const QSize &size)
 {
-    const QByteArray pixels =
-        output(QStringLiteral("ffmpeg"),
-               decode(file, {QStringLiteral("-an"), QStringLiteral("-vsync"),
-                             QStringLiteral("passthrough"), QStringLiteral("-f"),
-                             QStringLiteral("rawvideo"), QStringLiteral("-pix_fmt"),
-                             QStringLiteral("rgb24"), QStringLiteral("-")}));
+    const QByteArray pixels = decode(file, "-an -vsync passthrough -f rawvideo -pix_fmt rgb24 -");
     const int bytes = size.width() * size.height() * 3;
     QVector<QImage> images;
     for (int start = 0; start + bytes <= pixels.size(); start += bytes) {
@@ -80,9 +68,7 @@ QVector<QImage> VideoProbe::frames(const QString &file, const QSize &size)
 QString VideoProbe::decodingErrors(const QString &file)
 {
     QByteArray errors;
-    output(QStringLiteral("ffmpeg"),
-           decode(file, {QStringLiteral("-f"), QStringLiteral("null"), QStringLiteral("-")}),
-           &errors);
+    decode(file, "-f null -", &errors);
     return QString::fromUtf8(errors);
 }
 

@@ -18,151 +18,134 @@ class SingleInstanceTest : public QObject
     Q_OBJECT
 
 private slots:
-    void deliversText_data();
-    void deliversText();
-    void deliversManyPaths();
-    void killedOwnerIsReplaced();
-    void silentOwnerTimesOut();
-    void releasedOwnerIsReplaced();
-    void foldersAreIndependent();
-    void survivesForeignClients_data();
-    void survivesForeignClients();
+    void init()
+    {
+        m_place = std::make_unique<QTemporaryDir>();
+        m_folder = m_place->path();
+    }
+
+    void deliversText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("usual") << "Wake up!";
+        QTest::newRow("empty") << "";
+        QTest::newRow("other letters") << QStringLiteral("gr\u00fc\u00dfe \u65e5\u672c\nline");
+    }
+
+    void deliversText()
+    {
+        QFETCH(QString, text);
+        receives(SingleInstance(m_folder), text);
+    }
+
+    void deliversManyPaths()
+    {
+        const SingleInstance first(m_folder);
+        QSignalSpy received(&first, &SingleInstance::messageReceived);
+        // More than a command line holds.
+        const QString text(1 << 20, QLatin1Char('x'));
+        bool delivered = false;
+        const std::unique_ptr<QThread> sender(
+            QThread::create([&] { delivered = SingleInstance(m_folder).sendMessage(text, 5000); }));
+        sender->start();
+        QTRY_VERIFY(sender->isFinished());
+        QVERIFY(delivered);
+        QTRY_COMPARE(received.size(), 1);
+        QCOMPARE(received.first().first().toString(), text);
+    }
+
+    void killedOwnerIsReplaced()
+    {
+        QProcess owner;
+        holdIn(owner);
+        QVERIFY(SingleInstance(m_folder).isRunning());
+        owner.kill();
+        QVERIFY(owner.waitForFinished());
+        // Its lock file and its socket lie there still.
+        QVERIFY(QFile::exists(m_folder + QStringLiteral("/velmora.lock")));
+        receives(SingleInstance(m_folder));
+    }
+
+    void silentOwnerTimesOut()
+    {
+        QProcess owner;
+        holdIn(owner);
+        QVERIFY(ProcessControl::freeze(owner.processId()));
+        SingleInstance second(m_folder);
+        QVERIFY(second.isRunning());
+        QVERIFY(!second.sendMessage(QStringLiteral("Wake up!"), 200));
+
+        owner.kill();
+        QVERIFY(owner.waitForFinished());
+        QVERIFY(!second.sendMessage(QStringLiteral("Wake up!"), 200));
+        QVERIFY(!second.isRunning()); // The place was free by then.
+    }
+
+    void releasedOwnerIsReplaced()
+    {
+        SingleInstance first(m_folder);
+        QSignalSpy old(&first, &SingleInstance::messageReceived);
+        first.release();
+        receives(SingleInstance(m_folder));
+        QCOMPARE(old.size(), 0);
+    }
+
+    void foldersAreIndependent()
+    {
+        const QTemporaryDir other;
+        const SingleInstance first(m_folder);
+        QVERIFY(!first.isRunning());
+        QVERIFY(!SingleInstance(other.path()).isRunning());
+    }
+
+    void survivesForeignClients_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("nothing") << QByteArray();
+        QTest::newRow("huge length") << QByteArray("\x7f\xff\xff\xff garbage");
+        QTest::newRow("flood") << QByteArray(1 << 23, '\x7f');
+    }
+
+    void survivesForeignClients()
+    {
+        QFETCH(QByteArray, bytes);
+        const SingleInstance first(m_folder);
+        QLocalSocket client;
+        client.connectToServer(localServerName(m_folder));
+        QVERIFY(client.waitForConnected());
+        client.write(bytes);
+        client.flush();
+        receives(first);
+    }
 
 private:
-    static QByteArray send(const QString &folder, const QString &text, int timeoutMs)
+    /// Has another process be the first one.
+    void holdIn(QProcess &owner) const
     {
+        owner.start(testProcessPath(), {QStringLiteral("--hold-instance"), m_folder});
+        QCOMPARE(nextLine(owner), QByteArray("first"));
+    }
+
+    /// Another process finds @p first, which hears the text and nothing else.
+    void receives(const SingleInstance &first, const QString &text = QStringLiteral("hello")) const
+    {
+        QVERIFY(!first.isRunning());
+        QSignalSpy received(&first, &SingleInstance::messageReceived);
         QProcess process;
-        process.start(testProcessPath(), {QStringLiteral("--send-instance"), folder, text,
-                                          QString::number(timeoutMs)});
         // The receiving object lives in this thread, so its event loop has to go on.
         QSignalSpy finished(&process,
                             QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished));
+        process.start(testProcessPath(),
+                      {QStringLiteral("--send-instance"), m_folder, text, QStringLiteral("5000")});
         finished.wait(20000);
-        return process.readAllStandardOutput().trimmed();
+        QCOMPARE(process.readAllStandardOutput().trimmed(), QByteArray("delivered"));
+        QTRY_COMPARE(received.size(), 1);
+        QCOMPARE(received.first().first().toString(), text);
     }
+
+    std::unique_ptr<QTemporaryDir> m_place;
+    QString m_folder;
 };
-
-void SingleInstanceTest::deliversText_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("usual") << QStringLiteral("Wake up!");
-    QTest::newRow("empty") << QStringLiteral("");
-    QTest::newRow("other letters") << QStringLiteral("gr\u00fc\u00dfe \u65e5\u672c\nline");
-    QTest::newRow("long") << QString(30000, QLatin1Char('x'));
-}
-
-void SingleInstanceTest::deliversText()
-{
-    QFETCH(QString, text);
-    const QTemporaryDir folder;
-    const SingleInstance first(folder.path());
-    QSignalSpy received(&first, &SingleInstance::messageReceived);
-    QVERIFY(!first.isRunning());
-    QCOMPARE(send(folder.path(), text, 5000), QByteArray("delivered"));
-    QTRY_COMPARE(received.size(), 1);
-    QCOMPARE(received.first().first().toString(), text);
-}
-
-void SingleInstanceTest::deliversManyPaths()
-{
-    const QTemporaryDir folder;
-    const SingleInstance first(folder.path());
-    QSignalSpy received(&first, &SingleInstance::messageReceived);
-    // More than a command line holds.
-    const QString text(1 << 20, QLatin1Char('x'));
-    bool delivered = false;
-    const std::unique_ptr<QThread> sender(QThread::create(
-        [&] { delivered = SingleInstance(folder.path()).sendMessage(text, 5000); }));
-    sender->start();
-    QTRY_VERIFY(sender->isFinished());
-    QVERIFY(delivered);
-    QTRY_COMPARE(received.size(), 1);
-    QCOMPARE(received.first().first().toString(), text);
-}
-
-void SingleInstanceTest::killedOwnerIsReplaced()
-{
-    const QTemporaryDir folder;
-    QProcess owner;
-    owner.start(testProcessPath(), {QStringLiteral("--hold-instance"), folder.path()});
-    QCOMPARE(nextLine(owner), QByteArray("first"));
-    QVERIFY(SingleInstance(folder.path()).isRunning());
-    owner.kill();
-    QVERIFY(owner.waitForFinished());
-    // Its lock file and its socket lie there still.
-    QVERIFY(QFile::exists(folder.filePath(QStringLiteral("velmora.lock"))));
-
-    const SingleInstance next(folder.path());
-    QVERIFY(!next.isRunning());
-    QSignalSpy received(&next, &SingleInstance::messageReceived);
-    QCOMPARE(send(folder.path(), QStringLiteral("hello"), 5000), QByteArray("delivered"));
-    QTRY_COMPARE(received.size(), 1);
-}
-
-void SingleInstanceTest::silentOwnerTimesOut()
-{
-    const QTemporaryDir folder;
-    QProcess owner;
-    owner.start(testProcessPath(), {QStringLiteral("--hold-instance"), folder.path()});
-    QCOMPARE(nextLine(owner), QByteArray("first"));
-    QVERIFY(ProcessControl::freeze(owner.processId()));
-    SingleInstance second(folder.path());
-    QVERIFY(second.isRunning());
-    QVERIFY(!second.sendMessage(QStringLiteral("Wake up!"), 200));
-
-    owner.kill();
-    QVERIFY(owner.waitForFinished());
-    QVERIFY(!second.sendMessage(QStringLiteral("Wake up!"), 200));
-    QVERIFY(!second.isRunning()); // The place was free by then.
-}
-
-void SingleInstanceTest::releasedOwnerIsReplaced()
-{
-    const QTemporaryDir folder;
-    SingleInstance first(folder.path());
-    QSignalSpy old(&first, &SingleInstance::messageReceived);
-    first.release();
-    const SingleInstance next(folder.path());
-    QVERIFY(!next.isRunning());
-    QSignalSpy received(&next, &SingleInstance::messageReceived);
-    QCOMPARE(send(folder.path(), QStringLiteral("hello"), 5000), QByteArray("delivered"));
-    QTRY_COMPARE(received.size(), 1);
-    QCOMPARE(old.size(), 0);
-}
-
-void SingleInstanceTest::foldersAreIndependent()
-{
-    const QTemporaryDir one;
-    const QTemporaryDir two;
-    const SingleInstance first(one.path());
-    const SingleInstance second(two.path());
-    QVERIFY(!first.isRunning());
-    QVERIFY(!second.isRunning());
-}
-
-void SingleInstanceTest::survivesForeignClients_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("nothing") << QByteArray();
-    QTest::newRow("huge length") << QByteArray("\x7f\xff\xff\xff garbage");
-    QTest::newRow("flood") << QByteArray(1 << 23, '\x7f');
-}
-
-void SingleInstanceTest::survivesForeignClients()
-{
-    QFETCH(QByteArray, bytes);
-    const QTemporaryDir folder;
-    const SingleInstance first(folder.path());
-    QSignalSpy received(&first, &SingleInstance::messageReceived);
-    QLocalSocket client;
-    client.connectToServer(localServerName(folder.path()));
-    QVERIFY(client.waitForConnected());
-    client.write(bytes);
-    client.flush();
-    QCOMPARE(send(folder.path(), QStringLiteral("after"), 5000), QByteArray("delivered"));
-    QTRY_COMPARE(received.size(), 1);
-    QCOMPARE(received.first().first().toString(), QStringLiteral("after"));
-}
 
 QTEST_GUILESS_MAIN(SingleInstanceTest)
 #include "SingleInstanceTest.moc"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "programs/velmora/SplashScreen.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Words.h"
 
 #include <QtTest>
 

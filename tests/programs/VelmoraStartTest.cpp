@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helpers/DeadLock.h"
+#include "helpers/Files.h"
 #include "helpers/HttpServer.h"
 #include "helpers/ProcessControl.h"
-#include "helpers/TestFiles.h"
 
 #include <QImage>
 #include <QtTest>

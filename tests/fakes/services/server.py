@@ -140,7 +140,9 @@ class Handler(BaseHTTPRequestHandler):
             headers = {}
         headers.update(action.get("headers", {}))
         self.close_connection = bool(action.get("early"))
-        self.reply(action["status"], headers, action.get("body", "").encode())
+        body = action.get("body", "")
+        text = body if isinstance(body, str) else json.dumps(body)
+        self.reply(action["status"], headers, text.encode())
 
     def send_endless(self):
         self.send_response(200)

@@ -21,6 +21,10 @@ def require(condition, text):
         raise Wrong(text)
 
 
+def expect(found, wanted):
+    require(found == wanted, "%r stands where %r should" % (found, wanted))
+
+
 def as_json(status, data):
     return status, {"Content-Type": "application/json; charset=utf-8"}, json.dumps(data).encode()
 
@@ -47,12 +51,11 @@ class Services:
         values = single_values(request.query)
         keys = {"response_type", "client_id", "redirect_uri", "state", "code_challenge",
                 "code_challenge_method", "access_type", "prompt"}
-        require(set(values) == keys | (set() if box else {"scope"}),
-                "sign-in with the items " + ", ".join(sorted(values)))
+        expect(set(values), keys | (set() if box else {"scope"}))
         require(request.query.endswith(OFFLINE), "the sign-in's address does not end with " + OFFLINE)
-        require(values["response_type"] == "code", "the response type is " + values["response_type"])
-        require(values["code_challenge_method"] == "S256", "the proof key is not S256")
-        require(len(values["code_challenge"]) == 43, "the challenge's length is wrong")
+        expect(values["response_type"], "code")
+        expect(values["code_challenge_method"], "S256")
+        expect(len(values["code_challenge"]), 43)
         require(len(values["state"]) >= 22, "the state can be guessed")
         pattern = r"http://localhost:\d+/cb" if box else r"http://127\.0\.0\.1:\d+/"
         require(re.fullmatch(pattern, values["redirect_uri"]), "redirect to " + values["redirect_uri"])
@@ -67,7 +70,7 @@ class Services:
         scopes = {self.base + "/auth/youtube": "youtube", self.base + "/auth/drive.file": "googledrive"}
         service = "dropbox" if box else scopes.get(values["scope"])
         require(service, "the scope is " + values.get("scope", ""))
-        require(values["client_id"] == CLIENTS[service][0], "the client is " + values["client_id"])
+        expect(values["client_id"], CLIENTS[service][0])
         return service
 
     def redirect(self, values, allowed):
@@ -77,25 +80,22 @@ class Services:
         return 302, {"Location": target}, b""
 
     def token(self, request):
-        require(request.headers.get("Content-Type") == "application/x-www-form-urlencoded",
-                "the token request's type is %s" % request.headers.get("Content-Type"))
+        expect(request.headers.get("Content-Type"), "application/x-www-form-urlencoded")
         text = request.body.all().decode()
         values = single_values(text)
         box = request.path == "/oauth2/token"
         if values.get("grant_type") == "refresh_token":
             return self.refresh(values, text, box)
-        require(set(values) == {"grant_type", "code", "redirect_uri", "client_id", "client_secret",
-                                "code_verifier"}, "token request with " + ", ".join(sorted(values)))
-        require(values["grant_type"] == "authorization_code", "grant type " + values["grant_type"])
+        expect(set(values), {"grant_type", "code", "redirect_uri", "client_id", "client_secret",
+                             "code_verifier"})
+        expect(values["grant_type"], "authorization_code")
         sign_in = self.model.sign_ins.pop(values["code"], None)
         require(sign_in, "the code is unknown or was used: " + values["code"])
         service = sign_in["service"]
         require((service == "dropbox") == box, "the code went to another service")
-        require((values["client_id"], values["client_secret"]) == CLIENTS[service],
-                "the client's registration is wrong")
-        require(values["redirect_uri"] == sign_in["redirect_uri"], "another redirect address")
-        require(challenge_of(values["code_verifier"]) == sign_in["code_challenge"],
-                "the proof key does not match")
+        expect((values["client_id"], values["client_secret"]), CLIENTS[service])
+        expect(values["redirect_uri"], sign_in["redirect_uri"])
+        expect(challenge_of(values["code_verifier"]), sign_in["code_challenge"])
         answer = {"access_token": self.model.new_access(service), "token_type": "Bearer",
                   "expires_in": 3600}
         if self.model.give_refresh:
@@ -110,7 +110,7 @@ class Services:
         client, secret = CLIENTS[service]
         written = "client_secret=%s&grant_type=refresh_token&refresh_token=%s&client_id=%s" % (
             encoded(secret), encoded(values["refresh_token"]), encoded(client))
-        require(text == written, "the refresh's body is " + text)
+        expect(text, written)
         return as_json(200, {"access_token": self.model.new_access(service), "expires_in": 3600})
 
     # Uploads
@@ -118,10 +118,9 @@ class Services:
     def check_access(self, request, service, query):
         """The access token, or None if it is not valid any more."""
         token = single_values(request.query).get("access_token", "")
-        require(request.query == query % encoded(token), "the query is " + request.query)
+        expect(request.query, query % encoded(token))
         if request.step == "upload":
-            require(request.headers.get("Authorization") == "BEARER " + token,
-                    "Authorization is %s" % request.headers.get("Authorization"))
+            expect(request.headers.get("Authorization"), "BEARER " + token)
         return token if self.model.access.get(token) == service else None
 
     @staticmethod
@@ -132,7 +131,7 @@ class Services:
         if not self.check_access(request, "youtube", "access_token=%s&part=snippet"):
             return self.denied()
         _, headers, digest = read_multipart(request.body, request.headers.get("Content-Type"), 0)
-        require(headers == [("content-type", "video/*")], "the part's headers are %s" % headers)
+        expect(headers, [("content-type", "video/*")])
         entry = self.model.store("youtube", "", digest)
         entry["resource"] = {"kind": "video", "id": entry["id"],
                              "snippet": {"title": "unknown", "categoryId": "22"}}
@@ -141,26 +140,24 @@ class Services:
     def title(self, request):
         if not self.check_access(request, "youtube", "access_token=%s&part=snippet"):
             return self.denied()
-        require(request.headers.get("Content-Type") == "application/json",
-                "the title's type is %s" % request.headers.get("Content-Type"))
+        expect(request.headers.get("Content-Type"), "application/json")
         resource = json.loads(request.body.all())
         entry = next((file for file in self.model.files if file["id"] == resource.get("id")), None)
         require(entry, "the title of an unknown video")
         entry["title"] = resource["snippet"].pop("title")
         before = json.loads(json.dumps(entry["resource"]))
         before["snippet"].pop("title")
-        require(resource == before, "more than the title was changed")
+        expect(resource, before)
         return as_json(200, resource)
 
     def drive(self, request):
         if not self.check_access(request, "googledrive", "access_token=%s&uploadType=multipart"):
             return self.denied()
         parts, headers, digest = read_multipart(request.body, request.headers.get("Content-Type"), 1)
-        require(parts[0][0] == [("content-type", "application/json")],
-                "the first part's headers are %s" % parts[0][0])
-        require(headers == [("content-type", "video/*")], "the part's headers are %s" % headers)
+        expect(parts[0][0], [("content-type", "application/json")])
+        expect(headers, [("content-type", "video/*")])
         data = json.loads(parts[0][1])
-        require(set(data) == {"title", "description"}, "the description has %s" % sorted(data))
+        expect(set(data), {"title", "description"})
         entry = self.model.store("googledrive", data["title"], digest)
         return as_json(200, {"id": entry["id"], "title": data["title"],
                              "alternateLink": self.base + "/file/d/" + entry["id"]})
@@ -170,11 +167,10 @@ class Services:
     def box(self, request):
         names = [name for name, _ in request.headers.items()]
         require("Dropbox-API-arg" in names and "Authorization" in names, "a header is missing")
-        require(request.headers["Content-Type"] == "application/octet-stream",
-                "the type is " + request.headers["Content-Type"])
-        require(not request.query, "the query is " + request.query)
+        expect(request.headers["Content-Type"], "application/octet-stream")
+        expect(request.query, "")
         kind, _, token = request.headers["Authorization"].partition(" ")
-        require(kind == "Bearer", "Authorization is " + request.headers["Authorization"])
+        expect(kind, "Bearer")
         if self.model.access.get(token) != "dropbox":
             return as_json(401, {"error_summary": "expired_access_token/..", "error": {}})
         require(request.body.left <= CHUNK, "a piece of %d bytes" % request.body.left)
@@ -182,14 +178,15 @@ class Services:
         if request.step == "single":
             return self.commit(self.path_of(argument), self.read_piece(request, Digest()))
         if request.step == "start":
-            require(argument == '{ "close": false }', "the argument is " + argument)
+            expect(argument, '{ "close": false }')
             return self.start(request)
         return self.continue_session(request, argument)
 
     @staticmethod
     def path_of(argument):
         match = re.fullmatch(r'\{ "path": ("(?:[^"\\]|\\.)*"), "mode": "overwrite", '
-                             r'"autorename": (?:true|false), "mute": true \}', argument)
+                             r'"autorename": false, "mute": true \}', argument)
+        require(argument.isascii(), "the argument is not ASCII")
         require(match, "the argument is " + argument)
         return json.loads(match.group(1))
 
@@ -200,7 +197,7 @@ class Services:
         return digest
 
     def start(self, request):
-        require(request.body.left == CHUNK, "the first piece has %d bytes" % request.body.left)
+        expect(request.body.left, CHUNK)
         digest = self.read_piece(request, Digest())
         session = "session:%d_A" % next(self.model.numbers)
         self.model.sessions[session] = digest
@@ -236,7 +233,7 @@ class Services:
 
     def update(self, request):
         values = single_values(request.query)
-        require(list(values) == ["ver", "pid", "mh", "h"], "update check with %s" % list(values))
+        expect(list(values), ["ver", "pid", "mh", "h"])
         require(re.fullmatch(r"\d+\.\d+\.\d+", values["ver"]), "the version is " + values["ver"])
         require(re.fullmatch(r"[0-9a-f]{32}", values["h"]), "the digest is " + values["h"])
         return 200, {"Content-Type": "text/plain"}, self.model.version.encode()

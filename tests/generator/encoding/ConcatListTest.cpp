@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/encoding/ConcatList.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Files.h"
+#include "helpers/Words.h"
 
 #include <QtTest>
 

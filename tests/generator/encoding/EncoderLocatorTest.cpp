@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/encoding/EncoderLocator.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Files.h"
 
 #include <QtTest>
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/media/MediaFileInfo.h"
+#include "helpers/Files.h"
 #include "helpers/MediaSamples.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Words.h"
 
 #include <QtTest>
 

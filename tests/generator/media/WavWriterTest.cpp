@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/media/WavWriter.h"
 #include "generator/media/MediaFileInfo.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Files.h"
 
 #include <QtTest>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/CacheSweeper.h"
 #include "helpers/DeadLock.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Files.h"
 
 #include "generator/pipeline/RenderCache.h"
 

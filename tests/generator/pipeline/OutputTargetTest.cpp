@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/OutputTarget.h"
 #include "helpers/DeadLock.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Files.h"
+#include "helpers/Words.h"
 
 #include <QtTest>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/RenderJob.h"
+#include "helpers/Files.h"
 #include "helpers/RenderFixture.h"
-#include "helpers/TestFiles.h"
 #include "helpers/VideoProbe.h"
 
 #include <QtTest>

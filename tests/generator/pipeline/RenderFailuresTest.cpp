@@ -2,10 +2,10 @@
 #include "generator/pipeline/CacheSweeper.h"
 #include "generator/pipeline/RenderJob.h"
 #include "helpers/DeadLock.h"
+#include "helpers/Files.h"
 #include "helpers/LogCapture.h"
 #include "helpers/ProcessControl.h"
 #include "helpers/RenderFixture.h"
-#include "helpers/TestFiles.h"
 #include "platform/TerminationWatcher.h"
 #include "services/MetricSender.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/RenderPlan.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Words.h"
 
 #include "app/AppSettings.h"
 #include "project/documents/ProjectFile.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/encoding/VideoUtil.h"
+#include "helpers/Files.h"
 #include "helpers/MediaSamples.h"
-#include "helpers/TestFiles.h"
 
 #include <QtTest>
 

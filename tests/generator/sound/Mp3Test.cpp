@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/sound/Mp3.h"
+#include "helpers/Files.h"
 #include "helpers/LogCapture.h"
 #include "helpers/MediaSamples.h"
 #include "helpers/OrdinaryUser.h"
-#include "helpers/TestFiles.h"
 
 #include <QtTest>
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/worker/Composer.h"
 #include "generator/worker/WorkerProtocol.h"
+#include "helpers/Files.h"
 #include "helpers/ProcessControl.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Words.h"
 
 #include <QtTest>
 

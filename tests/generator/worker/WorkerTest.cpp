@@ -4,7 +4,7 @@
 #include "generator/worker/WorkerOutputReader.h"
 #include "helpers/ProcessControl.h"
 #include "helpers/RenderFixture.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Words.h"
 
 #include <QtTest>
 

@@ -8,7 +8,6 @@
 #include "platform/SingleInstance.h"
 
 #include <QCoreApplication>
-#include <QHash>
 #include <QLoggingCategory>
 #include <QProcess>
 #include <QThread>
@@ -16,11 +15,13 @@
 #include <csignal>
 #include <cstdio>
 #include <functional>
+#include <map>
 #include <memory>
+#include <thread>
 #include <vector>
 
 // A program that does what its arguments say, one after the other, for tests that need a real
-// process: it prints, ends, blocks, crashes, writes log lines or starts further processes.
+// process: it ends, blocks, crashes, writes log lines or starts further processes.
 
 namespace
 {
@@ -29,17 +30,15 @@ using namespace velmora;
 
 QStringList arguments;
 std::vector<std::unique_ptr<QProcess>> children;
-std::unique_ptr<SingleInstance> instance;
 
 QString next()
 {
     return arguments.isEmpty() ? QString() : arguments.takeFirst();
 }
 
-void say(const QString &text)
+void say(const QByteArray &text)
 {
-    const QByteArray line = text.toUtf8() + '\n';
-    std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stdout);
+    std::puts(text.constData());
     std::fflush(stdout);
 }
 
@@ -49,7 +48,7 @@ void startChild(std::unique_ptr<QProcess> process)
     process->setProcessChannelMode(QProcess::ForwardedChannels);
     process->start(QCoreApplication::applicationFilePath(), next().split(QLatin1Char(' ')));
     process->waitForStarted();
-    say(QStringLiteral("child %1").arg(process->processId()));
+    say("child " + QByteArray::number(process->processId()));
     children.push_back(std::move(process));
 }
 
@@ -58,17 +57,16 @@ void writeLog()
     const int threads = next().toInt();
     const int count = next().toInt();
     Log::install(QStringLiteral("log"));
-    std::vector<std::unique_ptr<QThread>> running;
+    std::vector<std::thread> running;
     for (int t = 0; t < threads; ++t) {
-        running.emplace_back(QThread::create([t, count] {
+        running.emplace_back([t, count] {
             for (int i = 0; i < count; ++i)
                 qInfo("process %lld thread %d line %d %s", QCoreApplication::applicationPid(), t, i,
                       QByteArray(i % 200, '*').constData());
-        }));
-        running.back()->start();
+        });
     }
-    for (const auto &thread : running)
-        thread->wait();
+    for (std::thread &thread : running)
+        thread.join();
     Log::uninstall();
 }
 
@@ -88,13 +86,11 @@ void setSession()
         values->clear();
 }
 
-// Holds the single instance and prints what it receives, for ever.
+// Holds the single instance for ever.
 void holdInstance()
 {
-    instance = std::make_unique<SingleInstance>(next());
-    QObject::connect(instance.get(), &SingleInstance::messageReceived, instance.get(),
-                     [](const QString &text) { say(QStringLiteral("received ") + text); });
-    say(instance->isRunning() ? QStringLiteral("second") : QStringLiteral("first"));
+    const SingleInstance instance(next());
+    say(instance.isRunning() ? "second" : "first");
     QCoreApplication::exec();
 }
 
@@ -104,14 +100,14 @@ void sendToInstance()
     const QString text = next();
     const int timeout = next().toInt();
     const bool delivered = second.isRunning() && second.sendMessage(text, timeout);
-    say(delivered ? QStringLiteral("delivered") : QStringLiteral("not delivered"));
+    say(delivered ? "delivered" : "not delivered");
 }
 
 void installCrashDump()
 {
     QString error;
     if (!CrashDump::install(next(), &error))
-        say(error);
+        say(error.toUtf8());
 }
 
 // Of a thread whose stack is soon full, and soon written to a dump.
@@ -124,38 +120,24 @@ void overflowSmallStack()
     thread->wait();
 }
 
-[[noreturn]] void block()
-{
-    for (;;)
-        QThread::sleep(3600);
-}
-
-const QHash<QString, std::function<void()>> &actions()
-{
-    static const QHash<QString, std::function<void()>> table = {
-        {QStringLiteral("--print"), [] { say(next()); }},
-        {QStringLiteral("--error"), [] { std::fprintf(stderr, "%s\n", qUtf8Printable(next())); }},
-        {QStringLiteral("--exit"), [] { std::exit(next().toInt()); }},
-        {QStringLiteral("--block"), [] { block(); }},
-        {QStringLiteral("--crash"), crash},
-        {QStringLiteral("--overflow-stack"), overflowSmallStack},
-        {QStringLiteral("--ignore-terminate"), [] { std::signal(SIGTERM, SIG_IGN); }},
-        {QStringLiteral("--raise"), [] { std::raise(next().toInt()); }},
-        {QStringLiteral("--run"), [] { startChild(std::make_unique<QProcess>()); }},
-        {QStringLiteral("--run-own"),
-         [] { startChild(ProcessTree::createProcess(ProcessTree::Group::Own)); }},
-        {QStringLiteral("--run-inherited"),
-         [] { startChild(ProcessTree::createProcess(ProcessTree::Group::Inherited)); }},
-        {QStringLiteral("--log"), writeLog},
-        {QStringLiteral("--session"), setSession},
-        {QStringLiteral("--hold-instance"), holdInstance},
-        {QStringLiteral("--send-instance"), sendToInstance},
-        {QStringLiteral("--crash-dump"), installCrashDump},
-        {QStringLiteral("--write-dump"),
-         [] { say(CrashDump::write() ? QStringLiteral("written") : QStringLiteral("refused")); }},
-    };
-    return table;
-}
+const std::map<QByteArray, std::function<void()>> kActions = {
+    {"--exit", [] { std::exit(next().toInt()); }},
+    {"--block", [] { QThread::sleep(86400); }},
+    {"--crash", crash},
+    {"--overflow-stack", overflowSmallStack},
+    {"--ignore-terminate", [] { std::signal(SIGTERM, SIG_IGN); }},
+    {"--raise", [] { std::raise(next().toInt()); }},
+    {"--run", [] { startChild(std::make_unique<QProcess>()); }},
+    {"--run-own", [] { startChild(ProcessTree::createProcess(ProcessTree::Group::Own)); }},
+    {"--run-inherited",
+     [] { startChild(ProcessTree::createProcess(ProcessTree::Group::Inherited)); }},
+    {"--log", writeLog},
+    {"--session", setSession},
+    {"--hold-instance", holdInstance},
+    {"--send-instance", sendToInstance},
+    {"--crash-dump", installCrashDump},
+    {"--write-dump", [] { say(CrashDump::write() ? "written" : "refused"); }},
+};
 
 } // namespace
 
@@ -165,12 +147,10 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     arguments = QCoreApplication::arguments().mid(1);
     while (!arguments.isEmpty()) {
-        const QString verb = next();
-        if (!actions().contains(verb)) {
-            std::fprintf(stderr, "unknown action %s\n", qUtf8Printable(verb));
+        const auto action = kActions.find(next().toUtf8());
+        if (action == kActions.end())
             return 64;
-        }
-        actions().value(verb)();
+        action->second();
     }
     return 0;
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "helpers/Files.h"
 #include "platform/SessionValues.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -14,16 +14,6 @@ class SessionFileTest : public QObject
     Q_OBJECT
 
 private slots:
-    void clearRemovesTheFile()
-    {
-        const auto values = createSessionValues(QStringLiteral("gone"), m_folder.path());
-        values->setPaused(true);
-        const QDir sessions(m_folder.filePath(QStringLiteral("sessions")));
-        QCOMPARE(sessions.entryList(QDir::Files).size(), 1);
-        values->clear();
-        QCOMPARE(sessions.entryList(QDir::Files), QStringList());
-    }
-
     void survivesForeignContent_data()
     {
         QTest::addColumn<QByteArray>("content");
@@ -41,21 +31,19 @@ private slots:
     {
         QFETCH(QByteArray, content);
         QFETCH(bool, paused);
-        QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("sessions")));
-        QFile file(m_folder.filePath(QStringLiteral("sessions/foreign.ini")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        file.close();
-        const auto values = createSessionValues(QStringLiteral("foreign"), m_folder.path());
+        const QTemporaryDir folder;
+        QDir sessions(folder.filePath(QStringLiteral("sessions")));
+        QVERIFY(sessions.mkpath(QStringLiteral(".")));
+        QVERIFY(writeFile(sessions.filePath(QStringLiteral("foreign.ini")), content));
+        const auto values = createSessionValues(QStringLiteral("foreign"), folder.path());
         QCOMPARE(values->isPaused(), paused);
         QVERIFY(!values->isCanceled());
         values->setCanceled(true);
         QVERIFY(values->isCanceled());
         QCOMPARE(values->isPaused(), paused);
+        values->clear();
+        QCOMPARE(sessions.entryList(QDir::Files), QStringList());
     }
-
-private:
-    QTemporaryDir m_folder;
 };
 
 QTEST_GUILESS_MAIN(SessionFileTest)

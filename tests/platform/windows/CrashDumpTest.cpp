@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/CrashDump.h"
+#include "helpers/Files.h"
 #include "helpers/TestProcess.h"
+#include "helpers/Words.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <csignal>
@@ -19,8 +20,8 @@ private slots:
     void crashLeavesDump_data()
     {
         QTest::addColumn<QString>("crash");
-        QTest::newRow("access violation") << QStringLiteral("--crash");
-        QTest::newRow("stack overflow") << QStringLiteral("--overflow-stack");
+        QTest::newRow("access violation") << "--crash";
+        QTest::newRow("stack overflow") << "--overflow-stack";
     }
 
     void crashLeavesDump()
@@ -29,8 +30,7 @@ private slots:
         const QString file =
             m_folder.filePath(QStringLiteral("gr\u00fc\u00dfe \u65e5%1.dmp").arg(crash));
         QProcess process;
-        process.start(testProcessPath(), {QStringLiteral("--crash-dump"), file, crash});
-        QVERIFY(process.waitForFinished(kLongestDump));
+        QVERIFY(runTestProcess(process, words("--crash-dump") << file << crash, kLongestDump));
         // The process ends by the exception as if there were no handler.
         QCOMPARE(process.exitStatus(), QProcess::CrashExit);
         QVERIFY(isMiniDump(file));
@@ -41,11 +41,11 @@ private slots:
     {
         const QString file = m_folder.filePath(QStringLiteral("abort.dmp"));
         QProcess process;
-        process.start(testProcessPath(),
-                      {QStringLiteral("--write-dump"), QStringLiteral("--crash-dump"), file,
-                       QStringLiteral("--raise"), QString::number(SIGABRT),
-                       QStringLiteral("--exit"), QStringLiteral("3")});
-        QVERIFY(process.waitForFinished(kLongestDump));
+        QVERIFY(runTestProcess(process,
+                               words("--write-dump --crash-dump")
+                                   << file << words("--raise") << QString::number(SIGABRT)
+                                   << words("--exit 3"),
+                               kLongestDump));
         QCOMPARE(nextLine(process), QByteArray("refused")); // Not installed yet.
         QCOMPARE(process.exitCode(), 3);
         QVERIFY(isMiniDump(file));
@@ -53,27 +53,25 @@ private slots:
 
     void unusableFolderIsNoObstacle()
     {
+        const QString file = m_folder.filePath(QStringLiteral("no/x.dmp"));
         QProcess process;
-        process.start(testProcessPath(),
-                      {QStringLiteral("--crash-dump"),
-                       m_folder.filePath(QStringLiteral("no/x.dmp")), QStringLiteral("--crash")});
-        QVERIFY(process.waitForFinished(kLongestDump));
+        QVERIFY(runTestProcess(process, words("--crash-dump") << file << words("--crash"),
+                               kLongestDump));
         QCOMPARE(process.exitStatus(), QProcess::CrashExit);
     }
 
     void describesNothingFromAnEmptyFile()
     {
-        QFile file(m_folder.filePath(QStringLiteral("empty.dmp")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.close();
-        QCOMPARE(CrashDump::describe(file.fileName()), QStringList());
+        const QString file = m_folder.filePath(QStringLiteral("empty.dmp"));
+        QVERIFY(writeFile(file));
+        QCOMPARE(CrashDump::describe(file), QStringList());
     }
 
 private:
     static bool isMiniDump(const QString &path)
     {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) && file.read(4) == "MDMP" && file.size() > 1000;
+        const QByteArray dump = readFile(path);
+        return dump.startsWith("MDMP") && dump.size() > 1000;
     }
 
     QTemporaryDir m_folder;

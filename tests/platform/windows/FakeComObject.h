@@ -40,11 +40,9 @@ public:
     FakeComObject &operator=(const FakeComObject &) = delete;
 
     /// Puts a function into the table, which gets this object and the arguments.
-    template <typename... Arguments>
-    FakeComObject &on(int slot, HRESULT (*function)(FakeComObject *, Arguments...))
+    template <typename Function> void on(int slot, Function function)
     {
-        m_table[static_cast<size_t>(slot)] = reinterpret_cast<Entry>(function);
-        return *this;
+        m_table[static_cast<size_t>(slot)] = reinterpret_cast<Entry>(+function);
     }
     /// Notes a call of this object.
     HRESULT note(const QString &call) { return m_record.note(m_name + QLatin1Char(' ') + call); }

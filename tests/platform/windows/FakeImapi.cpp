@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/windows/FakeImapi.h"
 
+#include "helpers/Files.h"
 #include "platform/windows/FakeParts.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 namespace velmora
@@ -65,16 +65,12 @@ HRESULT FakeImapi::loadTypeLibrary(ITypeLib **library)
 HRESULT FakeImapi::openFile(const wchar_t *path, DWORD mode, IStream **stream)
 {
     const QString file = QString::fromWCharArray(path);
-    m_disc.streamPath = file;
     const HRESULT result = m_disc.note(QStringLiteral("SHCreateStreamOnFileEx %1 %2")
                                            .arg(QFileInfo(file).fileName())
                                            .arg(mode, 8, 16, QLatin1Char('0')));
     if (FAILED(result))
         return result;
-    QFile video(file);
-    if (video.open(QIODevice::ReadOnly))
-        m_disc.streamContent = video.readAll();
-    video.close();
+    m_disc.streamContent = readFile(file);
     m_disc.streamNames = countNames(path);
     auto *made = new FakeComObject(m_disc, QStringLiteral("video"), __uuidof(IStream));
     made->atEnd = [file] { QFile::remove(file); };

@@ -27,9 +27,8 @@ struct FakeDisc : ComRecord {
     bool describesEvents = true; ///< The type library has the event interfaces.
 
     IDispatch *sink = nullptr; ///< Connected.
-    QString streamPath;        ///< Of the video's stream.
-    QByteArray streamContent;
-    DWORD streamNames = 0; ///< How many names the file has.
+    QByteArray streamContent;  ///< Of the video's stream.
+    DWORD streamNames = 0;     ///< How many names the file has.
 };
 
 /// Takes part of the system for burning; its objects note each call with its arguments.

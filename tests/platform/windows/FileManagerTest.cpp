@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/FileManager.h"
+#include "helpers/Files.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QTemporaryDir>
@@ -23,66 +23,61 @@ public:
     static QString noteOf(const QString &program) { return program + QStringLiteral(".txt"); }
 
 private slots:
-    void initTestCase();
+    void initTestCase()
+    {
+        QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(),
+                            path(QStringLiteral("explorer.exe"))));
+        QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("Мои видео")));
+        QVERIFY(writeFile(path(QStringLiteral("Мои видео/日本 2, 3.mp4"))));
+        // Programs are looked for in the current folder before that of the system.
+        QVERIFY(QDir::setCurrent(m_folder.path()));
+    }
+
     void cleanupTestCase() { QDir::setCurrent(QDir::tempPath()); }
-    void showsFiles_data();
-    void showsFiles();
-    void programThatDoesNotStart();
+
+    void showsFiles_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("arguments"); // Empty: nothing is started.
+        const char *rows[][3] = {
+            {"file", "Мои видео/日本 2, 3.mp4", "/select, \"%1\\Мои видео\\日本 2, 3.mp4\""},
+            {"gone", "Мои видео/gone.mp4", "\"%1\\Мои видео\""},
+            {"folder gone", "gone/gone.mp4", ""}};
+        for (const auto &row : rows)
+            QTest::newRow(row[0]) << row[1] << row[2];
+    }
+
+    void showsFiles()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, arguments);
+        QCOMPARE(createFileManager()->showInFolder(path(file)), !arguments.isEmpty());
+        if (arguments.isEmpty())
+            return;
+        QFile note(noteOf(path(QStringLiteral("explorer.exe"))));
+        QTRY_VERIFY(note.isOpen() || note.open(QIODevice::ReadOnly));
+        const QString folder =
+            QDir::toNativeSeparators(QFileInfo(m_folder.path()).absoluteFilePath());
+        const QString line = QString::fromUtf8(note.readAll());
+        QVERIFY2(line.startsWith(QStringLiteral("explorer.exe ")), qPrintable(line));
+        QCOMPARE(line.section(QLatin1Char(' '), 1).trimmed(), arguments.arg(folder));
+        QVERIFY(note.remove());
+    }
+
+    void programThatDoesNotStart()
+    {
+        const QString program = path(QStringLiteral("explorer.exe"));
+        // The last copy may still be ending.
+        QTRY_VERIFY(!QFile::exists(program) || QFile::remove(program));
+        QVERIFY(writeFile(program, "no program"));
+        QVERIFY(!createFileManager()->showInFolder(path(QStringLiteral("Мои видео/gone.mp4"))));
+    }
 
 private:
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
     QTemporaryDir m_folder;
 };
-
-void FileManagerTest::initTestCase()
-{
-    QVERIFY(
-        QFile::copy(QCoreApplication::applicationFilePath(), path(QStringLiteral("explorer.exe"))));
-    QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("Мои видео")));
-    QFile video(path(QStringLiteral("Мои видео/日本 2, 3.mp4")));
-    QVERIFY(video.open(QIODevice::WriteOnly));
-    // Programs are looked for in the current folder before that of the system.
-    QVERIFY(QDir::setCurrent(m_folder.path()));
-}
-
-void FileManagerTest::showsFiles_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("arguments"); // Empty: nothing is started.
-    QTest::newRow("file") << QStringLiteral("Мои видео/日本 2, 3.mp4")
-                          << QStringLiteral("/select, \"%1\\Мои видео\\日本 2, 3.mp4\"");
-    QTest::newRow("gone") << QStringLiteral("Мои видео/gone.mp4")
-                          << QStringLiteral("\"%1\\Мои видео\"");
-    QTest::newRow("folder gone") << QStringLiteral("gone/gone.mp4") << QString();
-}
-
-void FileManagerTest::showsFiles()
-{
-    QFETCH(QString, file);
-    QFETCH(QString, arguments);
-    QCOMPARE(createFileManager()->showInFolder(path(file)), !arguments.isEmpty());
-    if (arguments.isEmpty())
-        return;
-    QFile note(noteOf(path(QStringLiteral("explorer.exe"))));
-    QTRY_VERIFY(note.isOpen() || note.open(QIODevice::ReadOnly));
-    const QString folder = QDir::toNativeSeparators(QFileInfo(m_folder.path()).absoluteFilePath());
-    const QString line = QString::fromUtf8(note.readAll());
-    QVERIFY2(line.startsWith(QStringLiteral("explorer.exe ")), qPrintable(line));
-    QCOMPARE(line.section(QLatin1Char(' '), 1).trimmed(), arguments.arg(folder));
-    QVERIFY(note.remove());
-}
-
-void FileManagerTest::programThatDoesNotStart()
-{
-    const QString program = path(QStringLiteral("explorer.exe"));
-    // The last copy may still be ending.
-    QTRY_VERIFY(!QFile::exists(program) || QFile::remove(program));
-    QFile broken(program);
-    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no program") > 0);
-    broken.close();
-    QVERIFY(!createFileManager()->showInFolder(path(QStringLiteral("Мои видео/gone.mp4"))));
-}
 
 int main(int argc, char **argv)
 {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/ShortcutResolver.h"
+#include "helpers/Files.h"
 #include "platform/ComApartment.h"
+#include "platform/windows/ComPtr.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -17,80 +18,59 @@ class ShortcutResolverTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void resolves_data();
-    void resolves();
+    void initTestCase()
+    {
+        m_root = QDir(m_folder.path()).canonicalPath() + QLatin1Char('/');
+        QVERIFY(writeFile(m_root + kPhoto, "x"));
+        QVERIFY(writeFile(m_root + QStringLiteral("gone.jpg"), "x"));
+        makeShortcut(QStringLiteral("link.lnk"), kPhoto);
+        makeShortcut(kOwnName, kPhoto);
+        makeShortcut(QStringLiteral("broken.lnk"), QStringLiteral("gone.jpg"));
+        QVERIFY(QFile::remove(m_root + QStringLiteral("gone.jpg")));
+        QVERIFY(writeFile(m_root + QStringLiteral("empty.lnk")));
+        QVERIFY(writeFile(m_root + QStringLiteral("binary.lnk"), QByteArray(300000, '\xff')));
+    }
+
+    void resolves_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("target"); // A name in the folder; null for nothing.
+        QTest::newRow("plain file") << kPhoto << kPhoto;
+        QTest::newRow("missing file") << "nothing" << QStringLiteral("nothing");
+        QTest::newRow("shortcut") << "link.lnk" << kPhoto;
+        QTest::newRow("name of its own") << kOwnName << kPhoto;
+        for (const char *useless : {"broken.lnk", "empty.lnk", "binary.lnk"})
+            QTest::newRow(useless) << useless << QString();
+    }
+
+    void resolves()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, target);
+        QCOMPARE(resolveShortcut(m_root + name), target.isNull() ? QString() : m_root + target);
+    }
 
 private:
-    QString path(const QString &name) const { return m_root + QLatin1Char('/') + name; }
-    void write(const QString &name, const QByteArray &content) const;
-    void makeShortcut(const QString &name, const QString &target) const;
+    // As the Explorer makes them.
+    void makeShortcut(const QString &name, const QString &target) const
+    {
+        const std::wstring nativeTarget = QDir::toNativeSeparators(m_root + target).toStdWString();
+        const std::wstring nativeName = QDir::toNativeSeparators(m_root + name).toStdWString();
+        ComPtr<IShellLinkW> link;
+        ComPtr<IPersistFile> file;
+        QVERIFY(SUCCEEDED(
+            CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                             reinterpret_cast<void **>(link.ReleaseAndGetAddressOf()))));
+        QVERIFY(SUCCEEDED(link->SetPath(nativeTarget.c_str())));
+        QVERIFY(SUCCEEDED(link.As(&file)) && SUCCEEDED(file->Save(nativeName.c_str(), TRUE)));
+    }
 
+    const QString kPhoto = QStringLiteral("f\u00f6t\u00f6 \u65e5 100%.jpg");
+    const QString kOwnName = QStringLiteral("l\u00efnk \u65e5.lnk");
     const ComApartment m_apartment;
     QTemporaryDir m_folder;
-    QString m_root;
+    QString m_root; ///< With a slash behind.
 };
-
-void ShortcutResolverTest::write(const QString &name, const QByteArray &content) const
-{
-    QFile file(path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
-}
-
-// As the Explorer makes them.
-void ShortcutResolverTest::makeShortcut(const QString &name, const QString &target) const
-{
-    IShellLinkW *link = nullptr;
-    QVERIFY(SUCCEEDED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER,
-                                       IID_IShellLinkW, reinterpret_cast<void **>(&link))));
-    const std::wstring nativeTarget = QDir::toNativeSeparators(path(target)).toStdWString();
-    const std::wstring nativeName = QDir::toNativeSeparators(path(name)).toStdWString();
-    IPersistFile *file = nullptr;
-    const bool saved =
-        SUCCEEDED(link->SetPath(nativeTarget.c_str())) &&
-        SUCCEEDED(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void **>(&file))) &&
-        SUCCEEDED(file->Save(nativeName.c_str(), TRUE));
-    if (file)
-        file->Release();
-    link->Release();
-    QVERIFY(saved);
-}
-
-void ShortcutResolverTest::initTestCase()
-{
-    m_root = QDir(m_folder.path()).canonicalPath();
-    const QString photo = QStringLiteral("f\u00f6t\u00f6 \u65e5 100%.jpg");
-    write(photo, "x");
-    write(QStringLiteral("gone.jpg"), "x");
-    makeShortcut(QStringLiteral("link.lnk"), photo);
-    makeShortcut(QStringLiteral("l\u00efnk \u65e5.lnk"), photo);
-    makeShortcut(QStringLiteral("broken.lnk"), QStringLiteral("gone.jpg"));
-    QVERIFY(QFile::remove(path(QStringLiteral("gone.jpg"))));
-    write(QStringLiteral("empty.lnk"), QByteArray());
-    write(QStringLiteral("binary.lnk"), QByteArray(300000, '\xff'));
-}
-
-void ShortcutResolverTest::resolves_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("target"); // A name in the folder; null for nothing.
-    const QString photo = QStringLiteral("f\u00f6t\u00f6 \u65e5 100%.jpg");
-    QTest::newRow("plain file") << photo << photo;
-    QTest::newRow("missing file") << QStringLiteral("nothing") << QStringLiteral("nothing");
-    QTest::newRow("shortcut") << QStringLiteral("link.lnk") << photo;
-    QTest::newRow("name of its own") << QStringLiteral("l\u00efnk \u65e5.lnk") << photo;
-    QTest::newRow("broken") << QStringLiteral("broken.lnk") << QString();
-    QTest::newRow("empty") << QStringLiteral("empty.lnk") << QString();
-    QTest::newRow("binary") << QStringLiteral("binary.lnk") << QString();
-}
-
-void ShortcutResolverTest::resolves()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, target);
-    QCOMPARE(resolveShortcut(path(name)), target.isNull() ? QString() : path(target));
-}
 
 QTEST_GUILESS_MAIN(ShortcutResolverTest)
 #include "ShortcutResolverTest.moc"

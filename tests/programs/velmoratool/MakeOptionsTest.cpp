@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "programs/velmoratool/MakeOptions.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Words.h"
 
 #include "project/slides/TransitionType.h"
 

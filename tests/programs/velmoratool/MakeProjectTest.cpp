@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "programs/velmoratool/MakeProject.h"
-#include "helpers/TestFiles.h"
-
 #include "helpers/RenderFixture.h"
 #include "programs/velmoratool/InputFiles.h"
 #include "project/images/Pictures.h"

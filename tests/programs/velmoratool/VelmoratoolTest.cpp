@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Identity.h"
 #include "generator/worker/WorkerProtocol.h"
+#include "helpers/Files.h"
 #include "helpers/HttpServer.h"
 #include "helpers/ProcessControl.h"
 #include "helpers/RenderFixture.h"
-#include "helpers/TestFiles.h"
 #include "helpers/VideoProbe.h"
+#include "helpers/Words.h"
 #include "platform/ProcessTree.h"
 #include "programs/velmoratool/HelpText.h"
 

@@ -2,6 +2,7 @@
 #include "sharing/burning/BurnDialog.h"
 #include "chrome/Theme.h"
 #include "helpers/DialogDriver.h"
+#include "helpers/Files.h"
 #include "helpers/LogCapture.h"
 #include "sharing/burning/BurnController.h"
 #include "sharing/burning/FakeDiscWriter.h"
@@ -21,26 +22,23 @@ Q_DECLARE_METATYPE(velmora::DiscMedia)
 namespace
 {
 
-constexpr qint64 kMegabyte = 1048576;
 constexpr int kVideoSize = 3000000;
 
-DiscMedia blank(qint64 megabytes)
-{
-    DiscMedia media;
-    media.present = true;
-    media.blank = true;
-    media.freeBytes = megabytes * kMegabyte;
-    return media;
-}
-
-DiscMedia used(qint64 free, bool appendable, bool erasable = true)
+DiscMedia used(qint64 megabytes, bool appendable, bool erasable = true)
 {
     DiscMedia media;
     media.present = true;
     media.appendable = appendable;
     media.erasable = erasable;
-    media.freeBytes = free * kMegabyte;
+    media.freeBytes = megabytes * 1048576;
     media.volumeName = QStringLiteral("Holidays");
+    return media;
+}
+
+DiscMedia blank(qint64 megabytes)
+{
+    DiscMedia media = used(megabytes, false, false);
+    media.blank = true;
     return media;
 }
 
@@ -55,9 +53,7 @@ private slots:
     {
         Theme::install(*qApp);
         m_video = m_folder.filePath(QStringLiteral("Summer.mp4"));
-        QFile file(m_video);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(QByteArray(kVideoSize, 'v')), kVideoSize);
+        QVERIFY(writeFile(m_video, QByteArray(kVideoSize, 'v')));
     }
 
     void init()
@@ -104,9 +100,9 @@ private slots:
         m_state->hindrance = hindrance;
         open(QString(), 0);
         QVERIFY(!ready());
-        QVERIFY(find<QLabel>("lbProblem")->isVisible());
-        QVERIFY(!find<QLabel>("lbProblem")->text().isEmpty());
-        QVERIFY(hindrance.isEmpty() || find<QLabel>("lbProblem")->text() == hindrance);
+        const auto *problem = find<QLabel>("lbProblem");
+        QVERIFY(problem->isVisible() && !problem->text().isEmpty());
+        QVERIFY(hindrance.isEmpty() || problem->text() == hindrance);
     }
 
     void slowDriveIsNotWaitedFor()
@@ -125,19 +121,18 @@ private slots:
     {
         QTest::addColumn<QString>("given");
         QTest::addColumn<QString>("shown");
-        const QString usual = QStringLiteral("My slideshow");
-        QTest::newRow("none") << "" << usual;
-        QTest::newRow("blanks") << " \n " << usual;
-        QTest::newRow("lines") << "Two\nlines" << QStringLiteral("Two lines");
+        const char *usual = "My slideshow";
+        QTest::newRow("none") << QString() << usual;
+        QTest::newRow("blanks") << QStringLiteral(" \n ") << usual;
+        QTest::newRow("lines") << QStringLiteral("Two\nlines") << "Two lines";
         QTest::newRow("long") << QString(60, QLatin1Char('x')) << QString(32, QLatin1Char('x'));
     }
 
     void fieldsStart()
     {
         QFETCH(QString, given);
-        QFETCH(QString, shown);
         open(given);
-        QCOMPARE(find<QLineEdit>("leDiskTitle")->text(), shown);
+        QTEST(find<QLineEdit>("leDiskTitle")->text(), "shown");
         QCOMPARE(find<QLineEdit>("leFileName")->text(), QStringLiteral("Summer.mp4"));
         QVERIFY(!find<QCheckBox>("cbFinalizeDisk")->isChecked());
     }
@@ -168,8 +163,8 @@ private slots:
     {
         QTest::addColumn<DiscMedia>("media");
         QTest::addColumn<QString>("message");
-        const QString small = QStringLiteral("There is not enough disc space for the slideshow");
-        QTest::newRow("no disc") << DiscMedia() << QStringLiteral("Media disk is not ready");
+        const char *small = "There is not enough disc space for the slideshow";
+        QTest::newRow("no disc") << DiscMedia() << "Media disk is not ready";
         QTest::newRow("too small") << blank(2) << small;
         QTest::newRow("closed for good") << used(0, false, false) << small;
         QTest::newRow("too little left") << used(2, true) << small;
@@ -179,13 +174,13 @@ private slots:
     void refusals()
     {
         QFETCH(DiscMedia, media);
-        QFETCH(QString, message);
         open();
         m_state->media = media;
         DialogDriver driver;
         driver.press(QStringLiteral("CLOSE"));
         click("btnBurn");
-        QTRY_COMPARE(driver.text(), message);
+        QTRY_VERIFY(!driver.text().isEmpty());
+        QTEST(driver.text(), "message");
         QCOMPARE(page(), QStringLiteral("pgSettings"));
         QTRY_VERIFY(ready());
         QCOMPARE(m_state->noted(), QStringList()); // No drive was opened.
@@ -196,13 +191,13 @@ private slots:
         QTest::addColumn<DiscMedia>("media");
         QTest::addColumn<bool>("mayAdd");
         QTest::addColumn<QString>("button");
-        QTest::addColumn<QString>("firstSteps");
-        const QString erase = QStringLiteral("open 0,erase");
-        QTest::newRow("add") << used(700, true) << true << "btnNo"
-                             << QStringLiteral("open 0,check");
+        QTest::addColumn<QStringList>("firstSteps");
+        const QStringList erase{QStringLiteral("open 0"), QStringLiteral("erase")};
+        const QStringList check{QStringLiteral("open 0"), QStringLiteral("check")};
+        QTest::newRow("add") << used(700, true) << true << "btnNo" << check;
         QTest::newRow("erase") << used(700, true) << true << "btnYes" << erase;
         QTest::newRow("closed or full") << used(700, false) << false << "btnYes" << erase;
-        QTest::newRow("cancel") << used(700, true) << true << "btnCancelTwo" << QString();
+        QTest::newRow("cancel") << used(700, true) << true << "btnCancelTwo" << QStringList();
     }
 
     void contentIsAskedAbout()
@@ -210,9 +205,10 @@ private slots:
         QFETCH(DiscMedia, media);
         QFETCH(bool, mayAdd);
         QFETCH(QString, button);
-        QFETCH(QString, firstSteps);
+        QFETCH(QStringList, firstSteps);
         m_state->media = media;
         open();
+        LogCapture log;
         click("btnBurn");
         QTRY_COMPARE(page(), QStringLiteral("pgNotEmpty"));
         QCOMPARE(find<QLabel>("lbDiskName")->text(), QStringLiteral("Holidays"));
@@ -231,7 +227,11 @@ private slots:
             return;
         }
         QTRY_COMPARE(page(), QStringLiteral("pgResult"));
-        QCOMPARE(m_state->noted().mid(0, 2).join(QLatin1Char(',')), firstSteps);
+        QCOMPARE(m_state->noted().mid(0, 2), firstSteps);
+        const QStringList lines{QStringLiteral("Burn begin erasing"),
+                                QStringLiteral("Burn erase progress 50 from 100")};
+        QCOMPARE(log.lines().filter(QStringLiteral("eras")),
+                 firstSteps.contains(QStringLiteral("erase")) ? lines : QStringList());
     }
 
     void burnsInOrder_data()
@@ -274,45 +274,37 @@ private slots:
         QVERIFY(m_dialog->isHidden());
     }
 
-    void failingStep_data()
+    void endsAfterTroubleIn_data()
     {
+        QTest::addColumn<QString>("step");
         QTest::addColumn<int>("steps");
+        QTest::addColumn<bool>("stopped"); // By the user; otherwise the step fails.
         int steps = 0;
-        for (const char *step : {"open", "erase", "check", "image", "finish", "write"})
-            QTest::newRow(step) << ++steps;
+        for (const char *step : {"open", "erase", "check", "image", "finish", "write"}) {
+            ++steps;
+            QTest::addRow("%s fails", step) << step << steps << false;
+            QTest::addRow("%s is stopped", step) << step << steps << true;
+        }
     }
 
-    void failingStep()
+    void endsAfterTroubleIn()
     {
-        QFETCH(int, steps);
+        QFETCH(QString, step);
+        QFETCH(bool, stopped);
         m_state->media = used(700, true);
-        m_state->failingStep = QString::fromLatin1(QTest::currentDataTag());
+        (stopped ? m_state->slowStep : m_state->failingStep) = step;
         open();
         click("btnBurn");
         QTRY_COMPARE(page(), QStringLiteral("pgNotEmpty"));
         click("btnYes");
+        if (stopped) {
+            QVERIFY(m_state->begun.tryAcquire(1, 20000));
+            m_controller->cancel();
+            m_state->mayEnd.release();
+        }
         QTRY_COMPARE(page(), QStringLiteral("pgResult"));
         QCOMPARE(find<QLabel>("lbResult")->text(), QStringLiteral("Error"));
-        QCOMPARE(m_state->noted().size(), steps); // Nothing follows a step that failed.
-    }
-
-    void stoppedStep_data() { failingStep_data(); }
-
-    void stoppedStep()
-    {
-        QFETCH(int, steps);
-        m_state->media = used(700, true);
-        m_state->slowStep = QString::fromLatin1(QTest::currentDataTag());
-        open();
-        click("btnBurn");
-        QTRY_COMPARE(page(), QStringLiteral("pgNotEmpty"));
-        click("btnYes");
-        QVERIFY(m_state->begun.tryAcquire(1, 20000));
-        m_controller->cancel();
-        m_state->mayEnd.release();
-        QTRY_COMPARE(page(), QStringLiteral("pgResult"));
-        QCOMPARE(find<QLabel>("lbResult")->text(), QStringLiteral("Error"));
-        QCOMPARE(m_state->noted().size(), steps); // Above all, no write after it.
+        QTEST(m_state->noted().size(), "steps"); // Above all, no write after it.
     }
 
     void cancelAsksFirst()

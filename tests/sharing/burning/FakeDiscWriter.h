@@ -30,16 +30,18 @@ public:
         QSemaphore asked;             ///< Gets one whenever somebody wants to know them.
         QSemaphore gone;              ///< Gets one when the writer is destroyed.
 
-        void note(const QString &step)
+        /// Notes a step, and tells whether it succeeds.
+        bool takes(const QString &step)
         {
             {
                 const std::lock_guard<std::mutex> lock(mutex);
                 steps.append(step);
             }
-            if (slowStep.isEmpty() || !step.startsWith(slowStep))
-                return;
-            begun.release();
-            mayEnd.acquire();
+            if (!slowStep.isEmpty() && step.startsWith(slowStep)) {
+                begun.release();
+                mayEnd.acquire();
+            }
+            return failingStep.isEmpty() || !step.startsWith(failingStep);
         }
         QStringList noted()
         {
@@ -69,10 +71,8 @@ public:
     DiscMedia media(const QString &) override { return m_state.media; }
     std::unique_ptr<DiscSession> openSession(const QString &id) override
     {
-        m_state.note(QStringLiteral("open ") + id);
-        if (m_state.failingStep == QLatin1String("open"))
-            return nullptr;
-        return std::make_unique<Session>(m_state);
+        const bool opened = m_state.takes(QStringLiteral("open ") + id);
+        return opened ? std::make_unique<Session>(m_state) : nullptr;
     }
 
 private:
@@ -83,34 +83,28 @@ private:
 
         bool erase(const DiscProgress &progress) override
         {
-            m_state.note(QStringLiteral("erase"));
             progress(50, 100);
-            return m_state.failingStep != QLatin1String("erase");
+            return m_state.takes(QStringLiteral("erase"));
         }
-        bool checkMedia() override
-        {
-            m_state.note(QStringLiteral("check"));
-            return m_state.failingStep != QLatin1String("check");
-        }
+        bool checkMedia() override { return m_state.takes(QStringLiteral("check")); }
         bool createImage(const QString &video, const QString &fileName,
                          const QString &volumeName) override
         {
-            m_state.note(QStringLiteral("image %1 %2 %3").arg(video, fileName, volumeName));
-            return m_state.failingStep != QLatin1String("image");
+            return m_state.takes(QStringLiteral("image %1 %2 %3").arg(video, fileName, volumeName));
         }
         bool finishImage(bool finalize) override
         {
-            m_state.note(finalize ? QStringLiteral("finish closing") : QStringLiteral("finish"));
-            return m_state.failingStep != QLatin1String("finish");
+            return m_state.takes(finalize ? QStringLiteral("finish closing")
+                                          : QStringLiteral("finish"));
         }
         bool write(const DiscProgress &progress, const std::atomic_bool &cancelled) override
         {
-            m_state.note(QStringLiteral("write"));
+            const bool succeeds = m_state.takes(QStringLiteral("write"));
             progress(42, 100);
             m_state.writing.release();
             while (m_state.hold && !cancelled)
                 QThread::yieldCurrentThread();
-            return !cancelled && m_state.failingStep != QLatin1String("write");
+            return !cancelled && succeeds;
         }
 
     private:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sharing/history/HistoryModel.h"
 #include "helpers/MediaSamples.h"
+#include "helpers/Words.h"
 #include "project/documents/Timeline.h"
 #include "sharing/history/HistoryFixture.h"
 
@@ -10,112 +11,78 @@
 
 using namespace velmora;
 
-namespace
-{
-
-QString names(const HistoryModel &model)
-{
-    QStringList all;
-    for (int row = 0; row < model.rowCount(); ++row)
-        all.append(model.index(row).data().toString());
-    return all.join(QLatin1Char(' '));
-}
-
-bool isKnown(const HistoryModel &model)
-{
-    return model.rowCount() > 0 && model.entry(0).facts.known;
-}
-
-} // namespace
-
 class HistoryModelTest : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void init() { m_history = std::make_unique<HistoryFixture>(); }
+    void cleanup() { m_model.reset(); }
+
     void sorting_data()
     {
-        QTest::addColumn<QVector<int>>("clicks"); // 0: date, 1: file name
-        QTest::addColumn<QString>("order");
-        QTest::newRow("at first the newest")
-            << QVector<int>{} << QStringLiteral("c.mp4 B10.mp4 b9.mp4");
-        QTest::newRow("date twice") << QVector<int>{0} << QStringLiteral("b9.mp4 B10.mp4 c.mp4");
-        QTest::newRow("name") << QVector<int>{1} << QStringLiteral("b9.mp4 B10.mp4 c.mp4");
-        QTest::newRow("name twice") << QVector<int>{1, 1} << QStringLiteral("c.mp4 B10.mp4 b9.mp4");
-        QTest::newRow("name, then date")
-            << QVector<int>{1, 0} << QStringLiteral("c.mp4 B10.mp4 b9.mp4");
+        QTest::addColumn<QStringList>("clicks");
+        QTest::addColumn<QStringList>("order");
+        const QStringList up = words("b9.mp4 B10.mp4 c.mp4");
+        const QStringList down = words("c.mp4 B10.mp4 b9.mp4");
+        QTest::newRow("at first the newest") << QStringList() << down;
+        QTest::newRow("date twice") << words("date") << up;
+        QTest::newRow("name") << words("name") << up;
+        QTest::newRow("name twice") << words("name name") << down;
+        QTest::newRow("name, then date") << words("name date") << down;
     }
 
     void sorting()
     {
-        QFETCH(QVector<int>, clicks);
-        QFETCH(QString, order);
-        HistoryFixture history;
+        QFETCH(QStringList, clicks);
+        QFETCH(QStringList, order);
         // The file times decide, not the order in the history.
-        history.add("c.mp4", 10, QDate(2026, 3, 1));
-        history.add("b9.mp4", 10, QDate(2026, 1, 1));
-        history.add("B10.mp4", 10, QDate(2026, 2, 1));
-        HistoryModel model(history.store, history.settings);
-        const QAbstractItemModelTester tester(&model);
-        model.reload();
-        QTRY_VERIFY(isKnown(model));
-        for (const int click : clicks)
-            model.sortBy(click == 0 ? HistoryModel::Key::Date : HistoryModel::Key::FileName);
-        QCOMPARE(names(model), order);
-        model.reload();
-        QCOMPARE(names(model), order);
+        m_history->add("c.mp4", 10, QDate(2026, 3, 1));
+        m_history->add("b9.mp4", 10, QDate(2026, 1, 1));
+        m_history->add("B10.mp4", 10, QDate(2026, 2, 1));
+        load();
+        const QAbstractItemModelTester tester(m_model.get());
+        for (const QString &click : clicks)
+            m_model->sortBy(click == QLatin1String("date") ? HistoryModel::Key::Date
+                                                           : HistoryModel::Key::FileName);
+        QCOMPARE(names(), order);
+        m_model->reload();
+        QCOMPARE(names(), order);
     }
 
     void factsFollow()
     {
-        HistoryFixture history;
-        history.add("a.mp4", 5 * 1048576, QDate(2026, 5, 17));
-        history.add("gone.mp4", -1, {});
-        HistoryModel model(history.store, history.settings);
-        model.reload();
-        QVERIFY(!isKnown(model));
-        QTRY_VERIFY(isKnown(model));
-        const HistoryEntry entry = model.entry(model.rowOf(history.path("a.mp4")));
+        m_history->add("first.mp4", 5 * 1048576, QDate(2026, 1, 17));
+        m_history->add("gone.mp4", -1, {});
+        m_history->add("last.mp4", 10, QDate(2026, 2, 1));
+        load();
+        QCOMPARE(names(), words("last.mp4 gone.mp4 first.mp4")); // Removed ones keep their place.
+        const HistoryEntry entry = entryOf("first.mp4");
         QVERIFY(entry.facts.exists);
         QCOMPARE(entry.facts.size, 5 * 1048576);
-        QCOMPARE(entry.facts.date.date(), QDate(2026, 5, 17));
-        QVERIFY(!model.entry(model.rowOf(history.path("gone.mp4"))).facts.exists);
+        QCOMPARE(entry.facts.date.date(), QDate(2026, 1, 17));
+        QVERIFY(!entryOf("gone.mp4").facts.exists);
         // A video that goes later is noticed with the next reload.
-        QVERIFY(QFile::remove(history.path("a.mp4")));
-        QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
-        model.reload();
+        QVERIFY(QFile::remove(m_history->path("first.mp4")));
+        QSignalSpy changed(m_model.get(), &QAbstractItemModel::dataChanged);
+        m_model->reload();
         QVERIFY(changed.wait());
-        QVERIFY(!model.entry(model.rowOf(history.path("a.mp4"))).facts.exists);
-    }
-
-    void removedVideosKeepTheirPlace()
-    {
-        HistoryFixture history;
-        history.add("first.mp4", 10, QDate(2026, 1, 1));
-        history.add("gone.mp4", -1, {});
-        history.add("last.mp4", 10, QDate(2026, 2, 1));
-        HistoryModel model(history.store, history.settings);
-        model.reload();
-        QTRY_VERIFY(isKnown(model));
-        QCOMPARE(names(model), QStringLiteral("last.mp4 gone.mp4 first.mp4"));
+        QVERIFY(!entryOf("first.mp4").facts.exists);
     }
 
     void durationComesFromTheVideo()
     {
-        HistoryFixture history;
-        const ProjectFile *project = history.add("tone.wav", -1, {});
+        const ProjectFile *project = m_history->add("tone.wav", -1, {});
         MediaSamples::Tone tone;
         tone.seconds = 3;
-        QVERIFY(MediaSamples::makeTone(history.path("tone.wav"), tone));
-        HistoryModel model(history.store, history.settings);
-        model.reload();
-        QTRY_VERIFY(isKnown(model));
+        QVERIFY(MediaSamples::makeTone(m_history->path("tone.wav"), tone));
+        load();
         const qint64 planned =
-            Timeline::ofProject(*project, history.settings.transitionTime).totalLength();
+            Timeline::ofProject(*project, m_history->settings.transitionTime).totalLength();
         QVERIFY(planned != 3000);
-        QCOMPARE(model.entry(0).facts.duration, planned);
-        model.probe(0);
-        QTRY_COMPARE(model.entry(0).facts.duration, 3000);
+        QCOMPARE(m_model->entry(0).facts.duration, planned);
+        m_model->probe(0);
+        QTRY_COMPARE(m_model->entry(0).facts.duration, 3000);
     }
 
     void videoChangesAfterTheList_data()
@@ -128,43 +95,62 @@ private slots:
     void videoChangesAfterTheList()
     {
         QFETCH(int, size);
-        HistoryFixture history;
-        const ProjectFile *project = history.add("a.mp4", 10, QDate(2026, 1, 1));
-        history.add("unchanged.mp4", 10, QDate(2025, 1, 1));
-        HistoryModel model(history.store, history.settings);
-        model.reload();
-        QTRY_VERIFY(isKnown(model));
-        QVERIFY(QFile::remove(history.path("a.mp4")));
+        const ProjectFile *project = m_history->add("a.mp4", 10, QDate(2026, 1, 1));
+        m_history->add("unchanged.mp4", 10, QDate(2025, 1, 1));
+        load();
+        QVERIFY(QFile::remove(m_history->path("a.mp4")));
         if (size >= 0)
-            HistoryFixture::write(history.path("a.mp4"), size, QDate(2026, 2, 1));
+            HistoryFixture::write(m_history->path("a.mp4"), size, QDate(2026, 2, 1));
         QStringList changed;
         // The list asks for the duration of each row that changes.
-        connect(&model, &QAbstractItemModel::dataChanged, this, [&](const QModelIndex &index) {
-            changed.append(index.data().toString());
-            model.probe(index.row());
-        });
-        model.probe(0);
-        QTRY_COMPARE(changed, QStringList{QStringLiteral("a.mp4")});
-        const HistoryEntry entry = model.entry(model.rowOf(project));
+        connect(m_model.get(), &QAbstractItemModel::dataChanged, this,
+                [&](const QModelIndex &index) {
+                    changed.append(index.data().toString());
+                    m_model->probe(index.row());
+                });
+        m_model->probe(0);
+        QTRY_COMPARE(changed, words("a.mp4"));
+        const HistoryEntry entry = m_model->entry(m_model->rowOf(project));
         QCOMPARE(entry.facts.exists, size >= 0);
         QCOMPARE(entry.facts.size, qMax(size, 0));
         // One reader reads one file after the other: what comes next was asked for last.
-        model.probe(model.rowOf(history.path("unchanged.mp4")));
-        QTRY_COMPARE(changed.size(), 2);
-        QCOMPARE(changed.last(), QStringLiteral("unchanged.mp4"));
+        m_model->probe(m_model->rowOf(m_history->path("unchanged.mp4")));
+        QTRY_COMPARE(changed, words("a.mp4 unchanged.mp4"));
     }
 
     void sameFileTwice()
     {
-        HistoryFixture history;
-        const ProjectFile *old = history.add("a.mp4", 10, QDate(2026, 1, 1));
-        const ProjectFile *fresh = history.add("a.mp4", 10, QDate(2026, 1, 1));
-        HistoryModel model(history.store, history.settings);
-        model.reload();
-        QCOMPARE(model.entry(model.rowOf(history.path("a.mp4"))).project, fresh);
-        QVERIFY(model.rowOf(old) != model.rowOf(fresh));
-        QCOMPARE(model.rowOf(QStringLiteral("/nowhere")), -1);
+        const ProjectFile *old = m_history->add("a.mp4", 10, QDate(2026, 1, 1));
+        const ProjectFile *fresh = m_history->add("a.mp4", 10, QDate(2026, 1, 1));
+        load();
+        QCOMPARE(entryOf("a.mp4").project, fresh);
+        QVERIFY(m_model->rowOf(old) != m_model->rowOf(fresh));
+        QCOMPARE(m_model->rowOf(QStringLiteral("/nowhere")), -1);
     }
+
+private:
+    /// Waits for the facts too.
+    void load()
+    {
+        m_model = std::make_unique<HistoryModel>(m_history->store, m_history->settings);
+        m_model->reload();
+        QVERIFY(!m_model->entry(0).facts.known);
+        QTRY_VERIFY(m_model->entry(0).facts.known);
+    }
+    QStringList names() const
+    {
+        QStringList all;
+        for (int row = 0; row < m_model->rowCount(); ++row)
+            all.append(m_model->index(row).data().toString());
+        return all;
+    }
+    HistoryEntry entryOf(const char *name) const
+    {
+        return m_model->entry(m_model->rowOf(m_history->path(name)));
+    }
+
+    std::unique_ptr<HistoryFixture> m_history;
+    std::unique_ptr<HistoryModel> m_model;
 };
 
 QTEST_GUILESS_MAIN(HistoryModelTest)

@@ -12,31 +12,18 @@ using namespace velmora;
 namespace
 {
 
-QByteArray readAll(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+const QString kYoutube = QStringLiteral("youtube");
 
-/// The forms in which a token could show up.
-QList<QByteArray> formsOf(const QString &token)
-{
-    const QByteArray plain = token.toUtf8();
-    const QByteArray wide(reinterpret_cast<const char *>(token.utf16()), 2 * token.size());
-    return {plain,
-            QUrl::toPercentEncoding(token),
-            QUrl::toPercentEncoding(token, "/"),
-            plain.toHex(),
-            plain.toBase64(),
-            wide};
-}
-
-/// The first of @p tokens that is in @p data, or null.
+/// The first of @p tokens that is in @p data in one of the forms in which it could show up, or
+/// null.
 QString findIn(const QByteArray &data, const QStringList &tokens)
 {
     for (const QString &token : tokens) {
-        const QList<QByteArray> forms = formsOf(token);
-        for (const QByteArray &form : forms) {
+        const QByteArray plain = token.toUtf8();
+        const QByteArray wide(reinterpret_cast<const char *>(token.utf16()), 2 * token.size());
+        for (const QByteArray &form :
+             {plain, wide, QUrl::toPercentEncoding(token), QUrl::toPercentEncoding(token, "/"),
+              plain.toHex(), plain.toBase64()}) {
             if (data.contains(form))
                 return token;
         }
@@ -49,7 +36,7 @@ QByteArray commandLines()
     QByteArray all;
     const QStringList processes = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
     for (const QString &process : processes)
-        all += readAll(QStringLiteral("/proc/%1/cmdline").arg(process)) + '\n';
+        all += readFile(QStringLiteral("/proc/%1/cmdline").arg(process)) + '\n';
     return all;
 }
 
@@ -68,26 +55,22 @@ private slots:
         qputenv("VELMORA_DATA_DIR", user.path(".").toLocal8Bit());
         Log::install(QStringLiteral("log"));
         QByteArray processes;
-        for (const char *service : {"youtube", "googledrive", "dropbox"}) {
+        for (const QString &service : kServices) {
             // Signed in, renewed, failed, and caught in the middle.
-            QCOMPARE(user.run(QLatin1String(service), user.video(1000)).finished.size(), 2);
-            QCOMPARE(user.run(QLatin1String(service), user.video(1001)).finished.size(), 2);
+            QCOMPARE(user.run(service, user.video(1000)).finished.size(), 2);
+            QCOMPARE(user.run(service, user.video(1001)).finished.size(), 2);
             m_services.fail(QStringLiteral("token"),
                             {{QStringLiteral("status"), 200},
                              {QStringLiteral("body"),
                               QStringLiteral("{\"access_token\": \"access-broken-1\"")}});
-            m_services.fail(QStringLiteral("refresh"), {{QStringLiteral("status"), 400}});
+            m_services.fail(QStringLiteral("refresh"), QStringLiteral(R"({"status": 400})"));
             m_services.control({{QStringLiteral("expire"), true}});
-            QCOMPARE(user.run(QLatin1String(service), user.video(1002)).failed.size(), 1);
-            const bool box = qstrcmp(service, "dropbox") == 0;
-            m_services.fail(box ? QStringLiteral("single") : QStringLiteral("upload"),
-                            {{QStringLiteral("hang"), true}});
-            const auto sending = [this] {
-                const QString last = m_services.steps().last();
-                return last == QLatin1String("upload") || last == QLatin1String("single");
-            };
-            user.start(QLatin1String(service), user.video(1003));
-            QTRY_VERIFY_WITH_TIMEOUT(sending(), 20000);
+            QCOMPARE(user.run(service, user.video(1002)).failed.size(), 1);
+            const QString step = service == QLatin1String("dropbox") ? QStringLiteral("single")
+                                                                     : QStringLiteral("upload");
+            m_services.fail(step, QStringLiteral(R"({"hang": true})"));
+            user.start(service, user.video(1003));
+            QTRY_COMPARE_WITH_TIMEOUT(m_services.steps().last(), step, 20000);
             processes += commandLines();
             user.controller().cancel();
         }
@@ -98,12 +81,12 @@ private slots:
         QVERIFY2(tokens.size() > 9, "the test must know the tokens");
         QVERIFY(processes.contains("fakes/services"));
         QCOMPARE(findIn(processes, tokens), QString());
-        QVERIFY(readAll(log).contains("requesting url:"));
-        QVERIFY(readAll(user.path("settings.ini")).contains("yt="));
+        QVERIFY(readFile(log).contains("requesting url:"));
+        QVERIFY(readFile(user.path("settings.ini")).contains("yt="));
         int files = 0;
         for (QDirIterator all(user.path("."), QDir::Files, QDirIterator::Subdirectories);
              all.hasNext(); ++files)
-            QVERIFY2(findIn(readAll(all.next()), tokens).isEmpty(), qPrintable(all.filePath()));
+            QVERIFY2(findIn(readFile(all.next()), tokens).isEmpty(), qPrintable(all.filePath()));
         QVERIFY(files >= 3);
         qunsetenv("VELMORA_DATA_DIR");
     }
@@ -126,7 +109,7 @@ private slots:
             holder.waitForFinished();
             const QStringList cores =
                 QDir(place.path()).entryList({QStringLiteral("core*")}, QDir::Files);
-            return cores.isEmpty() ? QByteArray() : readAll(place.filePath(cores.first()));
+            return cores.isEmpty() ? QByteArray() : readFile(place.filePath(cores.first()));
         };
         const QByteArray plain = crash("plain");
         if (plain.isEmpty())
@@ -150,8 +133,8 @@ private slots:
         QFETCH(QString, change);
         UploadFixture user(m_services);
         UploadFixture other(m_services);
-        user.grant(QStringLiteral("youtube"), QStringLiteral("yt"));
-        other.grant(QStringLiteral("youtube"), QStringLiteral("yt"));
+        user.grant(kYoutube);
+        other.grant(kYoutube);
         QString stored = user.store().value(QStringLiteral("yt")).toString();
         QCOMPARE(stored, stored.toLower());
         QCOMPARE(QString::fromLatin1(QByteArray::fromHex(stored.toLatin1()).toHex()), stored);
@@ -171,15 +154,15 @@ private slots:
 
         const bool readable = change == QLatin1String("none");
         LogCapture log;
-        QCOMPARE(user.load(QStringLiteral("yt")).isEmpty(), !readable);
+        QCOMPARE(user.load(kYoutube).isEmpty(), !readable);
         const bool complains =
             !log.lines().filter(QStringLiteral("Failed to crypt token for, error")).isEmpty();
         QCOMPARE(complains, !readable && !stored.isEmpty());
         // The user is asked again, and all is well.
-        const UploadCourse course = user.run(QStringLiteral("youtube"), user.video(10));
+        const UploadCourse course = user.run(kYoutube, user.video(10));
         QCOMPARE(course.signIns, readable ? 0 : 1);
         QCOMPARE(course.finished.size(), 2);
-        QVERIFY(!user.load(QStringLiteral("yt")).isEmpty());
+        QVERIFY(!user.load(kYoutube).isEmpty());
     }
 
     void unwritableKeyMeansNoToken()

@@ -2,9 +2,9 @@
 #include "sharing/upload/UploadController.h"
 
 #include "helpers/LogCapture.h"
+#include "helpers/Words.h"
 #include "sharing/upload/UploadFixture.h"
 
-#include <QJsonDocument>
 #include <QTest>
 
 using namespace velmora;
@@ -12,6 +12,7 @@ using namespace velmora;
 namespace
 {
 
+const QString kYoutube = QStringLiteral("youtube");
 const QString kTitle = QStringLiteral("Ferien \u00fcber & \"unter\" Wasser \u65e5\u672c");
 
 } // namespace
@@ -23,56 +24,83 @@ class UploadControllerTest : public QObject
 
 private slots:
     void initTestCase() { QVERIFY(m_services.isRunning()); }
-    void init()
+    void uploadFails_data()
     {
-        m_browser.stops = false;
-        m_browser.visited.clear();
+        QTest::addColumn<QString>("failure");
+        QTest::addColumn<QString>("error"); ///< Empty: one of those for a lost connection.
+        for (const int status : {200, 400, 401, 403, 429, 500, 503})
+            QTest::addRow("%d with message", status)
+                << QStringLiteral(
+                       R"({"status": %1, "body": {"error": {"message": " Over\nquota "}}})")
+                       .arg(status)
+                << "Over quota";
+        const char *unknown = "Unknown error";
+        for (const int status : {401, 403, 429, 500})
+            QTest::addRow("%d alone", status)
+                << QStringLiteral(R"({"status": %1})").arg(status) << unknown;
+        const char *unclear = "The answer of the service cannot be understood.";
+        const char *failures[][3] = {
+            {"early 401", R"({"status": 401, "early": true})", ""},
+            {"error without message", R"({"status": 400, "body": {"error": {}}})", unknown},
+            {"error as text", R"({"status": 400, "body": {"error": "broken"}})", "broken"},
+            {"not JSON", R"({"status": 200, "body": "<html>", "type": "text/html"})", unknown},
+            {"no identifier", R"({"status": 200, "body": {"kind": "video"}})", unknown},
+            {"empty", R"({"status": 200})", unknown},
+            {"redirect", R"({"status": 307, "headers": {"Location": "/upload/youtube/v3/videos"}})",
+             unclear},
+            {"endless", R"({"endless": true})", unclear},
+            {"silent", R"({"hang": true})", "The service does not answer."},
+            {"lost at once", R"({"drop": 0})", ""},
+            {"lost in the middle", R"({"drop": 2000000})", ""},
+            {"answer lost", R"({"drop": "answer"})", ""}};
+        for (const auto &failure : failures)
+            QTest::newRow(failure[0]) << failure[1] << failure[2];
     }
 
-    void uploadFails_data();
     void uploadFails()
     {
-        QFETCH(QJsonObject, failure);
+        QFETCH(QString, failure);
         QFETCH(QString, error);
-        const QHash<QString, QString> services{
-            {QStringLiteral("youtube"), QStringLiteral("yt")},
-            {QStringLiteral("googledrive"), QStringLiteral("gd")}};
-        for (auto service = services.begin(); service != services.end(); ++service) {
+        for (const QString &service : kVideoServices) {
             UploadFixture user(m_services);
             user.configure({{QStringLiteral("network/timeout"), QStringLiteral("1")}});
-            user.grant(service.key(), service.value());
+            user.grant(service);
             m_services.fail(QStringLiteral("upload"), failure, 9);
-            const UploadCourse course = user.run(
-                service.key(),
-                user.video(failure.contains(QLatin1String("drop")) ? 3000000 : 100000), kTitle);
+            const int size = failure.contains(QLatin1String("drop")) ? 3000000 : 100000;
+            const UploadCourse course = user.run(service, user.video(size), kTitle);
             QCOMPARE(course.ends(), 1);
             QCOMPARE(course.failed.size(), 1);
-            const QString prefix = QStringLiteral("Error uploading video:");
             // Whether a broken connection is noticed before or after the first answer is chance.
-            const QStringList lost{prefix + QStringLiteral("The service cannot be reached."),
-                                   prefix +
-                                       QStringLiteral("The connection to the service was lost."),
-                                   prefix + QStringLiteral("Unknown error")};
-            if (error.isEmpty())
-                QVERIFY2(lost.contains(course.failed.first()), qPrintable(course.failed.first()));
-            else
-                QCOMPARE(course.failed.first(), prefix + error);
+            const QStringList lost{QStringLiteral("The service cannot be reached."),
+                                   QStringLiteral("The connection to the service was lost."),
+                                   QStringLiteral("Unknown error")};
+            QString told = course.failed.first();
+            QVERIFY(told.startsWith(QLatin1String("Error uploading video:")));
+            told.remove(0, told.indexOf(QLatin1Char(':')) + 1);
+            QVERIFY2(error.isEmpty() ? lost.contains(told) : told == error, qPrintable(told));
             QCOMPARE(course.starts, 1);
             QVERIFY(!user.controller().isRunning());
         }
     }
 
-    void titleDoesNotMatter_data();
+    void titleDoesNotMatter_data()
+    {
+        QTest::addColumn<QString>("failure");
+        QTest::newRow("server error") << R"({"status": 500})";
+        QTest::newRow("refused") << R"({"status": 403, "body": {"error": {}}})";
+        QTest::newRow("lost") << R"({"drop": 0})";
+        QTest::newRow("silent") << R"({"hang": true})";
+    }
+
     void titleDoesNotMatter()
     {
-        QFETCH(QJsonObject, failure);
+        QFETCH(QString, failure);
         UploadFixture user(m_services);
         user.configure({{QStringLiteral("network/timeout"), QStringLiteral("1")}});
-        user.grant(QStringLiteral("youtube"), QStringLiteral("yt"));
+        user.grant(kYoutube);
         m_services.fail(QStringLiteral("title"), failure, 9);
-        const UploadCourse course = user.run(QStringLiteral("youtube"), user.video(1000), kTitle);
-        const QString id =
-            m_services.files().at(0).toObject().value(QLatin1String("id")).toString();
+        const UploadCourse course = user.run(kYoutube, user.video(1000), kTitle);
+        const QString id = user.stored("id");
         QCOMPARE(course.finished,
                  (QStringList{id, m_services.url() + QStringLiteral("/watch?v=") + id}));
     }
@@ -80,30 +108,25 @@ private slots:
     void cancelEndsEachStep_data()
     {
         QTest::addColumn<QString>("service");
-        QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("step");
-        const auto row = [](const char *service, const char *key, const char *step) {
-            QTest::addRow("%s, %s", service, step)
-                << QString::fromLatin1(service) << QString::fromLatin1(key)
-                << QString::fromLatin1(step);
-        };
-        for (const char *step : {"token", "refresh", "upload", "title"})
-            row("youtube", "yt", step);
-        for (const char *step : {"token", "refresh", "upload"})
-            row("googledrive", "gd", step);
-        for (const char *step : {"token", "start", "append", "finish"})
-            row("dropbox", "db", step);
+        const QStringList steps[] = {words("token refresh upload title"),
+                                     words("token refresh upload"),
+                                     words("token start append finish")};
+        for (int i = 0; i < kServices.size(); ++i) {
+            for (const QString &step : steps[i])
+                QTest::addRow("%s, %s", qPrintable(kServices.at(i)), qPrintable(step))
+                    << kServices.at(i) << step;
+        }
     }
 
     void cancelEndsEachStep()
     {
         QFETCH(QString, service);
-        QFETCH(QString, key);
         QFETCH(QString, step);
         UploadFixture user(m_services);
         if (step != QLatin1String("token"))
-            user.grant(service, key);
-        m_services.fail(step, FakeServices::action(R"({"hang": true})"), 9);
+            user.grant(service);
+        m_services.fail(step, QStringLiteral(R"({"hang": true})"), 9);
         user.start(service, user.video(service == QLatin1String("dropbox") ? 9000000 : 100000),
                    kTitle);
         QTRY_VERIFY(m_services.steps().contains(step));
@@ -115,7 +138,7 @@ private slots:
 
         // The next one works, and nothing of the first comes late.
         m_services.reset();
-        user.grant(service, key);
+        user.grant(service);
         const UploadCourse course = user.run(service, user.video(1000), kTitle);
         QCOMPARE(course.finished.size(), 2);
         QCOMPARE(course.ends(), 1);
@@ -124,7 +147,7 @@ private slots:
     void cancelBeforeStart()
     {
         UploadFixture user(m_services);
-        user.start(QStringLiteral("youtube"), user.video(10));
+        user.start(kYoutube, user.video(10));
         user.start(QStringLiteral("dropbox"), user.video(10)); // Is not started: one at a time.
         user.controller().cancel();
         QCOMPARE(user.course.canceled, 1);
@@ -133,61 +156,32 @@ private slots:
         QCOMPARE(m_services.steps(), QStringList());
     }
 
-    void untrustedCertificateEndsAll_data()
-    {
-        QTest::addColumn<QString>("key");
-        QTest::newRow("youtube") << "yt";
-        QTest::newRow("googledrive") << "gd";
-        QTest::newRow("dropbox") << "db";
-    }
-
     void untrustedCertificateEndsAll()
     {
-        QFETCH(QString, key);
-        const QString service = QString::fromLatin1(QTest::currentDataTag());
-        UploadFixture user(m_services);
-        user.grant(service, key);
-        user.configure({{QStringLiteral("network/ca_file"), QString()}});
-        const UploadCourse course = user.run(service, user.video(10));
-        QCOMPARE(course.failed.size(), 1);
-        QVERIFY(course.failed.first().contains(
-            QLatin1String("The connection to the service is not secure.")));
-        QCOMPARE(m_services.steps(), QStringList()); // Not even the token has left the machine.
-    }
-
-    void badFiles_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("error");
-        QTest::newRow("missing") << "gone.mp4"
-                                 << "source file not found";
-        QTest::newRow("folder") << "."
-                                << "can't open source file for reading";
+        for (const QString &service : kServices) {
+            UploadFixture user(m_services);
+            user.grant(service);
+            user.configure({{QStringLiteral("network/ca_file"), QString()}});
+            const UploadCourse course = user.run(service, user.video(10));
+            QCOMPARE(course.failed.size(), 1);
+            QVERIFY(course.failed.first().contains(
+                QLatin1String("The connection to the service is not secure.")));
+            QCOMPARE(m_services.steps(), QStringList()); // Not even the token left the machine.
+        }
     }
 
     void badFiles()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, error);
         UploadFixture user(m_services);
-        for (const char *service : {"youtube", "googledrive", "dropbox"}) {
-            const UploadCourse course =
-                user.run(QLatin1String(service), user.path(name.toLatin1().constData()));
-            QCOMPARE(course.failed, QStringList{error});
-            QCOMPARE(course.signIns, 0);
+        const char *rows[][2] = {{"gone.mp4", "source file not found"},
+                                 {".", "can't open source file for reading"}};
+        for (const auto &row : rows) {
+            for (const QString &service : kServices) {
+                const UploadCourse course = user.run(service, user.path(row[0]));
+                QCOMPARE(course.failed, QStringList{QString::fromLatin1(row[1])});
+                QCOMPARE(course.signIns, 0);
+            }
         }
-    }
-
-    void unconfiguredSaysSo()
-    {
-        UploadFixture user(m_services);
-        user.configure({{QStringLiteral("youtube/client_id"), QString()}});
-        QVERIFY(!user.controller().isConfigured(QStringLiteral("youtube")));
-        QVERIFY(user.controller().isConfigured(QStringLiteral("googledrive")));
-        const UploadCourse course = user.run(QStringLiteral("youtube"), user.video(10));
-        QCOMPARE(course.failed.size(), 1);
-        QVERIFY(course.failed.first().startsWith(
-            QLatin1String("Uploading to Youtube is not configured.")));
     }
 
     void unknownServiceIsLogged()
@@ -204,9 +198,9 @@ private slots:
     void lostConnectionIsNotRepeated()
     {
         UploadFixture user(m_services);
-        user.grant(QStringLiteral("youtube"), QStringLiteral("yt"));
-        m_services.fail(QStringLiteral("upload"), FakeServices::action(R"({"drop": "answer"})"));
-        const UploadCourse course = user.run(QStringLiteral("youtube"), user.video(1000));
+        user.grant(kYoutube);
+        m_services.fail(QStringLiteral("upload"), QStringLiteral(R"({"drop": "answer"})"));
+        const UploadCourse course = user.run(kYoutube, user.video(1000));
         QCOMPARE(course.failed.size(), 1);
         QCOMPARE(m_services.files().size(), 1); // It arrived, once.
         QCOMPARE(m_services.steps().count(QStringLiteral("upload")), 1);
@@ -216,49 +210,6 @@ private:
     FakeServices m_services{true};
     ScriptedBrowser m_browser;
 };
-
-void UploadControllerTest::uploadFails_data()
-{
-    QTest::addColumn<QJsonObject>("failure");
-    QTest::addColumn<QString>("error"); ///< Empty: one of those for a lost connection.
-    const char *unknown = "Unknown error";
-    for (const int status : {200, 400, 401, 403, 429, 500, 503})
-        QTest::addRow("%d with message", status)
-            << QJsonObject{{QStringLiteral("status"), status},
-                           {QStringLiteral("body"),
-                            QStringLiteral("{\"error\": {\"message\": \" Over\\nquota \"}}")}}
-            << "Over quota";
-    for (const int status : {401, 403, 429, 500})
-        QTest::addRow("%d alone", status)
-            << QJsonObject{{QStringLiteral("status"), status}} << unknown;
-    const char *unclear = "The answer of the service cannot be understood.";
-    const char *failures[][3] = {
-        {"early 401", R"({"status": 401, "early": true})", ""},
-        {"error without message", R"({"status": 400, "body": "{\"error\": {}}"})", unknown},
-        {"error as text", R"({"status": 400, "body": "{\"error\": \"broken\"}"})", "broken"},
-        {"not JSON", R"({"status": 200, "body": "<html>", "type": "text/html"})", unknown},
-        {"no identifier", R"({"status": 200, "body": "{\"kind\": \"video\"}"})", unknown},
-        {"empty", R"({"status": 200})", unknown},
-        {"redirect", R"({"status": 307, "headers": {"Location": "/upload/youtube/v3/videos"}})",
-         unclear},
-        {"endless", R"({"endless": true})", unclear},
-        {"silent", R"({"hang": true})", "The service does not answer."},
-        {"lost at once", R"({"drop": 0})", ""},
-        {"lost in the middle", R"({"drop": 2000000})", ""},
-        {"answer lost", R"({"drop": "answer"})", ""}};
-    for (const auto &failure : failures)
-        QTest::newRow(failure[0]) << FakeServices::action(failure[1]) << failure[2];
-}
-
-void UploadControllerTest::titleDoesNotMatter_data()
-{
-    QTest::addColumn<QJsonObject>("failure");
-    QTest::newRow("server error") << FakeServices::action(R"({"status": 500})");
-    QTest::newRow("refused") << FakeServices::action(
-        R"({"status": 403, "body": "{\"error\": {}}"})");
-    QTest::newRow("lost") << FakeServices::action(R"({"drop": 0})");
-    QTest::newRow("silent") << FakeServices::action(R"({"hang": true})");
-}
 
 QTEST_MAIN(UploadControllerTest)
 #include "UploadControllerTest.moc"

@@ -3,10 +3,13 @@
 
 #include "app/AppSettings.h"
 #include "helpers/FakeServices.h"
+#include "helpers/Files.h"
 #include "platform/Secrets.h"
 #include "sharing/upload/TokenStore.h"
 #include "sharing/upload/UploadController.h"
+#include "sharing/upload/WebLoginDialog.h"
 
+#include <QApplication>
 #include <QCryptographicHash>
 #include <QEventLoop>
 #include <QJsonDocument>
@@ -14,10 +17,25 @@
 #include <QSettings>
 #include <QTimer>
 
-#include <optional>
-
 namespace velmora
 {
+
+inline const QStringList kServices{QStringLiteral("youtube"), QStringLiteral("googledrive"),
+                                   QStringLiteral("dropbox")};
+inline const QStringList kVideoServices =
+    kServices.mid(0, 2); ///< Those with one request per upload.
+
+/// The sign-in window that the user sees; null without one.
+inline WebLoginDialog *shownSignIn()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        auto *dialog = qobject_cast<WebLoginDialog *>(window);
+        if (dialog && dialog->isVisible())
+            return dialog;
+    }
+    return nullptr;
+}
 
 /// How an upload went, as the controller's signals told.
 struct UploadCourse {
@@ -38,7 +56,6 @@ public:
     explicit UploadFixture(FakeServices &services) : m_services(services)
     {
         services.reset();
-        m_store = openSettings(m_folder.filePath(QStringLiteral("settings.ini")));
         configure();
     }
 
@@ -59,37 +76,42 @@ public:
         random.fillRange(reinterpret_cast<quint32 *>(bytes.data()), bytes.size() / 4);
         bytes.truncate(size);
         m_hash = QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
-        QFile file(m_folder.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != size)
+        if (!writeFile(m_folder.filePath(name), bytes))
             qFatal("Cannot write the test's video");
-        return file.fileName();
+        return m_folder.filePath(name);
     }
     /// Whether the services have the last video(), whole and once.
     bool hasArrived() const
     {
-        const QJsonArray files = m_services.files();
-        return files.size() == 1 &&
-               files.at(0).toObject().value(QLatin1String("sha256")) == QString::fromLatin1(m_hash);
+        return m_services.files().size() == 1 && stored("sha256") == QString::fromLatin1(m_hash);
+    }
+    /// What the services know about the first video.
+    QString stored(const char *fact) const
+    {
+        return m_services.files().at(0).toObject().value(QLatin1String(fact)).toString();
+    }
+    /// Why the last upload failed, and what was wrong with requests.
+    QString trouble() const
+    {
+        return (course.failed + m_services.problems()).join(QLatin1Char('\n'));
     }
 
     /// As if the user had signed in before.
-    void grant(const QString &service, const QString &key)
+    void grant(const QString &service)
     {
         const QJsonObject tokens = m_services.control({{QStringLiteral("grant"), service}});
-        const QString refresh = tokens.value(QLatin1String("refresh_token")).toString();
-        save(key, key == QLatin1String("db")
-                      ? QString::fromUtf8(QJsonDocument(tokens).toJson(QJsonDocument::Compact))
-                      : refresh);
+        save(service, service == QLatin1String("dropbox")
+                          ? QString::fromUtf8(QJsonDocument(tokens).toJson())
+                          : tokens.value(QLatin1String("refresh_token")).toString());
     }
-    void save(const QString &key, const QString &token)
+    void save(const QString &service, const QString &token)
     {
-        const auto secrets = createSecrets(m_folder.path(), SecretKeyPlace::File);
-        TokenStore(*m_store, *secrets).save(key, token);
+        TokenStore(*m_store, *m_secrets).save(keyOf(service), token);
     }
-    QString load(const QString &key)
+    /// The stored token.
+    QString load(const QString &service)
     {
-        const auto secrets = createSecrets(m_folder.path(), SecretKeyPlace::File);
-        return TokenStore(*m_store, *secrets).load(key);
+        return TokenStore(*m_store, *m_secrets).load(keyOf(service));
     }
 
     void start(const QString &service, const QString &file, const QString &title = QString())
@@ -102,10 +124,12 @@ public:
     {
         QEventLoop loop;
         QTimer::singleShot(timeoutMs, &loop, &QEventLoop::quit);
-        m_onEnd = [&loop] { loop.quit(); };
+        const UploadController *controller = m_controller.get();
+        QObject::connect(controller, &UploadController::finished, &loop, &QEventLoop::quit);
+        QObject::connect(controller, &UploadController::failed, &loop, &QEventLoop::quit);
+        QObject::connect(controller, &UploadController::canceled, &loop, &QEventLoop::quit);
         if (course.ends() == 0)
             loop.exec();
-        m_onEnd = nullptr;
         return course;
     }
     const UploadCourse &run(const QString &service, const QString &file,
@@ -122,10 +146,10 @@ public:
     UploadCourse course;
 
 private:
-    void ended()
+    static QString keyOf(const QString &service)
     {
-        if (m_onEnd)
-            m_onEnd();
+        const QStringList keys{QStringLiteral("yt"), QStringLiteral("gd"), QStringLiteral("db")};
+        return keys.at(kServices.indexOf(service));
     }
     void watch()
     {
@@ -136,26 +160,18 @@ private:
         on(&UploadController::signInStarted, [this] { ++course.signIns; });
         on(&UploadController::started, [this] { ++course.starts; });
         on(&UploadController::progress, [this](int percent) { course.progress.append(percent); });
-        on(&UploadController::finished, [this](const QString &id, const QString &url) {
-            course.finished << id << url;
-            ended();
-        });
-        on(&UploadController::failed, [this](const QString &error) {
-            course.failed << error;
-            ended();
-        });
-        on(&UploadController::canceled, [this] {
-            ++course.canceled;
-            ended();
-        });
+        on(&UploadController::finished,
+           [this](const QString &id, const QString &url) { course.finished << id << url; });
+        on(&UploadController::failed, [this](const QString &error) { course.failed << error; });
+        on(&UploadController::canceled, [this] { ++course.canceled; });
     }
 
     FakeServices &m_services;
     QTemporaryDir m_folder;
-    std::unique_ptr<QSettings> m_store;
+    const std::unique_ptr<Secrets> m_secrets = createSecrets(m_folder.path(), SecretKeyPlace::File);
+    const std::unique_ptr<QSettings> m_store = openSettings(path("settings.ini"));
     std::unique_ptr<UploadController> m_controller;
     QByteArray m_hash;
-    std::function<void()> m_onEnd;
 };
 
 } // namespace velmora

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/audio/AudioFilesController.h"
 #include "app/AppSettings.h"
+#include "helpers/Files.h"
 #include "helpers/LogCapture.h"
 #include "helpers/MediaSamples.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Words.h"
 #include "project/documents/ProjectFile.h"
 #include "services/MetricSender.h"
 #include "ui/model/ProjectEditor.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/RenderRequest.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Files.h"
 #include "ui/audio/AudioListWidget.h"
 #include "ui/editor/CreatePanel.h"
 #include "ui/editor/EditorPage.h"

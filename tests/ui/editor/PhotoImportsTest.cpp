@@ -3,8 +3,8 @@
 #include "ui/editor/BusyNote.h"
 #include "ui/editor/EditorPage.h"
 
+#include "helpers/Files.h"
 #include "helpers/OrdinaryUser.h"
-#include "helpers/TestFiles.h"
 
 #include <QUndoStack>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "helpers/TestFiles.h"
+#include "helpers/Words.h"
 #include "project/images/Pictures.h"
 #include "ui/editor/EditorPage.h"
 

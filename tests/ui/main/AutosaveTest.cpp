@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/main/Autosave.h"
+#include "helpers/Files.h"
 #include "helpers/OrdinaryUser.h"
 #include "ui/main/MainViewFixture.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "helpers/Files.h"
 #include "sharing/burning/BurnController.h"
 #include "sharing/burning/BurnDialog.h"
 #include "sharing/burning/FakeDiscWriter.h"

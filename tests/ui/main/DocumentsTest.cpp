@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Identity.h"
+#include "helpers/Files.h"
+#include "helpers/Words.h"
 #include "ui/main/MainViewFixture.h"
 
 #include <QAction>

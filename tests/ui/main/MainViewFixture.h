@@ -4,7 +4,6 @@
 #include "app/AppSettings.h"
 #include "app/ServicesConfig.h"
 #include "helpers/DialogDriver.h"
-#include "helpers/TestFiles.h"
 #include "platform/DesktopNotification.h"
 #include "platform/FileManager.h"
 #include "platform/TaskbarProgress.h"

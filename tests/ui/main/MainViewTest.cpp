@@ -3,6 +3,7 @@
 #include "chrome/QPopupButton.h"
 #include "helpers/Drop.h"
 #include "helpers/PseudoTranslator.h"
+#include "helpers/Words.h"
 #include "services/MetricSender.h"
 #include "sharing/history/HistoryWidget.h"
 #include "ui/main/MainViewFixture.h"

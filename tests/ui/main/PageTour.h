@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "helpers/Files.h"
 #include "ui/main/DialogTour.h"
 #include "ui/main/MainViewFixture.h"
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Identity.h"
 #include "helpers/FakeServices.h"
+#include "helpers/Files.h"
+#include "helpers/Words.h"
 #include "platform/Secrets.h"
 #include "services/MetricSender.h"
 #include "sharing/history/HistoryWidget.h"

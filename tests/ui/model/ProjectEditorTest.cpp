@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/model/ProjectEditor.h"
 #include "app/AppSettings.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Files.h"
 #include "project/documents/ProjectFile.h"
 #include "ui/model/PhotoImporter.h"
 #include "ui/model/ValueLists.h"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/model/SlideTableModel.h"
 #include "app/AppSettings.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Files.h"
+#include "helpers/Words.h"
 #include "project/documents/ProjectFile.h"
 #include "ui/model/ProjectEditor.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/preview/PreviewSound.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Files.h"
 
 #include "app/Paths.h"
 #include "generator/encoding/VideoUtil.h"

@@ -3,7 +3,7 @@
 #include "app/AppSettings.h"
 #include "chrome/QPopupButton.h"
 #include "helpers/DialogDriver.h"
-#include "helpers/TestFiles.h"
+#include "helpers/Files.h"
 #include "services/MetricSender.h"
 #include "ui/model/ValueLists.h"
 

@@ -2,29 +2,22 @@
 #pragma once
 
 #include <QFile>
-#include <QStringList>
 
 namespace velmora
 {
 
-/// Makes a file of these bytes; false when that fails.
+/// Makes the file, or puts @p content in place of what it has; false when that is not possible.
 inline bool writeFile(const QString &path, const QByteArray &content = {})
 {
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
 }
 
-/// The bytes of a file; none when it cannot be read.
+/// What the file has; nothing if there is none.
 inline QByteArray readFile(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// What the blanks of @p text separate.
-inline QStringList words(const char *text)
-{
-    return QString::fromUtf8(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
 } // namespace velmora
