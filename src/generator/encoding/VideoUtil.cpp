@@ -68,8 +68,7 @@ ToolResult VideoUtil::runEncoder(const QStringList &arguments, bool feedProgress
             m_context.encoderOutput = m_context.encoderOutput.right(kKeptProgress);
         };
     }
-    ToolResult result =
-        ToolRunner(&m_context.cancelled, onError).run(m_context.encoder, arguments);
+    ToolResult result = ToolRunner(&m_context.cancelled, onError).run(m_context.encoder, arguments);
     result.standardError = EncoderCommands::withoutDenials(result.standardError);
     if (!result.started && !result.cancelled)
         qCCritical(generatorLog) << "Failed to start ffmpeg proc";
