@@ -35,6 +35,8 @@ private slots:
         connect(m_provider.get(), &ThubnailProvider::thumbnailReady, this,
                 [this](const QUuid &id) { m_ready += id; });
     }
+    /// Its thread must not log any more when the test's own log is gone.
+    void cleanup() { m_provider.reset(); }
 
     void thumbnailIsCentredOnGrey_data()
     {

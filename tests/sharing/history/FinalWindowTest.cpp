@@ -43,6 +43,8 @@ private slots:
         m_manager = NotingFileManager();
         open(m_video);
     }
+    /// Its thread must not log any more when the test's own log is gone.
+    void cleanup() { m_window.reset(); }
 
     void uploadsAreRefused()
     {

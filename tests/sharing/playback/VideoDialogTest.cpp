@@ -34,6 +34,8 @@ private slots:
         QVERIFY(MediaSamples::makeTone(path("sound.wav"), MediaSamples::Tone()));
         QVERIFY(writeFile(path("broken.mp4"), QByteArray(100000, '\0')));
     }
+    /// Its thread must not log any more when the test's own log is gone.
+    void cleanup() { m_dialog.reset(); }
 
     void playsVideo()
     {

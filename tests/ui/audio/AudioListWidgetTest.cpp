@@ -46,7 +46,6 @@ private slots:
 
     void init()
     {
-        m_widget.reset();
         m_project = std::make_unique<ProjectFile>(m_settings, ProjectFile::TitleSlide::Create);
         m_editor = std::make_unique<ProjectEditor>(m_settings);
         m_editor->setProject(m_project.get());
@@ -56,6 +55,8 @@ private slots:
         QApplication::setActiveWindow(m_widget.get());
         QVERIFY(QTest::qWaitForWindowActive(m_widget.get()));
     }
+    /// Its thread must not log any more when the test's own log is gone.
+    void cleanup() { m_widget.reset(); }
 
     void totalCountsTracks()
     {

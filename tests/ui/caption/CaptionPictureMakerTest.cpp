@@ -44,6 +44,8 @@ private slots:
         m_maker = std::make_unique<CaptionPictureMaker>();
         m_ready = std::make_unique<QSignalSpy>(m_maker.get(), &CaptionPictureMaker::pictureReady);
     }
+    /// Its thread must not log any more when the test's own log is gone.
+    void cleanup() { m_maker.reset(); }
 
     void picturesAreThoseOfTheVideo_data()
     {

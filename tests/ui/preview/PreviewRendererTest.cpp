@@ -41,6 +41,8 @@ private slots:
                         m_renderer->release(1);
                 });
     }
+    /// Its thread must not log any more when the test's own log is gone.
+    void cleanup() { m_renderer.reset(); }
 
     void framesAreThePainters_data()
     {
