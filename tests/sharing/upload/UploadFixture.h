@@ -22,8 +22,8 @@ namespace velmora
 
 inline const QStringList kServices{QStringLiteral("youtube"), QStringLiteral("googledrive"),
                                    QStringLiteral("dropbox")};
-inline const QStringList kVideoServices =
-    kServices.mid(0, 2); ///< Those with one request per upload.
+/// Those that take a video in one request.
+inline const QStringList kVideoServices = kServices.mid(0, 2);
 
 /// The sign-in window that the user sees; null without one.
 inline WebLoginDialog *shownSignIn()
