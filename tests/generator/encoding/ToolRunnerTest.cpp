@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/encoding/ToolRunner.h"
+#include "helpers/Words.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
@@ -13,11 +14,6 @@ namespace
 {
 
 const QString kTool = QStringLiteral(FAKE_TOOL);
-
-QStringList words(const char *line)
-{
-    return QString::fromUtf8(line).split(QLatin1Char(' '));
-}
 
 } // namespace
 
