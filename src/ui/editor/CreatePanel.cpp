@@ -193,9 +193,6 @@ void CreatePanel::on_btnCreate_clicked()
         m_ui->txtProjName->selectAll();
         return;
     }
-    // What a cancelled render left goes now, rather than at its last tick.
-    m_finalTimer.stop();
-    m_rendered.removeRequest();
     const QString folder = m_settings.folder;
     const QString output =
         QDir(folder).filePath(name + QLatin1Char('.') + m_editor.project()->format());
@@ -216,6 +213,10 @@ void CreatePanel::onOutputLookedAt(const QString &name, const QString &output,
         endPreparations();
         return;
     }
+    // What a cancelled render left goes now, rather than at its last tick. A request of earlier
+    // preparations that was still being written has gone with their report.
+    m_finalTimer.stop();
+    m_rendered.removeRequest();
     m_name->giveTitle();
     m_editor.project()->setFileName(output);
     const RenderedProject::Writer write = m_rendered.begin(*m_editor.project(), m_settings, name);
