@@ -15,14 +15,14 @@ inline QString testProcessPath()
 }
 
 /// Runs it to its end; false on a time-out.
-inline bool runTestProcess(QProcess &process, const QStringList &arguments, int timeoutMs = 30000)
+inline bool runTestProcess(QProcess &process, const QStringList &arguments, int timeoutMs = 120'000)
 {
     process.start(testProcessPath(), arguments);
     return process.waitForFinished(timeoutMs);
 }
 
 /// Waits for the next whole line of a process's output, without its newline; null on a time-out.
-inline QByteArray nextLine(QProcess &process, int timeoutMs = 20000)
+inline QByteArray nextLine(QProcess &process, int timeoutMs = 120'000)
 {
     while (!process.canReadLine()) {
         if (!process.waitForReadyRead(timeoutMs))

@@ -28,7 +28,7 @@ private slots:
         QVERIFY(writeFile(path("services.ini"), "[metrics]\naddress=http://127.0.0.1:1/\n"));
         QVERIFY(writeFile(path("settings.ini"), "[General]\nsendStatistics=true\n"));
         const auto program = start({QStringLiteral("--inst")});
-        QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 90000);
+        QTRY_VERIFY(logged(": main window\n"));
         QVERIFY(QDir(path("cache/data")).exists());
         const QByteArray folder = m_data->path().toUtf8();
         for (const QByteArray &text :
@@ -49,14 +49,14 @@ private slots:
     void secondStartWakesTheFirst()
     {
         const auto first = start();
-        QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 90000);
+        QTRY_VERIFY(logged(": main window\n"));
         const auto second = start();
-        QVERIFY(second->waitForFinished());
+        QVERIFY(second->waitForFinished(kPatience));
         QCOMPARE(second->exitStatus(), QProcess::NormalExit);
         QCOMPARE(second->exitCode(), 0);
         QTRY_VERIFY(logged(": Message received:'Wake up!'\n"));
         const auto third = start({QStringLiteral("/no such/photo.png")});
-        QVERIFY(third->waitForFinished());
+        QVERIFY(third->waitForFinished(kPatience));
         QCOMPARE(third->exitCode(), 0);
         QTRY_VERIFY(loggedBy(*first, "/no%20such/photo.png"));
         QVERIFY(logged(": main window\n"));
@@ -73,12 +73,12 @@ private slots:
 
         const auto first = start({path("photo.png")});
         const QString kept = path("autosave.json");
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(kept), 90000);
+        QTRY_VERIFY(QFile::exists(kept));
         QVERIFY(!logged("Offer to restore"));
         end(*first);
         QVERIFY(QFile::exists(path("velmora.lock")));
         const auto second = start();
-        QTRY_VERIFY_WITH_TIMEOUT(loggedBy(*second, "Offer to restore unsaved changes"), 90000);
+        QTRY_VERIFY(loggedBy(*second, "Offer to restore unsaved changes"));
         end(*second);
         // An unanswered question loses nothing.
         QVERIFY(QFile::exists(kept));
@@ -88,9 +88,9 @@ private slots:
     {
         const auto first = start();
         // It is up then: it holds the lock, listens and has its crash handler.
-        QTRY_VERIFY_WITH_TIMEOUT(logged(": Load translation: "), 90000);
+        QTRY_VERIFY(logged(": Load translation: "));
         QVERIFY(ProcessControl::crash(first->processId()));
-        QVERIFY(first->waitForFinished(120'000)); // Wine is slow with dumps
+        QVERIFY(first->waitForFinished(kPatience)); // Wine is slow with dumps
         QCOMPARE(first->exitStatus(), QProcess::CrashExit);
         const QString dump = path("velmora.dmp");
         QVERIFY(QFile::exists(dump));
@@ -107,14 +107,14 @@ private slots:
     void startsAlthoughFirstIsSilent()
     {
         const auto first = start();
-        QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 90000);
+        QTRY_VERIFY(logged(": main window\n"));
         // Stopped while it writes its settings it would keep their lock, and QSettings of the
         // second start would wait for that without an end.
         QTRY_VERIFY(QFile::exists(path("settings.ini")));
         QTRY_VERIFY(!QFile::exists(path("settings.ini.lock")));
         QVERIFY(ProcessControl::freeze(first->processId()));
         const auto second = start();
-        QTRY_VERIFY_WITH_TIMEOUT(loggedBy(*second, ": main window"), 90000);
+        QTRY_VERIFY(loggedBy(*second, ": main window"));
         end(*second);
         end(*first);
     }
@@ -132,7 +132,7 @@ private slots:
         QVERIFY(writeFile(path("services.ini"), garbage));
         QVERIFY(writeFile(path("project_history.json"), garbage));
         const auto program = start();
-        QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 90000);
+        QTRY_VERIFY(logged(": main window\n"));
         // There is no such translation, so that the texts stay English.
         QVERIFY(log().contains("Load translation: velmora_xx"));
         QVERIFY(!program->waitForFinished(1000));
@@ -145,8 +145,8 @@ private slots:
         QVERIFY(QDir().mkpath(path("cache/data/render-dead01/video")));
         QVERIFY(writeFile(path("cache/data/render-dead01/render.lock"), deadLock()));
         const auto program = start();
-        QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(render), 90000);
-        QTRY_VERIFY_WITH_TIMEOUT(logged(": main window\n"), 90000);
+        QTRY_VERIFY(!QFile::exists(render));
+        QTRY_VERIFY(logged(": main window\n"));
         end(*program);
     }
 

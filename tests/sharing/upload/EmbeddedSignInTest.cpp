@@ -35,8 +35,7 @@ private slots:
         QFETCH(bool, allows);
         m_services.control({{QStringLiteral("answer"), QStringLiteral("page")}});
         m_user->start(QStringLiteral("youtube"), m_user->video(100000));
-        QTRY_VERIFY_WITH_TIMEOUT(shownSignIn() && view()->title() == QLatin1String("Fake sign-in"),
-                                 30000);
+        QTRY_VERIFY(shownSignIn() && view()->title() == QLatin1String("Fake sign-in"));
         keepPicture();
         const QPointer<WebLoginDialog> shown = shownSignIn();
         view()->page()->runJavaScript(
@@ -54,7 +53,7 @@ private slots:
     {
         m_services.control({{QStringLiteral("answer"), QStringLiteral("page")}});
         m_user->start(QStringLiteral("youtube"), m_user->video(10));
-        QTRY_VERIFY_WITH_TIMEOUT(shownSignIn(), 30000);
+        QTRY_VERIFY(shownSignIn());
         const QPointer<WebLoginDialog> shown = shownSignIn();
         shown->close();
         QCOMPARE(m_user->wait().failed, QStringList{QStringLiteral("Authorization error")});

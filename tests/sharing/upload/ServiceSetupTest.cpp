@@ -127,7 +127,7 @@ private slots:
         QSignalSpy finished(&uploader, &BaseUploader::finished);
         QSignalSpy failed(&uploader, &BaseUploader::failed);
         uploader.startUpload(QString(), QString());
-        QVERIFY(finished.wait());
+        QTRY_VERIFY(!finished.isEmpty());
         QCOMPARE(progress.size(), 100);
         QCOMPARE(finished.at(0), (QVariantList{QString(), QString()}));
         uploader.startUpload(QString(), QString());

@@ -120,7 +120,7 @@ public:
         m_controller->upload(service, file, title, nullptr);
     }
     /// Waits for the end.
-    const UploadCourse &wait(int timeoutMs = 30000)
+    const UploadCourse &wait(int timeoutMs = 120'000)
     {
         QEventLoop loop;
         QTimer::singleShot(timeoutMs, &loop, &QEventLoop::quit);

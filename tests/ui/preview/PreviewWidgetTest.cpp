@@ -72,7 +72,7 @@ private slots:
         QVERIFY(m_widget->isPlaying());
         QTRY_VERIFY(time() == QLatin1String("00:03"));
         QVERIFY(qAbs(child<QSlider>("slDuration")->value() - 3000) < 1000);
-        QTRY_COMPARE_WITH_TIMEOUT(stopped.size(), 1, 20000);
+        QTRY_COMPARE(stopped.size(), 1);
         QCOMPARE(child<QSlider>("slDuration")->maximum(), 6000);
         QCOMPARE(time(), QStringLiteral("00:00"));
         QVERIFY(!m_widget->isPlaying());
@@ -86,7 +86,7 @@ private slots:
         const QSignalSpy started(player(), &VideoPlayer::started);
         const QSignalSpy stopped(player(), &VideoPlayer::stopped);
         m_widget->previewSlide();
-        QTRY_COMPARE_WITH_TIMEOUT(stopped.size(), 1, 20000);
+        QTRY_COMPARE(stopped.size(), 1);
         QTRY_VERIFY(player()->picture() == captioned(*m_slides.at(1)));
         click("btnRepeat");
         QTRY_COMPARE(started.size(), 2);
@@ -273,14 +273,14 @@ private slots:
             return log.lines().filter(QLatin1String(text)).size();
         };
         m_widget->playFull();
-        QTRY_VERIFY_WITH_TIMEOUT(player()->position() > 200, 20000);
-        QTRY_VERIFY_WITH_TIMEOUT(logged("load sound result =") == 1, 20000);
+        QTRY_VERIFY(player()->position() > 200);
+        QTRY_VERIFY(logged("load sound result =") == 1);
         QVERIFY(logged("VideoPlayerWidget::updateAudio") == 1);
         QTRY_VERIFY(logged("(VideoPlayerWidget) m_SoundPlayer->play, m_AudioPos=") >= 1);
         QVERIFY(!child<QLabel>("lblSoundError")->isVisible());
 
         m_editor->addAudio({{QStringLiteral("/gone.wav"), QString()}}, -1);
-        QTRY_VERIFY_WITH_TIMEOUT(child<QLabel>("lblSoundError")->isVisible(), 20000);
+        QTRY_VERIFY(child<QLabel>("lblSoundError")->isVisible());
         QVERIFY(child<QLabel>("lblSoundError")->text().contains(QLatin1String("gone.wav")));
         QVERIFY(m_widget->isPlaying());
     }
