@@ -9,12 +9,14 @@
 #                    them: packaging/windows/test.sh), if the archive
 #                    velmora-windows-sdk.tar.xz is at hand: VELMORA_WINDOWS_SDK_ARCHIVE names it,
 #                    or it lies in ../shared/windows
+#   --again          run up to three programs that failed once more, alone; one that passes then
+#                    counts as passed, and its name is printed
 #   --only REGEX     run only the tests whose names match
 # The last line counts what passed and what failed; the exit code is 0 only if nothing failed.
 set -Eeuo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
-format=no asan=no tsan=no fuzz=0 windows=no only=.
+format=no asan=no tsan=no fuzz=0 windows=no again=no only=.
 # The whole under Wine takes too long for every change: these show what differs on Windows, or are
 # quick.
 windows_tests=(
@@ -44,6 +46,7 @@ while [ $# -gt 0 ]; do
     --asan) asan=yes ;;
     --tsan) tsan=yes ;;
     --windows) windows=yes ;;
+    --again) again=yes ;;
     --fuzz)
         fuzz=${2:-}
         shift
