@@ -9,8 +9,9 @@
 namespace velmora
 {
 
-/// How long tests wait for what must happen, in ms.
-constexpr int kPatience = 120'000;
+/// How long tests wait for what must happen, in ms. Qt waits three times as long before it calls
+/// that a failure, and ctest ends a program after five minutes.
+constexpr int kPatience = 60'000;
 
 } // namespace velmora
 

@@ -23,6 +23,17 @@ Handle open(qint64 pid, DWORD rights)
     return Handle(OpenProcess(rights, FALSE, static_cast<DWORD>(pid)));
 }
 
+/// When the process began, in units of 100 ns; 0 for one that is not accessible.
+quint64 startOf(qint64 pid)
+{
+    const Handle process = open(pid, PROCESS_QUERY_LIMITED_INFORMATION);
+    FILETIME start = {};
+    FILETIME unused;
+    if (process)
+        GetProcessTimes(process.get(), &start, &unused, &unused, &unused);
+    return quint64(start.dwHighDateTime) << 32 | start.dwLowDateTime;
+}
+
 } // namespace
 
 bool ProcessControl::isAlive(qint64 pid)
@@ -34,12 +45,14 @@ bool ProcessControl::isAlive(qint64 pid)
 QVector<qint64> ProcessControl::childrenOf(qint64 pid)
 {
     QVector<qint64> children;
+    // Numbers are used again: what is older than its parent belongs to an earlier one.
+    const quint64 parentStart = startOf(pid);
     const Handle all(CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0));
     PROCESSENTRY32W entry = {};
     entry.dwSize = sizeof(entry);
     for (BOOL more = Process32FirstW(all.get(), &entry); more;
          more = Process32NextW(all.get(), &entry)) {
-        if (entry.th32ParentProcessID == pid)
+        if (entry.th32ParentProcessID == pid && startOf(entry.th32ProcessID) >= parentStart)
             children.append(entry.th32ProcessID);
     }
     return children;

@@ -8,6 +8,8 @@
 #include <QVector>
 
 #include <limits>
+#include <memory>
+#include <vector>
 
 #include <windows.h>
 
@@ -35,17 +37,54 @@ HANDLE childrenJob()
     return job;
 }
 
-void assignToJob(qint64 pid)
+/// Starts a process within the job. Bound to it only afterwards, one whose parent is ended
+/// meanwhile would stay for ever, not even begun.
+class StartInJob
 {
-    const HANDLE child =
-        OpenProcess(PROCESS_SET_QUOTA | PROCESS_TERMINATE, FALSE, static_cast<DWORD>(pid));
-    const bool ok = child && childrenJob() && AssignProcessToJobObject(childrenJob(), child);
-    if (!ok)
-        qCWarning(lcPlatform).noquote()
-            << QStringLiteral("Cannot bind process %1, error: %2").arg(pid).arg(GetLastError());
-    if (child)
-        CloseHandle(child);
-}
+public:
+    StartInJob()
+    {
+        SIZE_T size = 0;
+        InitializeProcThreadAttributeList(nullptr, 1, 0, &size);
+        m_list.resize(size);
+        m_job = childrenJob();
+        m_isReady = m_job && InitializeProcThreadAttributeList(attributes(), 1, 0, &size) &&
+                    UpdateProcThreadAttribute(attributes(), 0, PROC_THREAD_ATTRIBUTE_JOB_LIST,
+                                              &m_job, sizeof(m_job), nullptr, nullptr);
+        if (!m_isReady)
+            qCWarning(lcPlatform) << "Cannot bind processes, error:" << GetLastError();
+    }
+
+    ~StartInJob()
+    {
+        if (m_isReady)
+            DeleteProcThreadAttributeList(attributes());
+    }
+    StartInJob(const StartInJob &) = delete;
+    StartInJob &operator=(const StartInJob &) = delete;
+
+    void operator()(QProcess::CreateProcessArguments &arguments)
+    {
+        if (!m_isReady)
+            return;
+        m_startup.StartupInfo = *arguments.startupInfo;
+        m_startup.StartupInfo.cb = sizeof(m_startup);
+        m_startup.lpAttributeList = attributes();
+        arguments.startupInfo = &m_startup.StartupInfo;
+        arguments.flags |= EXTENDED_STARTUPINFO_PRESENT;
+    }
+
+private:
+    LPPROC_THREAD_ATTRIBUTE_LIST attributes()
+    {
+        return reinterpret_cast<LPPROC_THREAD_ATTRIBUTE_LIST>(m_list.data());
+    }
+
+    std::vector<char> m_list;
+    HANDLE m_job = nullptr;
+    STARTUPINFOEXW m_startup = {};
+    bool m_isReady = false;
+};
 
 struct RunningProcess {
     DWORD id;
@@ -113,9 +152,9 @@ std::unique_ptr<QProcess> ProcessTree::createProcess(Group group)
 {
     Q_UNUSED(group) // taskkill finds a tree by the processes' parents; groups play no part.
     auto process = std::make_unique<QProcess>();
-    QProcess *const child = process.get();
-    QObject::connect(child, &QProcess::started, child,
-                     [child] { assignToJob(child->processId()); });
+    const auto start = std::make_shared<StartInJob>();
+    process->setCreateProcessArgumentsModifier(
+        [start](QProcess::CreateProcessArguments *arguments) { (*start)(*arguments); });
     return process;
 }
 
