@@ -47,12 +47,18 @@ void playWhileLoading(velmora::SplashScreen &splash, velmora::HistoryStore &hist
     loading.finish();
 }
 
+void setUpMetrics(velmora::Application &application)
+{
+    velmora::setUpMetrics(velmora::MetricSender::instance(), application.services(),
+                          application.settings().sendStatistics, application.settingsStore());
+}
+
 /// Applies what the user changed in the settings panel.
 void applySettings(velmora::Application &application)
 {
     using namespace velmora;
     application.applyLanguage(application.settings().locale);
-    setUpMetrics(MetricSender::instance(), application.services(), application.settingsStore());
+    setUpMetrics(application);
 }
 
 int runProgram(velmora::Application &application, const QStringList &files)
@@ -87,7 +93,7 @@ int runProgram(velmora::Application &application, const QStringList &files)
     window.activateWindow();
     splash.finish(&window);
 
-    setUpMetrics(MetricSender::instance(), application.services(), application.settingsStore());
+    setUpMetrics(application);
     recordSystem(MetricSender::instance(), readSystemInfo());
     MetricSender::instance().SendData(); // it is no whole batch
     // Dialogs need the event loop.
