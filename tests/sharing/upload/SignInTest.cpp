@@ -126,6 +126,7 @@ private slots:
             {"server error", R"({"status": 503})", invalid, ""},
             {"redirect", R"({"status": 302, "headers": {"Location": "/"}})", invalid, ""},
             {"revoked", R"({"status": 400, "body": {"error": "invalid_grant"}})", missing, ""},
+            {"empty object", R"({"status": 200, "body": {}})", missing, ""},
             {"number", R"({"status": 200, "body": {"access_token": 5}})", missing, ""},
             {"lost", R"({"drop": 0})", none, "The service cannot be reached."},
             {"silent", R"({"hang": true})", none, "The service does not answer."}};
