@@ -258,6 +258,34 @@ private slots:
         QTRY_VERIFY(widgets() < 40);
     }
 
+    /// Those in sight when it forgets the many that it has asked for.
+    void picturesComeAfterMany()
+    {
+        m_history->store.clear();
+        QImage photo(8, 8, QImage::Format_RGB32);
+        photo.fill(Qt::red);
+        for (int i = 0; i < 203; ++i) {
+            auto project = m_history->make(qPrintable(QStringLiteral("video%1.mp4").arg(i)));
+            const QString file = path(qPrintable(QStringLiteral("photo%1.bmp").arg(i)));
+            QVERIFY(photo.save(file));
+            project->insertItem(-1, new ProjectItemSimple(file, 1, 3));
+            m_history->store.add(std::move(project));
+        }
+        show();
+        auto *list = find<HistoryListView>("listHistory");
+        auto *bar = list->verticalScrollBar();
+        while (bar->value() < bar->maximum())
+            bar->setValue(bar->value() + bar->singleStep());
+        const auto allRed = [list] {
+            const auto rows = list->findChildren<QLabel *>(QStringLiteral("lblPicture"));
+            return std::all_of(rows.begin(), rows.end(), [](const QLabel *row) {
+                const QImage shown = row->pixmap(Qt::ReturnByValue).toImage();
+                return QColor(shown.pixel(shown.rect().center())) == Qt::red;
+            });
+        };
+        QTRY_VERIFY(allRed());
+    }
+
 private:
     QStringList m_played;
 };
