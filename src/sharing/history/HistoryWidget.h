@@ -96,7 +96,7 @@ signals:
     void burnDvd(const QString &diskTitle, const QString &fileName);
     void beginUpload();
     void uploadProgressStarted();
-    void uploadProgressFinished(); ///< Once per uploadProgressStarted(), however it ended.
+    void uploadProgressFinished(); ///< Once per beginUpload(), also if nothing was sent.
     void uploadFinished(const QString &videoId, const QString &previewUrl);
     void uploadFailed(const QString &error);
     void progressUpload(int percent);

@@ -105,10 +105,8 @@ void HistoryWidget::endUpload()
     m_service.clear();
     m_ui->pages->setCurrentWidget(m_ui->pgHistory);
     m_ui->listHistory->setFocus();
-    const bool started = m_started;
     m_started = false;
-    if (started)
-        emit uploadProgressFinished();
+    emit uploadProgressFinished();
 }
 
 void HistoryWidget::onUploadFinished(const QString &fileId, const QString &fileUrl)

@@ -243,6 +243,20 @@ private slots:
         QVERIFY(!QApplication::activeModalWidget());
     }
 
+    /// Nothing is configured, so not a byte is sent.
+    void progressEndsWithoutBeginning()
+    {
+        QVERIFY(m_widget->select(path("new.mp4")));
+        QSignalSpy ended(m_widget.get(), &HistoryWidget::uploadProgressFinished);
+        QSignalSpy failed(m_widget.get(), &HistoryWidget::uploadFailed);
+        DialogDriver driver;
+        driver.press(QStringLiteral("CLOSE"));
+        m_widget->onStartUpload(QStringLiteral("dropbox"));
+        QTRY_COMPARE(failed.size(), 1);
+        QCOMPARE(ended.size(), 1);
+        QTRY_VERIFY(!driver.title().isEmpty());
+    }
+
     void manyEntries()
     {
         for (int i = 0; i < 2000; ++i)
