@@ -65,6 +65,8 @@ public slots:
     void undoRemoval();
     void onBurnProject(const QString &fileName, const QString &diskTitle);
     void onSignInStarted();
+    void onBrowserOpened();
+    void onSignInEnded();
     void onUploadStarted();
     void uploadProgress(int percent);
     void onUploadFinished(const QString &fileId, const QString &fileUrl);
@@ -122,6 +124,7 @@ private:
     void onVideosRestored(const QStringList &lost);
     void tellAboutVideos(const QString &text, const QStringList &videos);
     void updateUploadTexts();
+    void showUpload();
     void endUpload();
     void showElapsed();
 

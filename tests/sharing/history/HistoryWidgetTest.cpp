@@ -233,11 +233,20 @@ private slots:
         emit m_uploads->signInStarted();
         QCOMPARE(page(), QStringLiteral("Oauth2Waiting"));
         QCOMPARE(shown("lblWaitingTitle"), QStringLiteral("Connect to DropBox"));
+        QVERIFY(!find<QLabel>("lblWaitingInfo")->isVisible());
+        emit m_uploads->browserOpened();
+        QVERIFY(find<QLabel>("lblWaitingInfo")->isVisible());
+        emit m_uploads->signInEnded();
+        QCOMPARE(page(), QStringLiteral("pgUpload"));
         emit m_uploads->started();
         QCOMPARE(page(), QStringLiteral("pgUpload"));
         QCOMPARE(shown("labelUploadTime"), QStringLiteral("Elapsed: 00:00:00"));
         emit m_uploads->progress(37);
         QCOMPARE(find<QProgressBar>("progressBar")->value(), 37);
+        emit m_uploads->signInStarted(); // The service has come to refuse the token.
+        QCOMPARE(page(), QStringLiteral("Oauth2Waiting"));
+        emit m_uploads->signInEnded();
+        QCOMPARE(page(), QStringLiteral("pgUpload"));
         click("btnCancel");
         QTRY_COMPARE(page(), QStringLiteral("pgHistory"));
         QVERIFY(!QApplication::activeModalWidget());
