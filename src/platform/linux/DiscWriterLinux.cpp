@@ -69,6 +69,11 @@ bool describe(burn_drive_info &info, DiscRecorder *recorder)
 
 DiscWriterLinux::DiscWriterLinux(const QStringList &images) : m_images(images) {}
 
+QString DiscWriterLinux::fittingTitle(const QString &title) const
+{
+    return DiscImage::fittingTitle(title);
+}
+
 QVector<DiscRecorder> DiscWriterLinux::recorders()
 {
     QVector<DiscRecorder> found;

@@ -36,6 +36,11 @@ QString DiscWriterWindows::hindrance() const
                      : QString();
 }
 
+QString DiscWriterWindows::fittingTitle(const QString &title) const
+{
+    return DiscSessionWindows::fittingTitle(title);
+}
+
 QVector<DiscRecorder> DiscWriterWindows::recorders()
 {
     const std::lock_guard<std::mutex> turn(s_mutex);

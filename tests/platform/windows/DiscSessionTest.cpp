@@ -126,7 +126,8 @@ private slots:
         if (finalize)
             calls.replaceInStrings(QStringLiteral("Closed 0"), QStringLiteral("Closed -1"));
         QCOMPARE(m_disc->calls, calls);
-        QCOMPARE(log.lines(), QStringList{QStringLiteral("Current media status: '2'.")});
+        QCOMPARE(log.lines(), (QStringList{QStringLiteral("Current media status: '2'."),
+                                           QStringLiteral("Burn writing")}));
         QCOMPARE(*m_progress, words(erase ? "1/4 4/4 1/4 4/4" : "1/4 4/4"));
         QCOMPARE(m_disc->streamContent, QByteArray("a video"));
     }
@@ -272,12 +273,12 @@ private slots:
     {
         m_disc->blank = false;
         m_disc->files = QStringList{QStringLiteral("film.mp4"), QStringLiteral("film (2).mp4")};
-        m_title = QStringLiteral("Sommer 2026 am Meer");
+        m_title = QStringLiteral("Sommer 2026 am") + QString::fromUcs4(U"\U0001F600");
         QVERIFY(burn());
         const QString calls = m_disc->calls.join(QLatin1Char('\n'));
         QVERIFY(calls.contains(QStringLiteral("IFsiDirectoryItem AddFile film (3).mp4, video\n")));
         QVERIFY(
-            calls.contains(QStringLiteral("MsftFileSystemImage put_VolumeName Sommer 2026 am \n")));
+            calls.contains(QStringLiteral("MsftFileSystemImage put_VolumeName Sommer 2026 am\n")));
     }
 
     void videoSurvives_data()
