@@ -60,4 +60,8 @@ protected:
 /// separated by colons, that are offered as drives beside the real ones.
 std::unique_ptr<DiscWriter> createDiscWriter();
 
+/// Removes what burns have left whose programs were killed; those of running programs are left
+/// alone. Any thread.
+void removeBurnLeftovers();
+
 } // namespace velmora

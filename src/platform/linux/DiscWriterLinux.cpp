@@ -128,4 +128,9 @@ std::unique_ptr<DiscWriter> createDiscWriter()
     return std::make_unique<DiscWriterLinux>(images.split(QLatin1Char(':'), Qt::SkipEmptyParts));
 }
 
+void removeBurnLeftovers()
+{
+    // Here burns make no files.
+}
+
 } // namespace velmora

@@ -6,6 +6,7 @@
 #include "platform/windows/ComArray.h"
 #include "platform/windows/ComResult.h"
 #include "platform/windows/ComString.h"
+#include "platform/windows/DeletableLink.h"
 #include "platform/windows/DiscExamination.h"
 #include "platform/windows/DiscSessionWindows.h"
 
@@ -123,6 +124,11 @@ std::unique_ptr<DiscSession> DiscWriterWindows::openSession(const QString &recor
 std::unique_ptr<DiscWriter> createDiscWriter()
 {
     return std::make_unique<DiscWriterWindows>();
+}
+
+void removeBurnLeftovers()
+{
+    DeletableLink::sweep();
 }
 
 } // namespace velmora

@@ -8,6 +8,7 @@
 #include "generator/pipeline/CacheSweeper.h"
 #include "platform/ComApartment.h"
 #include "platform/DesktopNotification.h"
+#include "platform/DiscWriter.h"
 #include "platform/FileManager.h"
 #include "platform/FileNames.h"
 #include "platform/ImageFormats.h"
@@ -72,9 +73,13 @@ int runProgram(velmora::Application &application, const QStringList &files)
     HistoryStore history(Paths::historyFile(), application.settings());
     SplashScreen splash;
     playWhileLoading(splash, history);
-    // A render that was killed may have left much, and the next one may be far off.
+    // A render or a burn that was killed may have left much, and the next one may be far off.
     TaskThread sweeper;
     CacheSweeper::sweepAllOn(sweeper, Paths::cacheFolder());
+    sweeper.add([]() -> TaskThread::Report {
+        removeBurnLeftovers();
+        return [] {};
+    });
     Theme::useProgramFont();
     UploadController uploads(application.services(), application.settingsStore());
     const std::unique_ptr<TaskbarProgress> taskbar = createTaskbarProgress();

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "helpers/DeadLock.h"
 #include "helpers/Files.h"
 #include "helpers/LogCapture.h"
 #include "helpers/Words.h"
@@ -45,7 +46,7 @@ const char kImport[] = "MsftDiscFormat2Data get_MultisessionInterfaces\n"
                        "MsftFileSystemImage put_MultisessionInterfaces IMultisession\n"
                        "MsftFileSystemImage ImportFileSystem\n";
 const char kFile[] = "MsftFileSystemImage put_VolumeName Sommer 2026\n"
-                     "SHCreateStreamOnFileEx holiday.mp4 04000040\n"
+                     "SHCreateStreamOnFileEx video.mp4 04000040\n"
                      "MsftFileSystemImage Exists \\film.mp4\n"
                      "IFsiDirectoryItem AddFile film.mp4, video\n";
 const char kWrite[] = "MsftFileSystemImage CreateResultImage\n"
@@ -158,7 +159,7 @@ private slots:
              "'put_MultisessionInterfaces'"},
             {"MsftFileSystemImage ImportFileSystem", "'ImportFileSystem'"},
             {"MsftFileSystemImage put_VolumeName Sommer 2026", "'put_VolumeName'"},
-            {"SHCreateStreamOnFileEx holiday.mp4 04000040", "'SHCreateStreamOnFileEx'"},
+            {"SHCreateStreamOnFileEx video.mp4 04000040", "'SHCreateStreamOnFileEx'"},
             {"IFsiDirectoryItem AddFile film.mp4, video", "AddFile"},
             {"MsftFileSystemImage CreateResultImage", "'CreateResultImage'"},
             {"IFileSystemImageResult get_ImageStream", "'get_ImageStream'"},
@@ -285,14 +286,19 @@ private slots:
     {
         QTest::addColumn<bool>("readOnly");
         QTest::addColumn<int>("names");
-        QTest::newRow("linked") << false << 2;
-        QTest::newRow("read-only, copied") << true << 1;
+        QTest::addColumn<QString>("file");
+        QTest::newRow("linked") << false << 2 << "holiday.mp4";
+        QTest::newRow("read-only, copied") << true << 1 << "holiday.mp4";
+        QTest::newRow("long name") << false << 2 << QString(230, QLatin1Char('x'));
     }
 
     void videoSurvives()
     {
         QFETCH(bool, readOnly);
         QFETCH(int, names);
+        QFETCH(QString, file);
+        m_video = m_folder->filePath(file);
+        QVERIFY(writeFile(m_video, "a video"));
         if (readOnly)
             QVERIFY(QFile::setPermissions(m_video, QFile::ReadOwner));
         QVERIFY(burn());
@@ -302,6 +308,7 @@ private slots:
         // The system's own stream, whether or not it deletes.
         DeletableLink link;
         QVERIFY(link.create(m_video));
+        QVERIFY(link.path().size() < MAX_PATH);
         ComPtr<IStream> stream;
         const auto *path = reinterpret_cast<const wchar_t *>(link.path().utf16());
         QVERIFY(
@@ -309,6 +316,20 @@ private slots:
         char content[7] = {};
         QVERIFY(SUCCEEDED(stream->Read(content, sizeof(content), nullptr)));
         QCOMPARE(QByteArray(content, sizeof(content)), QByteArray("a video"));
+    }
+
+    void leftoversAreSwept()
+    {
+        DeletableLink live;
+        QVERIFY(live.create(m_video));
+        const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+        const QString dead = cache + QStringLiteral("/burn-dead01");
+        QVERIFY(QDir().mkpath(dead));
+        QVERIFY(writeFile(dead + QStringLiteral("/video.mp4"), "a video"));
+        QVERIFY(writeFile(dead + QLatin1Char('/') + DeletableLink::kLockFile, deadLock()));
+        removeBurnLeftovers();
+        QVERIFY(!QFileInfo::exists(dead));
+        QVERIFY(QFileInfo::exists(live.path()));
     }
 
     void missingVideo()
