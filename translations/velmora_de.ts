@@ -1296,6 +1296,10 @@
         <source>Authorization error</source>
         <translation>Fehler bei der Anmeldung</translation>
     </message>
+    <message>
+        <source>There is no program to show the sign-in page.</source>
+        <translation>Es gibt kein Programm, das die Anmeldeseite anzeigen kann.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::BurnDialog</name>

@@ -1296,6 +1296,10 @@
         <source>Authorization error</source>
         <translation>Error de autorización</translation>
     </message>
+    <message>
+        <source>There is no program to show the sign-in page.</source>
+        <translation>No hay ningún programa para mostrar la página de inicio de sesión.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::BurnDialog</name>

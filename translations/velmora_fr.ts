@@ -1296,6 +1296,10 @@
         <source>Authorization error</source>
         <translation>Erreur d'autorisation</translation>
     </message>
+    <message>
+        <source>There is no program to show the sign-in page.</source>
+        <translation>Aucun programme ne peut afficher la page d'identification.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::BurnDialog</name>

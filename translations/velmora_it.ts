@@ -1296,6 +1296,10 @@
         <source>Authorization error</source>
         <translation>Errore di autorizzazione</translation>
     </message>
+    <message>
+        <source>There is no program to show the sign-in page.</source>
+        <translation>Non c'è un programma per mostrare la pagina di accesso.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::BurnDialog</name>

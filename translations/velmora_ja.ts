@@ -1296,6 +1296,10 @@
         <source>Authorization error</source>
         <translation>認証エラー</translation>
     </message>
+    <message>
+        <source>There is no program to show the sign-in page.</source>
+        <translation>サインインページを表示するプログラムがありません。</translation>
+    </message>
 </context>
 <context>
     <name>velmora::BurnDialog</name>

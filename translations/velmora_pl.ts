@@ -1296,6 +1296,10 @@
         <source>Authorization error</source>
         <translation>Błąd autoryzacji</translation>
     </message>
+    <message>
+        <source>There is no program to show the sign-in page.</source>
+        <translation>Brak programu, który pokaże stronę logowania.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::BurnDialog</name>

@@ -1296,6 +1296,10 @@
         <source>Authorization error</source>
         <translation>Ошибка авторизации</translation>
     </message>
+    <message>
+        <source>There is no program to show the sign-in page.</source>
+        <translation>Нет программы для показа страницы входа.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::BurnDialog</name>

@@ -1296,6 +1296,10 @@
         <source>Authorization error</source>
         <translation>授权错误</translation>
     </message>
+    <message>
+        <source>There is no program to show the sign-in page.</source>
+        <translation>没有可以显示登录页面的程序。</translation>
+    </message>
 </context>
 <context>
     <name>velmora::BurnDialog</name>

@@ -18,6 +18,8 @@ SetCompressor /SOLID lzma
 !define SESSION_KEY "Software\Corvel Velmora"
 !define BROWSER_KEY "Software\Microsoft\Internet Explorer\Main\FeatureControl\FEATURE_BROWSER_EMULATION"
 !define DOCUMENT "Velmora.Slideshow"
+; The program's own data folder.
+!define DATA_FOLDER "$APPDATA\Corvel\Corvel Velmora"
 
 Name "Velmora"
 OutFile "${OUTPUT}"
@@ -33,6 +35,10 @@ VIAddVersionKey "LegalCopyright" "GNU General Public License, version 3 or later
 
 !define MUI_ICON "${__FILEDIR__}/../../resources/velmora.ico"
 !define MUI_UNICON "${__FILEDIR__}/../../resources/velmora.ico"
+!define MUI_LANGDLL_ALLLANGUAGES
+!define MUI_LANGDLL_REGISTRY_ROOT HKCU
+!define MUI_LANGDLL_REGISTRY_KEY "${UNINSTALL_KEY}"
+!define MUI_LANGDLL_REGISTRY_VALUENAME "Language"
 !define MUI_FINISHPAGE_RUN "$INSTDIR\velmora.exe"
 !define MUI_FINISHPAGE_RUN_PARAMETERS "--inst"
 !insertmacro MUI_PAGE_LICENSE "${SOURCE}/licences/Velmora.txt"
@@ -50,6 +56,18 @@ VIAddVersionKey "LegalCopyright" "GNU General Public License, version 3 or later
 !insertmacro MUI_LANGUAGE "Russian"
 !insertmacro MUI_LANGUAGE "Japanese"
 !insertmacro MUI_LANGUAGE "SimpChinese"
+!insertmacro MUI_RESERVEFILE_LANGDLL
+
+; As the program names them.
+LangString CODE ${LANG_ENGLISH} "en"
+LangString CODE ${LANG_GERMAN} "de"
+LangString CODE ${LANG_FRENCH} "fr"
+LangString CODE ${LANG_SPANISH} "es"
+LangString CODE ${LANG_ITALIAN} "it"
+LangString CODE ${LANG_POLISH} "pl"
+LangString CODE ${LANG_RUSSIAN} "ru"
+LangString CODE ${LANG_JAPANESE} "ja"
+LangString CODE ${LANG_SIMPCHINESE} "zh"
 
 LangString CLOSE_FIRST ${LANG_ENGLISH} "Velmora is running. Close it, and then try again."
 LangString CLOSE_FIRST ${LANG_GERMAN} "Velmora läuft noch. Schließen Sie das Programm und versuchen Sie es dann noch einmal."
@@ -80,6 +98,15 @@ LangString CLOSE_FIRST ${LANG_SIMPCHINESE} "Velmora 正在运行。请先关闭�
   ${Loop}
 !macroend
 
+; Silent installations are not asked.
+Function .onInit
+  !insertmacro MUI_LANGDLL_DISPLAY
+FunctionEnd
+
+Function un.onInit
+  !insertmacro MUI_UNGETLANGUAGE
+FunctionEnd
+
 Section
   ; Files that this version has no more must not stay, wherever the one before was installed.
   ReadRegStr $1 HKCU "${UNINSTALL_KEY}" "InstallLocation"
@@ -107,6 +134,13 @@ Section
   WriteRegStr HKCU "Software\Classes\.json\OpenWithProgids" "${DOCUMENT}" ""
   System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)'
 
+  ; The program takes over the chosen language when it first runs; later it is set there.
+  ${IfNot} ${Silent}
+  ${AndIfNot} ${FileExists} "${DATA_FOLDER}\settings.ini"
+    CreateDirectory "${DATA_FOLDER}"
+    WriteINIStr "${DATA_FOLDER}\settings.ini" "General" "lang" "$(CODE)"
+  ${EndIf}
+
   WriteRegStr HKCU "${PROGRAM_KEY}" "DisplayVersion" "${VERSION}"
   WriteRegStr HKCU "${PROGRAM_KEY}" "CurrentVersion" "${VERSION}"
   WriteUninstaller "$INSTDIR\uninstall.exe"
@@ -115,6 +149,8 @@ Section
   WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayIcon" "$INSTDIR\velmora.exe"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "Publisher" "Corvel"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
+  ; Also without pages, so that the uninstaller does not ask.
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "Language" "$LANGUAGE"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\uninstall.exe"'
   WriteRegStr HKCU "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoModify" 1

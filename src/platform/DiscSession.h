@@ -35,7 +35,8 @@ public:
     /// Settles how the image is written; with @p finalize the disc takes no further session
     /// afterwards.
     virtual bool finishImage(bool finalize) = 0;
-    /// Writes the image. Returns early, with failure, once @p cancelled is set.
+    /// Logs "Burn writing" and writes the image. Returns early, with failure, once @p cancelled is
+    /// set.
     virtual bool write(const DiscProgress &progress, const std::atomic_bool &cancelled) = 0;
 
 protected:

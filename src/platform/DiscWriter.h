@@ -42,6 +42,9 @@ public:
     /// Why this copy of the program can write no disc at all, as a text for the user; empty if it
     /// can.
     virtual QString hindrance() const { return {}; }
+    /// The longest beginning of @p title that a disc can be given as its title, with whole
+    /// characters. Waits for nothing.
+    virtual QString fittingTitle(const QString &title) const = 0;
     /// The connected drives that can write. Those that fail are logged and left out.
     virtual QVector<DiscRecorder> recorders() = 0;
     /// What lies in a drive; nothing is present when it cannot be asked.
@@ -56,5 +59,9 @@ protected:
 /// The writer of this system. On Linux the environment variable VELMORA_DISC_IMAGES can name files,
 /// separated by colons, that are offered as drives beside the real ones.
 std::unique_ptr<DiscWriter> createDiscWriter();
+
+/// Removes what burns have left whose programs were killed; those of running programs are left
+/// alone. Any thread.
+void removeBurnLeftovers();
 
 } // namespace velmora

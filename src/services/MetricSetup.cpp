@@ -18,10 +18,10 @@ constexpr int kDefaultBatch = 10;
 
 } // namespace
 
-void setUpMetrics(MetricSender &sender, const ServicesConfig &services, QSettings &store)
+void setUpMetrics(MetricSender &sender, const ServicesConfig &services, bool agreed,
+                  QSettings &store)
 {
     const QString address = services.value(QStringLiteral("metrics/address"));
-    const bool agreed = store.value(QStringLiteral("sendStatistics"), false).toBool();
     if (address.isEmpty() || !agreed) {
         sender.configure(QUrl(), QString(), kDefaultBatch, false);
         return;

@@ -161,21 +161,20 @@ private slots:
     {
         const QTemporaryDir folder;
         const auto store = openSettings(folder.filePath(QStringLiteral("settings.ini")));
-        setUpMetrics(*m_sender, ServicesConfig(), *store);
+        setUpMetrics(*m_sender, ServicesConfig(), true, *store);
         m_sender->record(QStringLiteral("upld"), 1);
         QCOMPARE(m_sender->pending(), QStringList());
         QCOMPARE(store->allKeys(), QStringList()); // No identifier before there is a service.
 
         qputenv("VELMORA_METRICS_ADDRESS", m_server->url().toEncoded());
         qputenv("VELMORA_METRICS_BATCH", "1");
-        setUpMetrics(*m_sender, ServicesConfig(), *store);
+        setUpMetrics(*m_sender, ServicesConfig(), false, *store);
         m_sender->record(QStringLiteral("upld"), 1);
         QCOMPARE(m_sender->pending(), QStringList()); // Nothing before the user has agreed.
         QCOMPARE(store->allKeys(), QStringList());
 
-        store->setValue(QStringLiteral("sendStatistics"), true);
         for (int i = 0; i < 2; ++i) {
-            setUpMetrics(*m_sender, ServicesConfig(), *store);
+            setUpMetrics(*m_sender, ServicesConfig(), true, *store);
             m_sender->record(QStringLiteral("upld"), 1);
             QVERIFY(m_idle->wait());
         }

@@ -4,6 +4,7 @@
 #include "app/Paths.h"
 #include "generator/GeneratorLog.h"
 #include "platform/FileNames.h"
+#include "platform/Shortened.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -50,12 +51,9 @@ QString randomLetters()
     return text;
 }
 
-/// The longest beginning of @p name that has at most @p bytes bytes in the file system.
-QString shortened(QString name, int bytes)
+int bytesOf(const QString &name)
 {
-    while (QFile::encodeName(name).size() > bytes)
-        name.chop(name.size() > 1 && name.at(name.size() - 1).isLowSurrogate() ? 2 : 1);
-    return name;
+    return QFile::encodeName(name).size();
 }
 
 std::filesystem::path filePath(const QString &name)
@@ -112,7 +110,8 @@ RenderError OutputTarget::commit()
 QString OutputTarget::keepUnderFreeName()
 {
     const QFileInfo wished(m_fileName);
-    const QString stem = shortened(wished.completeBaseName(), kLongestName - kTemporaryReserve);
+    const QString stem =
+        shortened(wished.completeBaseName(), kLongestName - kTemporaryReserve, bytesOf);
     for (int number = 2; number <= kMostNames; ++number) {
         const QString name = QStringLiteral("%1/%2 (%3).%4")
                                  .arg(m_folder, stem, QString::number(number), wished.suffix());
@@ -162,9 +161,10 @@ void OutputTarget::chooseName(const QString &fileName, const QString &format)
         info.setFile(m_fileName);
     }
     m_folder = info.absolutePath();
-    m_temporaryStem = QLatin1Char('.') +
-                      shortened(info.completeBaseName(), kLongestName - kTemporaryReserve) +
-                      QStringLiteral(".part-");
+    m_temporaryStem =
+        QLatin1Char('.') +
+        shortened(info.completeBaseName(), kLongestName - kTemporaryReserve, bytesOf) +
+        QStringLiteral(".part-");
 }
 
 RenderError OutputTarget::checkName() const

@@ -2,6 +2,7 @@
 #include "platform/linux/DiscImage.h"
 
 #include "platform/PlatformLog.h"
+#include "platform/Shortened.h"
 #include "platform/linux/BurnDrive.h"
 
 #include <QFile>
@@ -60,12 +61,9 @@ struct DeleteWriteOptions {
     void operator()(IsoWriteOpts *options) const { iso_write_opts_free(options); }
 };
 
-/// At most @p bytes of UTF-8, with whole characters.
-QByteArray shortened(QString text, int bytes)
+int bytesOf(const QString &text)
 {
-    while (text.toUtf8().size() > bytes)
-        text.chop(text.size() > 1 && text.at(text.size() - 1).isLowSurrogate() ? 2 : 1);
-    return text.toUtf8();
+    return text.toUtf8().size();
 }
 
 } // namespace
@@ -81,10 +79,15 @@ DiscImage::~DiscImage()
         iso_image_unref(m_image);
 }
 
+QString DiscImage::fittingTitle(const QString &title)
+{
+    return shortened(title, kVolumeNameBytes, bytesOf);
+}
+
 bool DiscImage::begin(BurnDrive &drive, const DiscContent &content, const QString &volumeName)
 {
     m_content = content;
-    const QByteArray volume = shortened(volumeName, kVolumeNameBytes);
+    const QByteArray volume = fittingTitle(volumeName).toUtf8();
     if (!check(iso_image_new(volume.constData(), &m_image), "iso_image_new"))
         return false;
     if (!content.media.blank && !import(drive))
@@ -124,13 +127,14 @@ QByteArray DiscImage::freeName(const QString &name) const
     const QString suffix = QFileInfo(name).suffix();
     const QString ending = suffix.isEmpty() ? QString() : QLatin1Char('.') + suffix;
     const QString base = name.left(name.size() - ending.size());
-    QByteArray free = shortened(base, kNameBytes - ending.toUtf8().size()) + ending.toUtf8();
+    const auto named = [&base](const QString &end) {
+        return (shortened(base, kNameBytes - bytesOf(end), bytesOf) + end).toUtf8();
+    };
+    QByteArray free = named(ending);
     IsoNode *taken = nullptr;
     for (int i = 2; iso_dir_get_node(iso_image_get_root(m_image), free.constData(), &taken) == 1;
-         ++i) {
-        const QByteArray number = QStringLiteral(" (%1)%2").arg(i).arg(ending).toUtf8();
-        free = shortened(base, kNameBytes - number.size()) + number;
-    }
+         ++i)
+        free = named(QStringLiteral(" (%1)%2").arg(i).arg(ending));
     return free;
 }
 

@@ -26,6 +26,9 @@ public:
     ~DiscImage();
     Q_DISABLE_COPY(DiscImage)
 
+    /// See DiscWriter::fittingTitle().
+    static QString fittingTitle(const QString &title);
+
     /// Starts an empty file system, or one with the files of @p content on @p drive.
     bool begin(BurnDrive &drive, const DiscContent &content, const QString &volumeName);
     /// Puts @p video into the root folder.

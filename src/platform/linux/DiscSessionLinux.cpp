@@ -202,6 +202,7 @@ bool DiscSessionLinux::writeSession(const DiscProgress &progress, const std::ato
     BurnPlan plan(*m_drive, m_image->source());
     if (!plan.prepare(m_finalize, m_content))
         return fail("put_ForceMediaToBeClosed", plan.reason());
+    qCInfo(lcPlatform) << "Burn writing";
     burn_disc_write(plan.options(), plan.disc());
     return waitForWrite(progress, cancelled);
 }

@@ -69,6 +69,11 @@ bool describe(burn_drive_info &info, DiscRecorder *recorder)
 
 DiscWriterLinux::DiscWriterLinux(const QStringList &images) : m_images(images) {}
 
+QString DiscWriterLinux::fittingTitle(const QString &title) const
+{
+    return DiscImage::fittingTitle(title);
+}
+
 QVector<DiscRecorder> DiscWriterLinux::recorders()
 {
     QVector<DiscRecorder> found;
@@ -121,6 +126,11 @@ std::unique_ptr<DiscWriter> createDiscWriter()
 {
     const QString images = qEnvironmentVariable("VELMORA_DISC_IMAGES");
     return std::make_unique<DiscWriterLinux>(images.split(QLatin1Char(':'), Qt::SkipEmptyParts));
+}
+
+void removeBurnLeftovers()
+{
+    // Here burns make no files.
 }
 
 } // namespace velmora

@@ -14,6 +14,7 @@ public:
     /// pipes or of devices.
     explicit DiscWriterLinux(const QStringList &images = {});
 
+    QString fittingTitle(const QString &title) const override;
     QVector<DiscRecorder> recorders() override;
     DiscMedia media(const QString &recorderId) override;
     std::unique_ptr<DiscSession> openSession(const QString &recorderId) override;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/windows/DeletableLink.h"
 
+#include "platform/PlatformLog.h"
+
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -14,9 +17,39 @@ namespace velmora
 namespace
 {
 
+const QLatin1String kPrefix("burn-");
+constexpr qint64 kYoungestUnlocked = 60; // s; a folder is locked right after it was made
+
 const wchar_t *wide(const QString &text)
 {
     return reinterpret_cast<const wchar_t *>(text.utf16());
+}
+
+/// An absolute path as the system takes it at any length.
+QString systemPath(const QString &path)
+{
+    const QString native = QDir::toNativeSeparators(path);
+    return native.startsWith(QLatin1String("\\\\")) ? QStringLiteral("\\\\?\\UNC") + native.mid(1)
+                                                    : QStringLiteral("\\\\?\\") + native;
+}
+
+/// Streams, other than links, need a path that is not too long.
+QString linkName(const QString &file)
+{
+    const QString suffix = QFileInfo(file).suffix();
+    return suffix.isEmpty() ? QStringLiteral("video") : QStringLiteral("video.") + suffix;
+}
+
+QString cacheFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+}
+
+bool isBeingMade(const QDir &folder)
+{
+    const QDateTime made = QFileInfo(folder.path()).lastModified();
+    return !folder.exists(DeletableLink::kLockFile) &&
+           made.secsTo(QDateTime::currentDateTime()) < kYoungestUnlocked;
 }
 
 } // namespace
@@ -29,7 +62,7 @@ bool DeletableLink::create(const QString &file)
         m_error = ERROR_FILE_NOT_FOUND;
         return false;
     }
-    const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+    const QString cache = cacheFolder();
     QDir().mkpath(cache);
     // Links share their attributes: one that is read-only could not be deleted without changing the
     // video.
@@ -41,22 +74,50 @@ bool DeletableLink::create(const QString &file)
 
 bool DeletableLink::createIn(const QString &folder, const QString &file, bool copy)
 {
-    auto temporary = std::make_unique<QTemporaryDir>(folder + QStringLiteral("/burn-XXXXXX"));
-    if (!temporary->isValid()) {
+    auto temporary = std::make_unique<QTemporaryDir>(folder + QLatin1Char('/') + kPrefix +
+                                                     QStringLiteral("XXXXXX"));
+    auto lock = std::make_unique<QLockFile>(temporary->filePath(kLockFile));
+    lock->setStaleLockTime(0);
+    if (!temporary->isValid() || !lock->tryLock(0)) {
         m_error = ERROR_CANNOT_MAKE;
         return false;
     }
-    const QString link = QDir::toNativeSeparators(temporary->filePath(QFileInfo(file).fileName()));
-    const QString source = QDir::toNativeSeparators(file);
-    const bool made = copy ? CopyFileW(wide(source), wide(link), TRUE)
-                           : CreateHardLinkW(wide(link), wide(source), nullptr);
+    const QString link = QDir::toNativeSeparators(temporary->filePath(linkName(file)));
+    const QString source = systemPath(file);
+    const QString target = systemPath(link);
+    if (link.size() >= MAX_PATH) {
+        m_error = ERROR_FILENAME_EXCED_RANGE;
+        return false;
+    }
+    const bool made = copy ? CopyFileW(wide(source), wide(target), TRUE)
+                           : CreateHardLinkW(wide(target), wide(source), nullptr);
     if (!made) {
         m_error = GetLastError();
         return false;
     }
     m_folder = std::move(temporary);
+    m_lock = std::move(lock);
     m_path = link;
     return true;
+}
+
+void DeletableLink::sweep()
+{
+    const QDir cache(cacheFolder());
+    const QStringList names = cache.entryList({QString(kPrefix) + QLatin1Char('*')},
+                                              QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
+    for (const QString &name : names) {
+        QDir folder(cache.filePath(name));
+        if (isBeingMade(folder))
+            continue;
+        QLockFile lock(folder.filePath(kLockFile));
+        lock.setStaleLockTime(0);
+        if (!lock.tryLock(0))
+            continue;
+        lock.unlock();
+        if (folder.removeRecursively())
+            qCInfo(lcPlatform) << "Removed what a dead burn has left" << folder.path();
+    }
 }
 
 } // namespace velmora

@@ -2,6 +2,7 @@
 #include "platform/windows/DiscSessionWindows.h"
 
 #include "platform/PlatformLog.h"
+#include "platform/Shortened.h"
 #include "platform/windows/ComArray.h"
 #include "platform/windows/ComResult.h"
 #include "platform/windows/ComString.h"
@@ -40,6 +41,11 @@ ComPtr<Sink> makeSink(ImapiFactory &factory, const char *events, const DiscProgr
 DiscSessionWindows::DiscSessionWindows(ImapiFactory &factory, std::unique_lock<std::mutex> turn)
     : m_factory(factory), m_turn(std::move(turn))
 {
+}
+
+QString DiscSessionWindows::fittingTitle(const QString &title)
+{
+    return shortened(title, kVolumeNameLength, [](const QString &text) { return text.size(); });
 }
 
 bool DiscSessionWindows::open(const QString &recorderId)
@@ -113,7 +119,7 @@ bool DiscSessionWindows::beginImage(const QString &volumeName)
     const bool prepared =
         blank ? stepSucceeded(m_image->ChooseImageDefaults(m_recorder.Get()), "ChooseImageDefaults")
               : importFileSystem(m_data.Get(), m_image.Get());
-    const ComString name(volumeName.left(kVolumeNameLength));
+    const ComString name(fittingTitle(volumeName));
     return prepared && stepSucceeded(m_image->put_VolumeName(name.get()), "put_VolumeName");
 }
 
@@ -170,6 +176,7 @@ bool DiscSessionWindows::write(const DiscProgress &progress, const std::atomic_b
     const auto sink =
         makeSink<WriteEvents, DDiscFormat2DataEvents>(m_factory, "DDiscFormat2DataEvents", report);
     const EventConnection connection(m_data.Get(), __uuidof(DDiscFormat2DataEvents), sink.Get());
+    qCInfo(lcPlatform) << "Burn writing";
     return succeeded(m_data->Write(m_stream.Get()), "Write failed, result: '%1'");
 }
 

@@ -18,6 +18,9 @@ public:
     /// @p turn is held until the session ends; @p factory must outlive it.
     DiscSessionWindows(ImapiFactory &factory, std::unique_lock<std::mutex> turn);
 
+    /// See DiscWriter::fittingTitle().
+    static QString fittingTitle(const QString &title);
+
     /// Takes the drive; false when it is gone.
     bool open(const QString &recorderId);
 

@@ -6,6 +6,7 @@
 #include "platform/windows/ComArray.h"
 #include "platform/windows/ComResult.h"
 #include "platform/windows/ComString.h"
+#include "platform/windows/DeletableLink.h"
 #include "platform/windows/DiscExamination.h"
 #include "platform/windows/DiscSessionWindows.h"
 
@@ -34,6 +35,11 @@ QString DiscWriterWindows::hindrance() const
                            "velmora::DiscWriter",
                            "This copy of the program cannot burn discs on this system.")
                      : QString();
+}
+
+QString DiscWriterWindows::fittingTitle(const QString &title) const
+{
+    return DiscSessionWindows::fittingTitle(title);
 }
 
 QVector<DiscRecorder> DiscWriterWindows::recorders()
@@ -118,6 +124,11 @@ std::unique_ptr<DiscSession> DiscWriterWindows::openSession(const QString &recor
 std::unique_ptr<DiscWriter> createDiscWriter()
 {
     return std::make_unique<DiscWriterWindows>();
+}
+
+void removeBurnLeftovers()
+{
+    DeletableLink::sweep();
 }
 
 } // namespace velmora

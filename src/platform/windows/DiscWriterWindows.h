@@ -15,6 +15,7 @@ public:
         std::unique_ptr<ImapiFactory> factory = std::make_unique<ImapiFactory>());
 
     QString hindrance() const override;
+    QString fittingTitle(const QString &title) const override;
     QVector<DiscRecorder> recorders() override;
     DiscMedia media(const QString &recorderId) override;
     std::unique_ptr<DiscSession> openSession(const QString &recorderId) override;

@@ -8,6 +8,7 @@
 #include "generator/pipeline/CacheSweeper.h"
 #include "platform/ComApartment.h"
 #include "platform/DesktopNotification.h"
+#include "platform/DiscWriter.h"
 #include "platform/FileManager.h"
 #include "platform/FileNames.h"
 #include "platform/ImageFormats.h"
@@ -47,12 +48,18 @@ void playWhileLoading(velmora::SplashScreen &splash, velmora::HistoryStore &hist
     loading.finish();
 }
 
+void setUpMetrics(velmora::Application &application)
+{
+    velmora::setUpMetrics(velmora::MetricSender::instance(), application.services(),
+                          application.settings().sendStatistics, application.settingsStore());
+}
+
 /// Applies what the user changed in the settings panel.
 void applySettings(velmora::Application &application)
 {
     using namespace velmora;
     application.applyLanguage(application.settings().locale);
-    setUpMetrics(MetricSender::instance(), application.services(), application.settingsStore());
+    setUpMetrics(application);
 }
 
 int runProgram(velmora::Application &application, const QStringList &files)
@@ -66,9 +73,13 @@ int runProgram(velmora::Application &application, const QStringList &files)
     HistoryStore history(Paths::historyFile(), application.settings());
     SplashScreen splash;
     playWhileLoading(splash, history);
-    // A render that was killed may have left much, and the next one may be far off.
+    // A render or a burn that was killed may have left much, and the next one may be far off.
     TaskThread sweeper;
     CacheSweeper::sweepAllOn(sweeper, Paths::cacheFolder());
+    sweeper.add([]() -> TaskThread::Report {
+        removeBurnLeftovers();
+        return [] {};
+    });
     Theme::useProgramFont();
     UploadController uploads(application.services(), application.settingsStore());
     const std::unique_ptr<TaskbarProgress> taskbar = createTaskbarProgress();
@@ -87,7 +98,7 @@ int runProgram(velmora::Application &application, const QStringList &files)
     window.activateWindow();
     splash.finish(&window);
 
-    setUpMetrics(MetricSender::instance(), application.services(), application.settingsStore());
+    setUpMetrics(application);
     recordSystem(MetricSender::instance(), readSystemInfo());
     MetricSender::instance().SendData(); // it is no whole batch
     // Dialogs need the event loop.

@@ -72,8 +72,9 @@ int main(int argc, char *argv[])
         const auto store = velmora::openSettings(velmora::Paths::settingsFile());
         settings.load(*store, QSize());
         velmora::MetricSender &metrics = velmora::MetricSender::instance();
-        velmora::setUpMetrics(
-            metrics, velmora::ServicesConfig::fromFile(velmora::Paths::servicesFile()), *store);
+        velmora::setUpMetrics(metrics,
+                              velmora::ServicesConfig::fromFile(velmora::Paths::servicesFile()),
+                              settings.sendStatistics, *store);
         QTranslator translator;
         if (velmora::Translations::load(translator, settings.locale))
             QCoreApplication::installTranslator(&translator);

@@ -36,6 +36,8 @@ public:
     const QVector<BurnDevice> &devices() const { return m_devices; }
     /// Why no disc can be written at all, as a text for the user; empty if one can.
     QString hindrance() const { return m_writer->hindrance(); }
+    /// See DiscWriter::fittingTitle().
+    QString fittingTitle(const QString &title) const { return m_writer->fittingTitle(title); }
     bool isBurning() const { return m_thread != nullptr; }
 
     /// Looks for drives; devicesChanged() follows.

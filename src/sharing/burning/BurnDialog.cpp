@@ -8,6 +8,9 @@
 #include "ui_BurnDialog.h"
 
 #include <QFileInfo>
+#include <QValidator>
+
+#include <algorithm>
 
 namespace velmora
 {
@@ -16,7 +19,26 @@ namespace
 {
 
 constexpr qint64 kMegabyte = 1048576;
-constexpr int kMaximumTitle = 32; ///< Characters that a disc's title can have.
+
+/// Takes off what a disc's title has no room for.
+class TitleValidator : public QValidator
+{
+public:
+    TitleValidator(const BurnController &controller, QObject *parent)
+        : QValidator(parent), m_controller(controller)
+    {
+    }
+
+    State validate(QString &title, int &place) const override
+    {
+        title = m_controller.fittingTitle(title);
+        place = std::min(place, title.size());
+        return Acceptable;
+    }
+
+private:
+    const BurnController &m_controller;
+};
 
 QString deviceText(const BurnDevice &device)
 {
@@ -48,8 +70,8 @@ BurnDialog::~BurnDialog() = default;
 
 void BurnDialog::setUpFields(const QString &diskTitle)
 {
-    const QString title = diskTitle.simplified().left(kMaximumTitle);
-    m_ui->leDiskTitle->setMaxLength(kMaximumTitle);
+    const QString title = diskTitle.simplified();
+    m_ui->leDiskTitle->setValidator(new TitleValidator(m_controller, this));
     m_ui->leDiskTitle->setText(title.isEmpty() ? tr("My slideshow") : title);
     m_ui->leFileName->setText(QFileInfo(m_video).fileName());
     m_ui->btnBurn->setIcon(Theme::icon(QStringLiteral("disc-white")));

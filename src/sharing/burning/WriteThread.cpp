@@ -59,7 +59,6 @@ bool WriteThread::burn()
     if (!proceeds(session->createImage(m_job.video, m_job.fileName, m_job.volumeName)) ||
         !proceeds(session->finishImage(m_job.finalize)))
         return false;
-    qCInfo(lcSharing) << "Burn writing";
     if (!session->write(reporter(QStringLiteral("Burn write progress %1 from %2")), m_cancelled))
         return false;
     qCInfo(lcSharing) << "Burn writing finished";

@@ -38,8 +38,6 @@ FinalWindow::FinalWindow(const QString &video, FileManager &fileManager, QWidget
     });
     const auto offer = [this](QPushButton *button, const char *key) {
         m_uploadButtons.append(button);
-        if (!uploadHindrance().isEmpty())
-            button->setToolTip(uploadHindrance());
         connect(button, &QPushButton::clicked, this, [this, key] {
             accept();
             emit uploadService(QLatin1String(key));
@@ -48,14 +46,27 @@ FinalWindow::FinalWindow(const QString &video, FileManager &fileManager, QWidget
     offer(form.btnUploadYoutube, "youtube");
     offer(form.btnUploadGoogleDrive, "googledrive");
     offer(form.btnUploadDropBox, "dropbox");
+    m_uploadToolTip =
+        uploadHindrance().isEmpty() ? form.btnUploadYoutube->toolTip() : uploadHindrance();
+    allowUploads();
     form.btnOpen->setFocus();
 }
 
 void FinalWindow::refuseUploads(const QString &reason)
 {
+    setUploads(false, reason);
+}
+
+void FinalWindow::allowUploads()
+{
+    setUploads(true, m_uploadToolTip);
+}
+
+void FinalWindow::setUploads(bool allowed, const QString &toolTip)
+{
     for (QPushButton *button : qAsConst(m_uploadButtons)) {
-        button->setEnabled(false);
-        button->setToolTip(reason);
+        button->setEnabled(allowed);
+        button->setToolTip(toolTip);
     }
 }
 

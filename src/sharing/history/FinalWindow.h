@@ -22,8 +22,9 @@ public:
     /// @p fileManager must outlive the window.
     FinalWindow(const QString &video, FileManager &fileManager, QWidget *parent = nullptr);
 
-    /// Disables the uploads; their tooltips tell @p reason.
+    /// Disables the uploads until allowUploads(); their tooltips tell @p reason.
     void refuseUploads(const QString &reason);
+    void allowUploads();
 
 signals:
     /// The video shall be uploaded to "youtube", "googledrive" or "dropbox". After closing.
@@ -32,10 +33,12 @@ signals:
 
 private:
     void openFolder();
+    void setUploads(bool allowed, const QString &toolTip);
 
     const QString m_video;
     FileManager &m_fileManager;
     QVector<QPushButton *> m_uploadButtons;
+    QString m_uploadToolTip; ///< Of those that are not refused.
 };
 
 } // namespace velmora

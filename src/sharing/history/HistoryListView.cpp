@@ -75,10 +75,6 @@ void HistoryListView::updateRows()
     if (!m_history || !isVisible())
         return;
     executeDelayedItemsLayout();
-    if (m_requests.size() > kPictures) {
-        m_pictures->clear();
-        m_requests.clear();
-    }
     const int height = HistoryColumns::RowHeight;
     const int first = verticalScrollBar()->value() / height;
     const int last = std::min(first + viewport()->height() / height + 1, m_history->rowCount() - 1);
@@ -90,6 +86,8 @@ void HistoryListView::updateRows()
         return !index.isValid() || !near;
     };
     m_rows.erase(std::remove_if(m_rows.begin(), m_rows.end(), outOfSight), m_rows.end());
+    if (m_requests.size() > kPictures)
+        forgetPictures();
     for (int row = first; row <= last; ++row) {
         if (!rowWidget(row))
             createRow(row);
@@ -143,10 +141,24 @@ void HistoryListView::requestPicture(HistoryRowWidget &row)
     if (photo.isEmpty())
         return;
     const auto known = m_requests.constFind(photo);
-    if (known == m_requests.constEnd())
+    if (known == m_requests.constEnd()) {
         m_requests.insert(photo, m_pictures->request(photo));
-    else
-        row.setPicture(m_pictures->thumbnail(*known));
+        return;
+    }
+    const QImage picture = m_pictures->thumbnail(*known);
+    if (!picture.isNull())
+        row.setPicture(picture);
+}
+
+void HistoryListView::forgetPictures()
+{
+    m_pictures->clear();
+    m_requests.clear();
+    // Those that have a widget may still wait for theirs.
+    for (const QPersistentModelIndex &index : qAsConst(m_rows)) {
+        if (HistoryRowWidget *row = rowWidget(index.row()))
+            requestPicture(*row);
+    }
 }
 
 void HistoryListView::onPictureReady(const QUuid &id)

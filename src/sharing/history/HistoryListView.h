@@ -50,6 +50,7 @@ private:
     void createRow(int row);
     void refreshRows(int first, int last);
     void requestPicture(HistoryRowWidget &row);
+    void forgetPictures();
     void onPictureReady(const QUuid &id);
     void paintEmptyState();
 

@@ -83,6 +83,8 @@ void HistoryWidget::setUploads(UploadController *uploads)
     if (!uploads)
         return;
     connect(uploads, &UploadController::signInStarted, this, &HistoryWidget::onSignInStarted);
+    connect(uploads, &UploadController::browserOpened, this, &HistoryWidget::onBrowserOpened);
+    connect(uploads, &UploadController::signInEnded, this, &HistoryWidget::onSignInEnded);
     connect(uploads, &UploadController::started, this, &HistoryWidget::onUploadStarted);
     connect(uploads, &UploadController::progress, this, &HistoryWidget::uploadProgress);
     connect(uploads, &UploadController::finished, this, &HistoryWidget::onUploadFinished);

@@ -65,6 +65,8 @@ public slots:
     void undoRemoval();
     void onBurnProject(const QString &fileName, const QString &diskTitle);
     void onSignInStarted();
+    void onBrowserOpened();
+    void onSignInEnded();
     void onUploadStarted();
     void uploadProgress(int percent);
     void onUploadFinished(const QString &fileId, const QString &fileUrl);
@@ -96,7 +98,7 @@ signals:
     void burnDvd(const QString &diskTitle, const QString &fileName);
     void beginUpload();
     void uploadProgressStarted();
-    void uploadProgressFinished(); ///< Once per uploadProgressStarted(), however it ended.
+    void uploadProgressFinished(); ///< Once per beginUpload(), also if nothing was sent.
     void uploadFinished(const QString &videoId, const QString &previewUrl);
     void uploadFailed(const QString &error);
     void progressUpload(int percent);
@@ -122,6 +124,7 @@ private:
     void onVideosRestored(const QStringList &lost);
     void tellAboutVideos(const QString &text, const QStringList &videos);
     void updateUploadTexts();
+    void showUpload();
     void endUpload();
     void showElapsed();
 

@@ -42,10 +42,15 @@ void HistoryWidget::startUpload(const QString &fileName, const QString &title,
     m_ui->progressBar->setValue(0);
     m_ui->btnCancel->setEnabled(true);
     updateUploadTexts();
-    m_ui->pages->setCurrentWidget(m_ui->pgUpload);
-    m_ui->btnCancel->setFocus();
+    showUpload();
     emit beginUpload();
     m_uploads->upload(uploadService, fileName, title, window());
+}
+
+void HistoryWidget::showUpload()
+{
+    m_ui->pages->setCurrentWidget(m_ui->pgUpload);
+    m_ui->btnCancel->setFocus();
 }
 
 void HistoryWidget::updateUploadTexts()
@@ -61,8 +66,19 @@ void HistoryWidget::updateUploadTexts()
 
 void HistoryWidget::onSignInStarted()
 {
+    m_ui->lblWaitingInfo->hide();
     m_ui->pages->setCurrentWidget(m_ui->Oauth2Waiting);
     m_ui->btnCancelWaiting->setFocus();
+}
+
+void HistoryWidget::onBrowserOpened()
+{
+    m_ui->lblWaitingInfo->show();
+}
+
+void HistoryWidget::onSignInEnded()
+{
+    showUpload();
 }
 
 void HistoryWidget::onUploadStarted()
@@ -70,8 +86,7 @@ void HistoryWidget::onUploadStarted()
     if (m_started)
         return;
     m_started = true;
-    m_ui->pages->setCurrentWidget(m_ui->pgUpload);
-    m_ui->btnCancel->setFocus();
+    showUpload();
     m_elapsed.start();
     m_timer.start();
     showElapsed();
@@ -105,10 +120,8 @@ void HistoryWidget::endUpload()
     m_service.clear();
     m_ui->pages->setCurrentWidget(m_ui->pgHistory);
     m_ui->listHistory->setFocus();
-    const bool started = m_started;
     m_started = false;
-    if (started)
-        emit uploadProgressFinished();
+    emit uploadProgressFinished();
 }
 
 void HistoryWidget::onUploadFinished(const QString &fileId, const QString &fileUrl)

@@ -8,13 +8,24 @@ namespace velmora
 
 VideoProber::VideoProber(QObject *parent) : QObject(parent) {}
 
+VideoProber::~VideoProber()
+{
+    ++m_look;
+}
+
 void VideoProber::look(const QStringList &fileNames)
 {
-    m_thread.add([this, fileNames]() -> TaskThread::Report {
+    m_thread.add([this, look = ++m_look, fileNames]() -> TaskThread::Report {
         QHash<QString, VideoFacts> all;
-        for (const QString &fileName : fileNames)
+        for (const QString &fileName : fileNames) {
+            if (m_look != look)
+                break;
             all.insert(fileName, VideoFacts::look(fileName));
-        return [this, all] { emit looked(all); };
+        }
+        return [this, look, all] {
+            if (m_look == look)
+                emit looked(all);
+        };
     });
 }
 

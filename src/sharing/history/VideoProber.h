@@ -9,6 +9,8 @@
 #include <QSet>
 #include <QStringList>
 
+#include <atomic>
+
 namespace velmora
 {
 
@@ -19,8 +21,11 @@ class VideoProber : public QObject
     Q_OBJECT
 public:
     explicit VideoProber(QObject *parent = nullptr);
+    /// Gives up a look in work and waits for the file that it is at.
+    ~VideoProber() override;
 
-    /// Looks for all files; looked() follows.
+    /// Looks for all files; looked() follows. Earlier looks that have not been reported are given
+    /// up.
     void look(const QStringList &fileNames);
     /// Reads a video's duration; probed() follows, unless that was asked for before.
     void probe(const QString &fileName);
@@ -43,7 +48,8 @@ private:
 
     QHash<QString, Probe> m_probes;
     QSet<QString> m_asked;
-    TaskThread m_thread; ///< One disk, one reader.
+    std::atomic_int m_look{0}; ///< The number of the latest look; another one ends it.
+    TaskThread m_thread;       ///< One disk, one reader. The last member: it uses the number.
 };
 
 } // namespace velmora

@@ -82,8 +82,10 @@ void BaseOauth2Uploader::authorize()
 
 void BaseOauth2Uploader::openSignInPage(const QUrl &address)
 {
-    if (!QDesktopServices::openUrl(address))
-        qCWarning(lcSharing) << "There is no browser to show the sign-in page";
+    if (QDesktopServices::openUrl(address))
+        emit browserOpened();
+    else
+        fail(tr("There is no program to show the sign-in page."));
 }
 
 void BaseOauth2Uploader::acceptCode(const QString &code)
@@ -95,8 +97,10 @@ void BaseOauth2Uploader::acceptCode(const QString &code)
 void BaseOauth2Uploader::onGranted(const QString &accessToken, const QString &refreshToken)
 {
     endSignIn();
-    if (!m_ended)
-        onToken(accessToken, refreshToken);
+    if (m_ended)
+        return;
+    emit signInEnded();
+    onToken(accessToken, refreshToken);
 }
 
 void BaseOauth2Uploader::refresh(const QString &refreshToken)

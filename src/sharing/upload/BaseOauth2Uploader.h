@@ -41,7 +41,7 @@ protected:
     virtual std::unique_ptr<LoopbackReplyHandler> createReplyHandler();
     /// The address of the sign-in page before the flow adds to it.
     virtual QUrl authorizationUrl(const LoopbackReplyHandler &handler) const;
-    /// Shows the sign-in page; here, in the system's browser.
+    /// Shows the sign-in page, or fails; here, in the system's browser.
     virtual void openSignInPage(const QUrl &address);
     /// The sign-in has ended in some way, and what shows its page has no use any more.
     virtual void closeSignInPage() {}

@@ -19,8 +19,12 @@ signals:
     void progress(int percent); ///< 0 to 100.
     /// The service's identifier of the file, and the address of the page that shows it.
     void finished(QString fileId, QString fileUrl);
-    void started();       ///< The first bytes are sent; once.
-    void signInStarted(); ///< The user is asked to sign in; at most once, before started().
+    void started(); ///< The first bytes are sent; once.
+    /// The user is asked to sign in: before started(), or again when the service has come to refuse
+    /// what it took before.
+    void signInStarted();
+    void browserOpened(); ///< The page for that is shown in the system's browser.
+    void signInEnded();   ///< The user has signed in, and the upload goes on.
 
 public slots:
     virtual void startUpload(QString fileName, QString title) = 0;

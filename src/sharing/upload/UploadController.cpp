@@ -74,6 +74,8 @@ void UploadController::upload(const QString &serviceKey, const QString &videoFil
 void UploadController::connectUploader()
 {
     connect(m_uploader, &BaseUploader::signInStarted, this, &UploadController::signInStarted);
+    connect(m_uploader, &BaseUploader::browserOpened, this, &UploadController::browserOpened);
+    connect(m_uploader, &BaseUploader::signInEnded, this, &UploadController::signInEnded);
     connect(m_uploader, &BaseUploader::started, this, &UploadController::started);
     connect(m_uploader, &BaseUploader::progress, this, &UploadController::progress);
     connect(m_uploader, &BaseUploader::finished, this,

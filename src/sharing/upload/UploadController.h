@@ -47,8 +47,11 @@ public:
     void cancel();
 
 signals:
-    void signInStarted(); ///< The user is being asked to sign in; at most once, before started().
-    void started();       ///< The first bytes are on their way; once.
+    /// The user is being asked to sign in, before started() or in the middle of the upload.
+    void signInStarted();
+    void browserOpened();       ///< The page for that is shown in the system's browser.
+    void signInEnded();         ///< The user has signed in, and the upload goes on.
+    void started();             ///< The first bytes are on their way; once.
     void progress(int percent); ///< 0 to 100.
     void finished(const QString &fileId, const QString &fileUrl);
     void failed(const QString &error); ///< A text for the user; not after cancel().

@@ -181,6 +181,7 @@ void MainView::offerNextSteps(const QString &video, const ProjectFile *entry)
     const QString diskTitle = entry ? starterText(*entry) : QString();
     auto *window = new FinalWindow(video, m_parts.fileManager, this);
     window->setAttribute(Qt::WA_DeleteOnClose);
+    connect(m_history, &HistoryWidget::uploadProgressFinished, window, &FinalWindow::allowUploads);
     if (m_history->isUploading())
         window->refuseUploads(tr("Another video is being uploaded."));
     connect(window, &FinalWindow::uploadService, this, [this, video, title](const QString &key) {

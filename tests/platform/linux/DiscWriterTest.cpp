@@ -105,7 +105,9 @@ private slots:
             last = current;
             ++steps;
         };
+        LogCapture log;
         QVERIFY(burn(drive(image()), video, name));
+        QVERIFY(log.lines().contains(QStringLiteral("Burn writing")));
         QCOMPARE(extract(name), readFile(video));
         QVERIFY(size < kMegabyte || steps > 0);
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "helpers/DeadLock.h"
 #include "helpers/Files.h"
 #include "helpers/LogCapture.h"
 #include "helpers/Words.h"
@@ -45,7 +46,7 @@ const char kImport[] = "MsftDiscFormat2Data get_MultisessionInterfaces\n"
                        "MsftFileSystemImage put_MultisessionInterfaces IMultisession\n"
                        "MsftFileSystemImage ImportFileSystem\n";
 const char kFile[] = "MsftFileSystemImage put_VolumeName Sommer 2026\n"
-                     "SHCreateStreamOnFileEx holiday.mp4 04000040\n"
+                     "SHCreateStreamOnFileEx video.mp4 04000040\n"
                      "MsftFileSystemImage Exists \\film.mp4\n"
                      "IFsiDirectoryItem AddFile film.mp4, video\n";
 const char kWrite[] = "MsftFileSystemImage CreateResultImage\n"
@@ -126,7 +127,8 @@ private slots:
         if (finalize)
             calls.replaceInStrings(QStringLiteral("Closed 0"), QStringLiteral("Closed -1"));
         QCOMPARE(m_disc->calls, calls);
-        QCOMPARE(log.lines(), QStringList{QStringLiteral("Current media status: '2'.")});
+        QCOMPARE(log.lines(), (QStringList{QStringLiteral("Current media status: '2'."),
+                                           QStringLiteral("Burn writing")}));
         QCOMPARE(*m_progress, words(erase ? "1/4 4/4 1/4 4/4" : "1/4 4/4"));
         QCOMPARE(m_disc->streamContent, QByteArray("a video"));
     }
@@ -157,7 +159,7 @@ private slots:
              "'put_MultisessionInterfaces'"},
             {"MsftFileSystemImage ImportFileSystem", "'ImportFileSystem'"},
             {"MsftFileSystemImage put_VolumeName Sommer 2026", "'put_VolumeName'"},
-            {"SHCreateStreamOnFileEx holiday.mp4 04000040", "'SHCreateStreamOnFileEx'"},
+            {"SHCreateStreamOnFileEx video.mp4 04000040", "'SHCreateStreamOnFileEx'"},
             {"IFsiDirectoryItem AddFile film.mp4, video", "AddFile"},
             {"MsftFileSystemImage CreateResultImage", "'CreateResultImage'"},
             {"IFileSystemImageResult get_ImageStream", "'get_ImageStream'"},
@@ -272,26 +274,31 @@ private slots:
     {
         m_disc->blank = false;
         m_disc->files = QStringList{QStringLiteral("film.mp4"), QStringLiteral("film (2).mp4")};
-        m_title = QStringLiteral("Sommer 2026 am Meer");
+        m_title = QStringLiteral("Sommer 2026 am") + QString::fromUcs4(U"\U0001F600");
         QVERIFY(burn());
         const QString calls = m_disc->calls.join(QLatin1Char('\n'));
         QVERIFY(calls.contains(QStringLiteral("IFsiDirectoryItem AddFile film (3).mp4, video\n")));
         QVERIFY(
-            calls.contains(QStringLiteral("MsftFileSystemImage put_VolumeName Sommer 2026 am \n")));
+            calls.contains(QStringLiteral("MsftFileSystemImage put_VolumeName Sommer 2026 am\n")));
     }
 
     void videoSurvives_data()
     {
         QTest::addColumn<bool>("readOnly");
         QTest::addColumn<int>("names");
-        QTest::newRow("linked") << false << 2;
-        QTest::newRow("read-only, copied") << true << 1;
+        QTest::addColumn<QString>("file");
+        QTest::newRow("linked") << false << 2 << "holiday.mp4";
+        QTest::newRow("read-only, copied") << true << 1 << "holiday.mp4";
+        QTest::newRow("long name") << false << 2 << QString(230, QLatin1Char('x'));
     }
 
     void videoSurvives()
     {
         QFETCH(bool, readOnly);
         QFETCH(int, names);
+        QFETCH(QString, file);
+        m_video = m_folder->filePath(file);
+        QVERIFY(writeFile(m_video, "a video"));
         if (readOnly)
             QVERIFY(QFile::setPermissions(m_video, QFile::ReadOwner));
         QVERIFY(burn());
@@ -301,6 +308,7 @@ private slots:
         // The system's own stream, whether or not it deletes.
         DeletableLink link;
         QVERIFY(link.create(m_video));
+        QVERIFY(link.path().size() < MAX_PATH);
         ComPtr<IStream> stream;
         const auto *path = reinterpret_cast<const wchar_t *>(link.path().utf16());
         QVERIFY(
@@ -308,6 +316,20 @@ private slots:
         char content[7] = {};
         QVERIFY(SUCCEEDED(stream->Read(content, sizeof(content), nullptr)));
         QCOMPARE(QByteArray(content, sizeof(content)), QByteArray("a video"));
+    }
+
+    void leftoversAreSwept()
+    {
+        DeletableLink live;
+        QVERIFY(live.create(m_video));
+        const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+        const QString dead = cache + QStringLiteral("/burn-dead01");
+        QVERIFY(QDir().mkpath(dead));
+        QVERIFY(writeFile(dead + QStringLiteral("/video.mp4"), "a video"));
+        QVERIFY(writeFile(dead + QLatin1Char('/') + DeletableLink::kLockFile, deadLock()));
+        removeBurnLeftovers();
+        QVERIFY(!QFileInfo::exists(dead));
+        QVERIFY(QFileInfo::exists(live.path()));
     }
 
     void missingVideo()

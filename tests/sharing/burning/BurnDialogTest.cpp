@@ -125,7 +125,7 @@ private slots:
         QTest::newRow("none") << QString() << usual;
         QTest::newRow("blanks") << QStringLiteral(" \n ") << usual;
         QTest::newRow("lines") << QStringLiteral("Two\nlines") << "Two lines";
-        QTest::newRow("long") << QString(60, QLatin1Char('x')) << QString(32, QLatin1Char('x'));
+        QTest::newRow("long") << QString(60, QLatin1Char('x')) << QString(15, QLatin1Char('x'));
     }
 
     void fieldsStart()
@@ -133,6 +133,11 @@ private slots:
         QFETCH(QString, given);
         open(given);
         QTEST(find<QLineEdit>("leDiskTitle")->text(), "shown");
+        // Nor can more be typed, or half a character.
+        auto *title = find<QLineEdit>("leDiskTitle");
+        title->selectAll();
+        title->insert(QString(14, QLatin1Char('y')) + QString::fromUcs4(U"\U0001F600"));
+        QCOMPARE(title->text(), QString(14, QLatin1Char('y')));
         QCOMPARE(find<QLineEdit>("leFileName")->text(), QStringLiteral("Summer.mp4"));
         QVERIFY(!find<QCheckBox>("cbFinalizeDisk")->isChecked());
     }
@@ -266,9 +271,8 @@ private slots:
         QCOMPARE(page(), QStringLiteral("pgResult"));
         QCOMPARE(find<QLabel>("lbResult")->text(), QStringLiteral("Succeeded"));
         const QStringList lines = log.lines();
-        for (const char *line :
-             {"Burn started", "Burn begin thread", "Burn creating FS", "Burn writing",
-              "Burn write progress 42 from 100", "Burn writing finished"})
+        for (const char *line : {"Burn started", "Burn begin thread", "Burn creating FS",
+                                 "Burn write progress 42 from 100", "Burn writing finished"})
             QVERIFY2(lines.contains(QLatin1String(line)), line);
         click("btnClose");
         QVERIFY(m_dialog->isHidden());

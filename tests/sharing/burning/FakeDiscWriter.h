@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/DiscWriter.h"
+#include "platform/Shortened.h"
 
 #include <QSemaphore>
 #include <QStringList>
@@ -57,6 +58,10 @@ public:
     ~FakeDiscWriter() override { m_state.gone.release(); }
 
     QString hindrance() const override { return m_state.hindrance; }
+    QString fittingTitle(const QString &title) const override
+    {
+        return shortened(title, 15, [](const QString &text) { return text.size(); });
+    }
     QVector<DiscRecorder> recorders() override
     {
         m_state.asked.release();

@@ -48,12 +48,16 @@ private slots:
 
     void uploadsAreRefused()
     {
+        const QString usual = button("btnUploadYoutube")->toolTip();
         m_window->refuseUploads(QStringLiteral("Not now."));
         for (const char *name : {"btnUploadYoutube", "btnUploadGoogleDrive", "btnUploadDropBox"}) {
             QVERIFY2(!button(name)->isEnabled(), name);
             QCOMPARE(button(name)->toolTip(), QStringLiteral("Not now."));
         }
         QVERIFY(button("btnBurnDvd")->isEnabled());
+        m_window->allowUploads();
+        QVERIFY(button("btnUploadYoutube")->isEnabled());
+        QCOMPARE(button("btnUploadYoutube")->toolTip(), usual);
     }
 
     void folderIsOpened()

@@ -4,6 +4,7 @@
 #include "helpers/Words.h"
 #include "project/documents/Timeline.h"
 #include "sharing/history/HistoryFixture.h"
+#include "sharing/history/VideoProber.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -68,6 +69,18 @@ private slots:
         m_model->reload();
         QTRY_VERIFY(!changed.isEmpty());
         QVERIFY(!entryOf("first.mp4").facts.exists);
+    }
+
+    void laterLookReplacesTheFirst()
+    {
+        VideoProber prober;
+        QStringList seen;
+        connect(&prober, &VideoProber::looked, this,
+                [&seen](const QHash<QString, VideoFacts> &facts) { seen += facts.keys(); });
+        prober.look({QStringLiteral("first")});
+        prober.look({QStringLiteral("second")});
+        QTRY_VERIFY(seen.contains(QStringLiteral("second")));
+        QCOMPARE(seen, QStringList{QStringLiteral("second")});
     }
 
     void durationComesFromTheVideo()

@@ -233,14 +233,37 @@ private slots:
         emit m_uploads->signInStarted();
         QCOMPARE(page(), QStringLiteral("Oauth2Waiting"));
         QCOMPARE(shown("lblWaitingTitle"), QStringLiteral("Connect to DropBox"));
+        QVERIFY(!find<QLabel>("lblWaitingInfo")->isVisible());
+        emit m_uploads->browserOpened();
+        QVERIFY(find<QLabel>("lblWaitingInfo")->isVisible());
+        emit m_uploads->signInEnded();
+        QCOMPARE(page(), QStringLiteral("pgUpload"));
         emit m_uploads->started();
         QCOMPARE(page(), QStringLiteral("pgUpload"));
         QCOMPARE(shown("labelUploadTime"), QStringLiteral("Elapsed: 00:00:00"));
         emit m_uploads->progress(37);
         QCOMPARE(find<QProgressBar>("progressBar")->value(), 37);
+        emit m_uploads->signInStarted(); // The service has come to refuse the token.
+        QCOMPARE(page(), QStringLiteral("Oauth2Waiting"));
+        emit m_uploads->signInEnded();
+        QCOMPARE(page(), QStringLiteral("pgUpload"));
         click("btnCancel");
         QTRY_COMPARE(page(), QStringLiteral("pgHistory"));
         QVERIFY(!QApplication::activeModalWidget());
+    }
+
+    /// Nothing is configured, so not a byte is sent.
+    void progressEndsWithoutBeginning()
+    {
+        QVERIFY(m_widget->select(path("new.mp4")));
+        QSignalSpy ended(m_widget.get(), &HistoryWidget::uploadProgressFinished);
+        QSignalSpy failed(m_widget.get(), &HistoryWidget::uploadFailed);
+        DialogDriver driver;
+        driver.press(QStringLiteral("CLOSE"));
+        m_widget->onStartUpload(QStringLiteral("dropbox"));
+        QTRY_COMPARE(failed.size(), 1);
+        QCOMPARE(ended.size(), 1);
+        QTRY_VERIFY(!driver.title().isEmpty());
     }
 
     void manyEntries()
@@ -256,6 +279,34 @@ private slots:
         list->verticalScrollBar()->setValue(list->verticalScrollBar()->maximum());
         QTRY_VERIFY(row("old.mp4"));
         QTRY_VERIFY(widgets() < 40);
+    }
+
+    /// Those in sight when it forgets the many that it has asked for.
+    void picturesComeAfterMany()
+    {
+        m_history->store.clear();
+        QImage photo(8, 8, QImage::Format_RGB32);
+        photo.fill(Qt::red);
+        for (int i = 0; i < 203; ++i) {
+            auto project = m_history->make(qPrintable(QStringLiteral("video%1.mp4").arg(i)));
+            const QString file = path(qPrintable(QStringLiteral("photo%1.bmp").arg(i)));
+            QVERIFY(photo.save(file));
+            project->insertItem(-1, new ProjectItemSimple(file, 1, 3));
+            m_history->store.add(std::move(project));
+        }
+        show();
+        auto *list = find<HistoryListView>("listHistory");
+        auto *bar = list->verticalScrollBar();
+        while (bar->value() < bar->maximum())
+            bar->setValue(bar->value() + bar->singleStep());
+        const auto allRed = [list] {
+            const auto rows = list->findChildren<QLabel *>(QStringLiteral("lblPicture"));
+            return std::all_of(rows.begin(), rows.end(), [](const QLabel *row) {
+                const QImage shown = row->pixmap(Qt::ReturnByValue).toImage();
+                return QColor(shown.pixel(shown.rect().center())) == Qt::red;
+            });
+        };
+        QTRY_VERIFY(allRed());
     }
 
 private:

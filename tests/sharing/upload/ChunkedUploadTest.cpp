@@ -196,6 +196,7 @@ private slots:
         const UploadCourse course = user.run(kService, user.video(kLarge));
         QCOMPARE(user.trouble(), QString());
         QCOMPARE(course.signIns, refreshes ? 0 : 1);
+        QCOMPARE(course.signInEnds, course.signIns);
         QCOMPARE(course.starts, 1);
         QCOMPARE(lengths(QStringLiteral("start")).size(), step == QLatin1String("start") ? 2 : 1);
         QVERIFY(user.hasArrived());

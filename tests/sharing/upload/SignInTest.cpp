@@ -3,6 +3,7 @@
 #include "helpers/Words.h"
 #include "sharing/upload/UploadFixture.h"
 
+#include <QDesktopServices>
 #include <QTcpServer>
 #include <QTest>
 
@@ -126,6 +127,7 @@ private slots:
             {"server error", R"({"status": 503})", invalid, ""},
             {"redirect", R"({"status": 302, "headers": {"Location": "/"}})", invalid, ""},
             {"revoked", R"({"status": 400, "body": {"error": "invalid_grant"}})", missing, ""},
+            {"empty object", R"({"status": 200, "body": {}})", missing, ""},
             {"number", R"({"status": 200, "body": {"access_token": 5}})", missing, ""},
             {"lost", R"({"drop": 0})", none, "The service cannot be reached."},
             {"silent", R"({"hang": true})", none, "The service does not answer."}};
@@ -184,6 +186,20 @@ private slots:
             QCOMPARE(course.failed, QStringList{QStringLiteral("Authorization error")});
         }
         QVERIFY(m_browser.visited.isEmpty()); // Nobody signs in to somebody else's port.
+    }
+
+    void noBrowserEndsTheSignIn()
+    {
+        // Without such a slot the address is opened by nothing.
+        QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "none");
+        for (const QString &service : kServices) {
+            UploadFixture user(m_services);
+            const UploadCourse course = user.run(service, user.video(10));
+            QCOMPARE(course.failed,
+                     QStringList{QStringLiteral("There is no program to show the sign-in page.")});
+            QCOMPARE(course.ends(), 1);
+        }
+        QDesktopServices::setUrlHandler(QStringLiteral("https"), &m_browser, "open");
     }
 
 private:

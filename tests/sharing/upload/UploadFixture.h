@@ -40,6 +40,7 @@ inline WebLoginDialog *shownSignIn()
 /// How an upload went, as the controller's signals told.
 struct UploadCourse {
     int signIns = 0;
+    int signInEnds = 0;
     int starts = 0;
     QVector<int> progress;
     QStringList finished; ///< Identifier and address.
@@ -158,6 +159,7 @@ private:
             QObject::connect(controller, signal, controller, act);
         };
         on(&UploadController::signInStarted, [this] { ++course.signIns; });
+        on(&UploadController::signInEnded, [this] { ++course.signInEnds; });
         on(&UploadController::started, [this] { ++course.starts; });
         on(&UploadController::progress, [this](int percent) { course.progress.append(percent); });
         on(&UploadController::finished,

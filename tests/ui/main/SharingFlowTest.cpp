@@ -257,6 +257,24 @@ private slots:
         QVERIFY2(sent.startsWith(QLatin1String("made")), qPrintable(sent));
     }
 
+    void refusedUploadsComeBack()
+    {
+        addFinishedVideo();
+        m_browser.stops = true;
+        chooseService(QStringLiteral("googledrive"));
+        QTRY_COMPARE(page(), QStringLiteral("Oauth2Waiting"));
+        QVector<bool> enabled;
+        m->dialogs.expect([&](QDialog *dialog) {
+            const auto *button = find<QPushButton>(dialog, "btnUploadYoutube");
+            enabled.append(button->isEnabled());
+            m->uploads->cancel();
+            enabled.append(button->isEnabled());
+            dialog->reject();
+        });
+        m->view->onFinished(m_video);
+        QTRY_COMPARE(enabled, (QVector<bool>{false, true}));
+    }
+
     void newVersionIsTold()
     {
         m->services = m_services.config();

@@ -28,6 +28,13 @@ TokenAnswer refused(const QString &what, const QByteArray &detail)
     return refused(what + plainMessage(QString::fromUtf8(detail)));
 }
 
+TokenAnswer notEmpty(const TokenAnswer &answer, const QByteArray &body)
+{
+    return answer.problem.isEmpty() && answer.values.isEmpty()
+               ? refused(QStringLiteral("Received empty JSON object: "), body)
+               : answer;
+}
+
 QString formDecoded(QString text)
 {
     text.replace(QLatin1Char('+'), QLatin1Char(' '));
@@ -64,7 +71,7 @@ TokenAnswer TokenAnswer::parse(const QByteArray &contentType, const QByteArray &
     if (body.isEmpty())
         return refused(QStringLiteral("No received data"));
     if (type == "application/json" || type == "text/javascript")
-        return fromJson(body);
+        return notEmpty(fromJson(body), body);
     if (type == "text/html" || type == "application/x-www-form-urlencoded")
         return fromForm(body);
     return refused(QStringLiteral("Unknown Content-type: "), type);
@@ -75,8 +82,6 @@ TokenAnswer TokenAnswer::fromJson(const QByteArray &body)
     const QJsonDocument document = QJsonDocument::fromJson(body);
     if (!document.isObject())
         return refused(QStringLiteral("Received data is not a JSON object: "), body);
-    if (document.object().isEmpty())
-        return refused(QStringLiteral("Received empty JSON object: "), body);
     TokenAnswer answer;
     answer.values = document.object().toVariantMap();
     return answer;

@@ -15,7 +15,7 @@ struct TokenAnswer {
 
     /// JSON or form data, as @p contentType says.
     static TokenAnswer parse(const QByteArray &contentType, const QByteArray &body);
-    /// The answer to a refresh, whose content type does not matter.
+    /// The answer to a refresh, whose content type does not matter; an empty object is no problem.
     static TokenAnswer fromJson(const QByteArray &body);
 
     /// Empty when there is none, or none that can be sent in a header.
