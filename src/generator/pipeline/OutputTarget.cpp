@@ -3,6 +3,7 @@
 
 #include "app/Paths.h"
 #include "generator/GeneratorLog.h"
+#include "generator/media/DiskSpace.h"
 #include "platform/FileNames.h"
 
 #include <QCoreApplication>
@@ -12,7 +13,6 @@
 #include <QFileInfo>
 #include <QRandomGenerator>
 #include <QRegularExpression>
-#include <QStorageInfo>
 
 #include <filesystem>
 #include <system_error>
@@ -23,9 +23,11 @@ namespace velmora
 namespace
 {
 
-constexpr int kLongestName = 255;     // bytes, on all common file systems
-constexpr int kTemporaryReserve = 48; // bytes of the temporary name beyond the video's name
+// In the units of FileNames::length().
+constexpr int kLongestName = 255;     // on all common file systems
+constexpr int kTemporaryReserve = 48; // of the temporary name beyond the video's name
 constexpr int kRandomLetters = 6;
+constexpr int kHashLetters = 8;
 constexpr int kLockPatience = 200;    // ms; another start may just be looking at the lock
 constexpr int kTrialSize = 64 * 1024; // bytes
 constexpr int kShownName = 60;        // characters of a long name in messages
@@ -50,17 +52,24 @@ QString randomLetters()
     return text;
 }
 
-/// The longest beginning of @p name that has at most @p bytes bytes in the file system.
-QString shortened(QString name, int bytes)
+/// The longest beginning of @p name that the file system takes for at most @p length long.
+QString shortened(QString name, int length)
 {
-    while (QFile::encodeName(name).size() > bytes)
+    while (FileNames::length(name) > length)
         name.chop(name.size() > 1 && name.at(name.size() - 1).isLowSurrogate() ? 2 : 1);
     return name;
 }
 
+/// The same for all spellings of a path that name one file.
+QByteArray hashOf(const QString &path)
+{
+    return QCryptographicHash::hash(FileNames::identity(path).toUtf8(), QCryptographicHash::Sha1)
+        .toHex();
+}
+
 std::filesystem::path filePath(const QString &name)
 {
-    return std::filesystem::u8path(name.toStdString());
+    return std::filesystem::u8path(FileNames::inFiles(name).toStdString());
 }
 
 } // namespace
@@ -162,21 +171,21 @@ void OutputTarget::chooseName(const QString &fileName, const QString &format)
         info.setFile(m_fileName);
     }
     m_folder = info.absolutePath();
-    m_temporaryStem = QLatin1Char('.') +
-                      shortened(info.completeBaseName(), kLongestName - kTemporaryReserve) +
-                      QStringLiteral(".part-");
+    const QString name = info.completeBaseName();
+    QString stem = shortened(name, kLongestName - kTemporaryReserve);
+    if (stem != name) // Videos of a long name may differ in its end only.
+        stem += QLatin1Char('~') + QString::fromLatin1(hashOf(name).left(kHashLetters));
+    m_temporaryStem = QLatin1Char('.') + stem + QStringLiteral(".part-");
 }
 
 RenderError OutputTarget::checkName() const
 {
     const QFileInfo info(m_fileName);
     const QFileInfo folder(m_folder);
-    if (QFile::encodeName(info.fileName()).size() > kLongestName)
+    if (FileNames::length(info.fileName()) > kLongestName)
         return outputError(
-            Texts::tr("The video's name \"%1...\" is too long: a file name may have no more "
-                      "than %2 bytes.")
-                .arg(info.fileName().left(kShownName))
-                .arg(kLongestName));
+            Texts::tr("The video's name \"%1...\" is too long. Please choose a shorter one.")
+                .arg(info.fileName().left(kShownName)));
     if (!folder.exists())
         return outputError(
             Texts::tr("The folder \"%1\" for the video does not exist.").arg(m_folder));
@@ -196,10 +205,7 @@ RenderError OutputTarget::tryWriting() const
     const bool opened = trial.open(QIODevice::WriteOnly);
     const bool written =
         opened && trial.write(QByteArray(kTrialSize, '\0')) == kTrialSize && trial.flush();
-    // Discs and the like have no room either, but that is not what keeps them from being written.
-    const QStorageInfo storage(m_folder);
-    const bool noSpace = trial.error() == QFileDevice::ResourceError ||
-                         (!storage.isReadOnly() && storage.bytesAvailable() < kTrialSize);
+    const bool noSpace = !written && failedForSpace(trial, kTrialSize);
     const QString reason = trial.errorString();
     if (opened)
         trial.remove();
@@ -217,12 +223,9 @@ RenderError OutputTarget::lock(const QString &lockFolder)
 {
     const QString canonical = QFileInfo(m_folder).canonicalFilePath() + QLatin1Char('/') +
                               QFileInfo(m_fileName).fileName();
-    const QByteArray hash =
-        QCryptographicHash::hash(FileNames::identity(canonical).toUtf8(), QCryptographicHash::Sha1)
-            .toHex();
     Paths::ensureFolder(lockFolder);
     m_lock = std::make_unique<QLockFile>(
-        QStringLiteral("%1/%2.lock").arg(lockFolder, QString::fromLatin1(hash)));
+        QStringLiteral("%1/%2.lock").arg(lockFolder, QString::fromLatin1(hashOf(canonical))));
     m_lock->setStaleLockTime(0); // a render may take hours; only a dead owner makes a lock stale
     if (m_lock->tryLock(kLockPatience))
         return {};
@@ -238,9 +241,8 @@ RenderError OutputTarget::lock(const QString &lockFolder)
 void OutputTarget::removeStrays() const
 {
     const QRegularExpression own(QStringLiteral("^%1[a-z0-9]{%2}(\\.part)?\\.%3$")
-                                     .arg(QRegularExpression::escape(m_temporaryStem))
-                                     .arg(kRandomLetters)
-                                     .arg(m_extension));
+                                     .arg(QRegularExpression::escape(m_temporaryStem),
+                                          QString::number(kRandomLetters), m_extension));
     QDir folder(m_folder);
     const QStringList names = folder.entryList(QDir::Files | QDir::Hidden);
     for (const QString &name : names) {
