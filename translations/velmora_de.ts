@@ -2079,6 +2079,10 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <source>%n more file(s) cannot be used.</source>
         <translation><numerusform>%n weitere Datei ist nicht verwendbar.</numerusform><numerusform>%n weitere Dateien sind nicht verwendbar.</numerusform></translation>
     </message>
+    <message>
+        <source>The video would replace "%1", of which it is made. Please choose another name.</source>
+        <translation>Das Video würde „%1“ ersetzen, woraus es gemacht wird. Bitte wählen Sie einen anderen Namen.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::InputFiles</name>
@@ -2401,8 +2405,8 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <translation>Das Video wurde als „%1“ behalten.</translation>
     </message>
     <message>
-        <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
-        <translation>Der Name des Videos „%1...“ ist zu lang: Ein Dateiname darf höchstens %2 Bytes haben.</translation>
+        <source>The video's name "%1..." is too long. Please choose a shorter one.</source>
+        <translation>Der Name des Videos „%1...“ ist zu lang. Bitte wählen Sie einen kürzeren.</translation>
     </message>
     <message>
         <source>The folder "%1" for the video does not exist.</source>

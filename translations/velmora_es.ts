@@ -2079,6 +2079,10 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <source>%n more file(s) cannot be used.</source>
         <translation><numerusform>%n archivo más no se puede usar.</numerusform><numerusform>%n archivos más no se pueden usar.</numerusform></translation>
     </message>
+    <message>
+        <source>The video would replace "%1", of which it is made. Please choose another name.</source>
+        <translation>El vídeo sustituiría a «%1», del que está hecho. Elija otro nombre.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::InputFiles</name>
@@ -2401,8 +2405,8 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <translation>El vídeo se ha guardado como «%1».</translation>
     </message>
     <message>
-        <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
-        <translation>El nombre del vídeo «%1...» es demasiado largo: puede tener como máximo %2 bytes.</translation>
+        <source>The video's name "%1..." is too long. Please choose a shorter one.</source>
+        <translation>El nombre del vídeo «%1...» es demasiado largo. Elija uno más corto.</translation>
     </message>
     <message>
         <source>The folder "%1" for the video does not exist.</source>

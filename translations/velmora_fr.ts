@@ -2079,6 +2079,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>%n more file(s) cannot be used.</source>
         <translation><numerusform>%n autre fichier ne peut pas être utilisé.</numerusform><numerusform>%n autres fichiers ne peuvent pas être utilisés.</numerusform></translation>
     </message>
+    <message>
+        <source>The video would replace "%1", of which it is made. Please choose another name.</source>
+        <translation>La vidéo remplacerait « %1 », dont elle est faite. Veuillez choisir un autre nom.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::InputFiles</name>
@@ -2401,8 +2405,8 @@ Press "Cancel" to cancel the operation.</source>
         <translation>La vidéo a été conservée sous « %1 ».</translation>
     </message>
     <message>
-        <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
-        <translation>Le nom de la vidéo « %1... » est trop long : un nom de fichier a au plus %2 octets.</translation>
+        <source>The video's name "%1..." is too long. Please choose a shorter one.</source>
+        <translation>Le nom de la vidéo « %1... » est trop long. Veuillez en choisir un plus court.</translation>
     </message>
     <message>
         <source>The folder "%1" for the video does not exist.</source>

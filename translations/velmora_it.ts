@@ -2079,6 +2079,10 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <source>%n more file(s) cannot be used.</source>
         <translation><numerusform>Un altro file (%n) non può essere usato.</numerusform><numerusform>Altri %n file non possono essere usati.</numerusform></translation>
     </message>
+    <message>
+        <source>The video would replace "%1", of which it is made. Please choose another name.</source>
+        <translation>Il video sostituirebbe "%1", di cui è fatto. Scegliere un altro nome.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::InputFiles</name>
@@ -2401,8 +2405,8 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <translation>Il video è stato conservato come "%1".</translation>
     </message>
     <message>
-        <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
-        <translation>Il nome del video "%1..." è troppo lungo: può avere al massimo %2 byte.</translation>
+        <source>The video's name "%1..." is too long. Please choose a shorter one.</source>
+        <translation>Il nome del video "%1..." è troppo lungo. Sceglierne uno più corto.</translation>
     </message>
     <message>
         <source>The folder "%1" for the video does not exist.</source>

@@ -2079,6 +2079,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>%n more file(s) cannot be used.</source>
         <translation><numerusform>ほかに %n 個のファイルを使用できません。</numerusform></translation>
     </message>
+    <message>
+        <source>The video would replace "%1", of which it is made. Please choose another name.</source>
+        <translation>動画の素材である「%1」が動画で置き換えられてしまいます。別の名前を選んでください。</translation>
+    </message>
 </context>
 <context>
     <name>velmora::InputFiles</name>
@@ -2401,8 +2405,8 @@ Press "Cancel" to cancel the operation.</source>
         <translation>動画は「%1」として残してあります。</translation>
     </message>
     <message>
-        <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
-        <translation>動画の名前「%1...」は長すぎます: ファイル名は %2 バイト以内です。</translation>
+        <source>The video's name "%1..." is too long. Please choose a shorter one.</source>
+        <translation>動画の名前「%1...」は長すぎます。もっと短い名前を選んでください。</translation>
     </message>
     <message>
         <source>The folder "%1" for the video does not exist.</source>

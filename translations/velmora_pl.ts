@@ -2079,6 +2079,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>%n more file(s) cannot be used.</source>
         <translation><numerusform>Nie można użyć jeszcze %n pliku.</numerusform><numerusform>Nie można użyć jeszcze %n plików.</numerusform><numerusform>Nie można użyć jeszcze %n plików.</numerusform></translation>
     </message>
+    <message>
+        <source>The video would replace "%1", of which it is made. Please choose another name.</source>
+        <translation>Film zastąpiłby plik „%1”, z którego powstaje. Wybierz inną nazwę.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::InputFiles</name>
@@ -2401,8 +2405,8 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Film zachowano jako „%1”.</translation>
     </message>
     <message>
-        <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
-        <translation>Nazwa filmu „%1...” jest za długa: może mieć najwyżej %2 bajtów.</translation>
+        <source>The video's name "%1..." is too long. Please choose a shorter one.</source>
+        <translation>Nazwa filmu „%1...” jest za długa. Wybierz krótszą.</translation>
     </message>
     <message>
         <source>The folder "%1" for the video does not exist.</source>

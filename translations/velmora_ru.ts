@@ -2079,6 +2079,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>%n more file(s) cannot be used.</source>
         <translation><numerusform>Ещё %n файл непригоден.</numerusform><numerusform>Ещё %n файла непригодны.</numerusform><numerusform>Ещё %n файлов непригодны.</numerusform></translation>
     </message>
+    <message>
+        <source>The video would replace "%1", of which it is made. Please choose another name.</source>
+        <translation>Видео заменило бы файл «%1», из которого оно создаётся. Выберите другое имя.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::InputFiles</name>
@@ -2401,8 +2405,8 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Видео сохранено как «%1».</translation>
     </message>
     <message>
-        <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
-        <translation>Имя видео «%1...» слишком длинное: в имени файла не больше %2 байт.</translation>
+        <source>The video's name "%1..." is too long. Please choose a shorter one.</source>
+        <translation>Имя видео «%1...» слишком длинное. Выберите более короткое.</translation>
     </message>
     <message>
         <source>The folder "%1" for the video does not exist.</source>

@@ -2079,6 +2079,10 @@ Press "Cancel" to cancel the operation.</source>
         <source>%n more file(s) cannot be used.</source>
         <translation><numerusform>另有 %n 个文件无法使用。</numerusform></translation>
     </message>
+    <message>
+        <source>The video would replace "%1", of which it is made. Please choose another name.</source>
+        <translation>视频会替换“%1”，而该文件是视频的素材。请选择其他名称。</translation>
+    </message>
 </context>
 <context>
     <name>velmora::InputFiles</name>
@@ -2401,8 +2405,8 @@ Press "Cancel" to cancel the operation.</source>
         <translation>视频已保留为“%1”。</translation>
     </message>
     <message>
-        <source>The video's name "%1..." is too long: a file name may have no more than %2 bytes.</source>
-        <translation>视频名称“%1...”太长: 文件名最多 %2 个字节。</translation>
+        <source>The video's name "%1..." is too long. Please choose a shorter one.</source>
+        <translation>视频名称“%1...”太长。请选择较短的名称。</translation>
     </message>
     <message>
         <source>The folder "%1" for the video does not exist.</source>

@@ -2,6 +2,7 @@
 #include "generator/encoding/ConcatList.h"
 
 #include "generator/GeneratorLog.h"
+#include "platform/FileNames.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -36,7 +37,7 @@ QByteArray ConcatList::line(const QString &path)
     }
     QString quoted = QDir::fromNativeSeparators(path);
     quoted.replace(QLatin1Char('\''), QLatin1String("'\\''"));
-    return QByteArrayLiteral("file '") + quoted.toUtf8() + '\'';
+    return QByteArrayLiteral("file '") + FileNames::inFiles(quoted) + '\'';
 }
 
 bool ConcatList::write(const QString &listFile, const QStringList &files, QString *error)

@@ -60,10 +60,10 @@ EncoderVersion knownVersion(const QString &program)
     static QMutex mutex;
     static QHash<QString, EncoderVersion> known;
     QMutexLocker locker(&mutex);
-    auto found = known.constFind(program);
-    if (found == known.constEnd())
-        found = known.insert(program, probe(program));
-    return *found;
+    // A program that could not be used may have been slow, and may be replaced.
+    if (!known.value(program).usable)
+        known.insert(program, probe(program));
+    return known.value(program);
 }
 
 } // namespace

@@ -2,13 +2,12 @@
 #include "generator/encoding/FrameWriter.h"
 
 #include "generator/encoding/JpegBlocks.h"
+#include "generator/media/DiskSpace.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QImage>
-#include <QStorageInfo>
 
 #include <turbojpeg.h>
 
@@ -20,15 +19,6 @@ namespace
 
 constexpr int kQuality = 100;
 constexpr int kPixelFormat = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? TJPF_BGRX : TJPF_XRGB;
-
-bool hasNoRoom(const QFile &file, qint64 needed)
-{
-    if (!file.isOpen())
-        return false;
-    const QStorageInfo storage(QFileInfo(file).absolutePath());
-    return file.error() == QFileDevice::ResourceError ||
-           (storage.isValid() && storage.bytesAvailable() < needed);
-}
 
 QString writeError(const QFile &file, bool diskFull)
 {
@@ -115,7 +105,7 @@ bool FrameWriter::store(const QString &path, qint64 size, QString *error)
     const char *data = reinterpret_cast<const char *>(m_buffer.data());
     if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(data, size) == size)
         return true;
-    m_diskFull = hasNoRoom(file, size);
+    m_diskFull = failedForSpace(file, size);
     *error = writeError(file, m_diskFull);
     return false;
 }

@@ -62,6 +62,11 @@ ToolResult VideoUtil::runEncoder(const QStringList &arguments, bool feedProgress
     qCInfo(generatorLog).noquote() << "Starting ffmpeg.exe " << arguments;
     ToolRunner::ErrorOutput onError;
     if (feedProgress) {
+        {
+            // What the run before said of its position is not said of this one.
+            const std::lock_guard<std::mutex> locker(m_context.outputMutex);
+            m_context.encoderOutput.clear();
+        }
         onError = [this](const QByteArray &piece) {
             const std::lock_guard<std::mutex> locker(m_context.outputMutex);
             m_context.encoderOutput += QString::fromUtf8(piece);

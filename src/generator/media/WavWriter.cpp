@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/media/WavWriter.h"
 
+#include "generator/media/DiskSpace.h"
 #include "generator/media/PcmConverter.h"
 
 #include <QCoreApplication>
@@ -24,6 +25,7 @@ template <typename Number> void append(QByteArray &bytes, Number number)
 constexpr quint32 kSizesLength = 28; ///< Of the chunk that can hold the sizes of a large file.
 constexpr quint32 kFormLength = 16;  ///< Of the chunk that describes the samples.
 constexpr quint32 kUnknownSize = std::numeric_limits<quint32>::max();
+constexpr qint64 kLeastRoom = 64 * 1024; ///< Bytes; with less a disk counts as full.
 constexpr quint64 kHeaderLength = 12 + 8 + kSizesLength + 8 + kFormLength + 8;
 
 } // namespace
@@ -64,8 +66,8 @@ QByteArray WavWriter::header(quint64 dataSize)
 
 bool WavWriter::open()
 {
-    m_file.setFileName(
-        QStringLiteral("%1.%2.part").arg(m_path).arg(QCoreApplication::applicationPid()));
+    m_file.setFileName(QStringLiteral("%1.%2.part")
+                           .arg(m_path, QString::number(QCoreApplication::applicationPid())));
     return (m_file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
             m_file.write(header(0)) >= 0) ||
            fail();
@@ -101,8 +103,7 @@ bool WavWriter::commit()
 
 bool WavWriter::fail()
 {
-    // The resource that a write can run out of is space.
-    m_diskFull = m_file.error() == QFileDevice::ResourceError;
+    m_diskFull = failedForSpace(m_file, kLeastRoom);
     m_errorText = m_diskFull
                       ? QCoreApplication::translate("velmora::WavWriter", "The disk is full.")
                       : m_file.errorString();

@@ -3,11 +3,14 @@
 
 #include "generator/media/SoundChecker.h"
 #include "generator/pipeline/RenderFailure.h"
+#include "platform/FileNames.h"
 #include "project/documents/ProjectFile.h"
 #include "project/images/ImageLoader.h"
 #include "project/slides/ProjectItemSimple.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QSet>
 #include <QStringList>
 
@@ -94,6 +97,23 @@ RenderError InputCheck::run(const ProjectFile &project, const std::atomic_bool &
     if (sentences.isEmpty())
         return {};
     return {RenderErrorCode::kInput, joined(sentences)};
+}
+
+RenderError InputCheck::refuseReplacing(const ProjectFile &project, const QString &video)
+{
+    const QString replaced = QFileInfo(video).canonicalFilePath();
+    if (replaced.isEmpty()) // It does not exist yet.
+        return {};
+    for (const Check &check : filesOf(project)) {
+        const QString input = QFileInfo(check.path).canonicalFilePath();
+        if (FileNames::identity(input) == FileNames::identity(replaced))
+            return {RenderErrorCode::kOutput,
+                    QCoreApplication::translate("velmora::InputCheck",
+                                                "The video would replace \"%1\", of which it is "
+                                                "made. Please choose another name.")
+                        .arg(QDir::toNativeSeparators(check.path))};
+    }
+    return {};
 }
 
 } // namespace velmora

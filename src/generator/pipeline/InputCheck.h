@@ -19,6 +19,10 @@ namespace InputCheck
 /// error, once @p cancelled is set. Blocks, so not on the GUI thread.
 RenderError run(const ProjectFile &project, const std::atomic_bool &cancelled);
 
+/// Refuses a video, by its absolute path, that would take the place of a photo or sound file of its
+/// own. Links are followed. Reads folders, so not on the GUI thread.
+RenderError refuseReplacing(const ProjectFile &project, const QString &video);
+
 } // namespace InputCheck
 
 } // namespace velmora

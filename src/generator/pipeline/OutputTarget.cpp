@@ -3,6 +3,7 @@
 
 #include "app/Paths.h"
 #include "generator/GeneratorLog.h"
+#include "generator/media/DiskSpace.h"
 #include "platform/FileNames.h"
 #include "platform/Shortened.h"
 
@@ -13,7 +14,6 @@
 #include <QFileInfo>
 #include <QRandomGenerator>
 #include <QRegularExpression>
-#include <QStorageInfo>
 
 #include <filesystem>
 #include <system_error>
@@ -24,9 +24,11 @@ namespace velmora
 namespace
 {
 
-constexpr int kLongestName = 255;     // bytes, on all common file systems
-constexpr int kTemporaryReserve = 48; // bytes of the temporary name beyond the video's name
+// In the units of FileNames::length().
+constexpr int kLongestName = 255;     // on all common file systems
+constexpr int kTemporaryReserve = 48; // of the temporary name beyond the video's name
 constexpr int kRandomLetters = 6;
+constexpr int kHashLetters = 8;
 constexpr int kLockPatience = 200;    // ms; another start may just be looking at the lock
 constexpr int kTrialSize = 64 * 1024; // bytes
 constexpr int kShownName = 60;        // characters of a long name in messages
@@ -51,14 +53,16 @@ QString randomLetters()
     return text;
 }
 
-int bytesOf(const QString &name)
+/// The same for all spellings of a path that name one file.
+QByteArray hashOf(const QString &path)
 {
-    return QFile::encodeName(name).size();
+    return QCryptographicHash::hash(FileNames::identity(path).toUtf8(), QCryptographicHash::Sha1)
+        .toHex();
 }
 
 std::filesystem::path filePath(const QString &name)
 {
-    return std::filesystem::u8path(name.toStdString());
+    return std::filesystem::u8path(FileNames::inFiles(name).toStdString());
 }
 
 } // namespace
@@ -111,7 +115,7 @@ QString OutputTarget::keepUnderFreeName()
 {
     const QFileInfo wished(m_fileName);
     const QString stem =
-        shortened(wished.completeBaseName(), kLongestName - kTemporaryReserve, bytesOf);
+        shortened(wished.completeBaseName(), kLongestName - kTemporaryReserve, FileNames::length);
     for (int number = 2; number <= kMostNames; ++number) {
         const QString name = QStringLiteral("%1/%2 (%3).%4")
                                  .arg(m_folder, stem, QString::number(number), wished.suffix());
@@ -161,22 +165,21 @@ void OutputTarget::chooseName(const QString &fileName, const QString &format)
         info.setFile(m_fileName);
     }
     m_folder = info.absolutePath();
-    m_temporaryStem =
-        QLatin1Char('.') +
-        shortened(info.completeBaseName(), kLongestName - kTemporaryReserve, bytesOf) +
-        QStringLiteral(".part-");
+    const QString name = info.completeBaseName();
+    QString stem = shortened(name, kLongestName - kTemporaryReserve, FileNames::length);
+    if (stem != name) // Videos of a long name may differ in its end only.
+        stem += QLatin1Char('~') + QString::fromLatin1(hashOf(name).left(kHashLetters));
+    m_temporaryStem = QLatin1Char('.') + stem + QStringLiteral(".part-");
 }
 
 RenderError OutputTarget::checkName() const
 {
     const QFileInfo info(m_fileName);
     const QFileInfo folder(m_folder);
-    if (QFile::encodeName(info.fileName()).size() > kLongestName)
+    if (FileNames::length(info.fileName()) > kLongestName)
         return outputError(
-            Texts::tr("The video's name \"%1...\" is too long: a file name may have no more "
-                      "than %2 bytes.")
-                .arg(info.fileName().left(kShownName))
-                .arg(kLongestName));
+            Texts::tr("The video's name \"%1...\" is too long. Please choose a shorter one.")
+                .arg(info.fileName().left(kShownName)));
     if (!folder.exists())
         return outputError(
             Texts::tr("The folder \"%1\" for the video does not exist.").arg(m_folder));
@@ -196,10 +199,7 @@ RenderError OutputTarget::tryWriting() const
     const bool opened = trial.open(QIODevice::WriteOnly);
     const bool written =
         opened && trial.write(QByteArray(kTrialSize, '\0')) == kTrialSize && trial.flush();
-    // Discs and the like have no room either, but that is not what keeps them from being written.
-    const QStorageInfo storage(m_folder);
-    const bool noSpace = trial.error() == QFileDevice::ResourceError ||
-                         (!storage.isReadOnly() && storage.bytesAvailable() < kTrialSize);
+    const bool noSpace = !written && failedForSpace(trial, kTrialSize);
     const QString reason = trial.errorString();
     if (opened)
         trial.remove();
@@ -217,12 +217,9 @@ RenderError OutputTarget::lock(const QString &lockFolder)
 {
     const QString canonical = QFileInfo(m_folder).canonicalFilePath() + QLatin1Char('/') +
                               QFileInfo(m_fileName).fileName();
-    const QByteArray hash =
-        QCryptographicHash::hash(FileNames::identity(canonical).toUtf8(), QCryptographicHash::Sha1)
-            .toHex();
     Paths::ensureFolder(lockFolder);
     m_lock = std::make_unique<QLockFile>(
-        QStringLiteral("%1/%2.lock").arg(lockFolder, QString::fromLatin1(hash)));
+        QStringLiteral("%1/%2.lock").arg(lockFolder, QString::fromLatin1(hashOf(canonical))));
     m_lock->setStaleLockTime(0); // a render may take hours; only a dead owner makes a lock stale
     if (m_lock->tryLock(kLockPatience))
         return {};
@@ -238,9 +235,8 @@ RenderError OutputTarget::lock(const QString &lockFolder)
 void OutputTarget::removeStrays() const
 {
     const QRegularExpression own(QStringLiteral("^%1[a-z0-9]{%2}(\\.part)?\\.%3$")
-                                     .arg(QRegularExpression::escape(m_temporaryStem))
-                                     .arg(kRandomLetters)
-                                     .arg(m_extension));
+                                     .arg(QRegularExpression::escape(m_temporaryStem),
+                                          QString::number(kRandomLetters), m_extension));
     QDir folder(m_folder);
     const QStringList names = folder.entryList(QDir::Files | QDir::Hidden);
     for (const QString &name : names) {

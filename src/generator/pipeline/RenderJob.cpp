@@ -108,6 +108,8 @@ RenderError RenderJob::Private::findFault()
     error = target.prepare(request.project->fileName(), request.project->format(),
                            CacheSweeper::lockFolder());
     if (!error.isSet())
+        error = InputCheck::refuseReplacing(*request.project, target.fileName());
+    if (!error.isSet())
         error = InputCheck::run(*request.project, cancelRequested);
     return error;
 }

@@ -119,6 +119,7 @@ RenderPlan RenderPlan::make(const ProjectFile &project, const Timeline &timeline
             PlannedSlide slide;
             slide.index = stage.slide;
             slide.item = project.items().at(stage.slide);
+            slide.sourceType = storedTransition(*slide.item);
             if (!plan.m_slides.isEmpty())
                 slide.previousType = plan.m_slides.constLast().type;
             plan.m_slides.append(slide);
@@ -127,7 +128,6 @@ RenderPlan RenderPlan::make(const ProjectFile &project, const Timeline &timeline
         PlannedStage planned;
         planned.stage = stage;
         if (stage.kind == Timeline::StageKind::Picture) {
-            slide.sourceType = storedTransition(*slide.item);
             slide.type = resolve(slide.sourceType, slide.previousType, random);
             planned.effect = slide.type;
         } else if (stage.kind == Timeline::StageKind::Caption) {

@@ -82,7 +82,7 @@ bool SoundTrack::convert(const QString &source, int index, QString &file)
     const QString reason = checkSoundFile(source);
     if (!reason.isEmpty())
         return failToRead(source, reason);
-    const QString wav = QStringLiteral("%1/%2.wav").arg(m_folder).arg(index);
+    const QString wav = QStringLiteral("%1/%2.wav").arg(m_folder, QString::number(index));
     file = source;
     bool done = true;
     if (hasSuffix(source, "mp3")) {
@@ -108,7 +108,7 @@ bool SoundTrack::normaliseWhereNeeded(const QStringList &sources, QStringList &f
     for (int i = 0; i < files.size(); ++i) {
         if (formats.at(i).isNormal() && !ConcatList::line(files.at(i)).isEmpty())
             continue;
-        const QString normal = QStringLiteral("%1/%2_normal.wav").arg(m_folder).arg(i);
+        const QString normal = QStringLiteral("%1/%2_normal.wav").arg(m_folder, QString::number(i));
         if (!run(AudioCommands::normalise(files.at(i)), normal))
             return failToConvert(sources.at(i));
         files[i] = normal;

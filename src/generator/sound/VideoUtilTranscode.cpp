@@ -66,13 +66,10 @@ bool VideoUtil::transcodeFFmpegToWav(const QString &from, const QString &to)
     qCInfo(generatorLog) << "Starting ffmpeg transcode";
     logFiles(source, target);
     const qint64 length = MediaFileInfo(source).duration();
-    if (executeUtility(AudioCommands::transcode(source, length), target, false)) {
-        qCInfo(generatorLog) << "[OK]";
-        return true;
-    }
-    qCWarning(generatorLog) << "[FAILED]";
-    qCWarning(generatorLog).noquote() << QStringLiteral("FFmpeg Transcode %1").arg(source);
-    return false;
+    const bool done = executeUtility(AudioCommands::transcode(source, length), target, false);
+    qCInfo(generatorLog) << (done ? "[OK]" : "[FAILED]");
+    qCInfo(generatorLog).noquote() << QStringLiteral("FFmpeg Transcode %1").arg(source);
+    return done;
 }
 
 } // namespace velmora

@@ -11,7 +11,7 @@ namespace velmora
 namespace
 {
 
-constexpr int kFinalWait = 5000; // ms that a result may wait for a slow reader
+constexpr int kFinalWait = 60000; // ms that a result may wait for a reader that is busy or stopped
 
 WorkerMessage messageOf(WorkerMessage::Kind kind)
 {

@@ -14,8 +14,9 @@ namespace
 
 using Kind = WorkerMessage::Kind;
 
-// Even if each character is written as six bytes, two such texts fit a line.
-constexpr int kMaximumText = 5000;
+// A list of many files that cannot be used, too. Even if each character is written as six bytes,
+// two such texts fit a line.
+constexpr int kMaximumText = 17000;
 
 // Beyond this a double, which is what JSON has, does not hold every integer.
 constexpr double kMaximumNumber = 9007199254740992.0;

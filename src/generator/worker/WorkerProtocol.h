@@ -31,7 +31,7 @@ namespace WorkerProtocol
 {
 
 /// Lines longer than this are not of the protocol (bytes).
-constexpr int kMaximumLine = 64 * 1024;
+constexpr int kMaximumLine = 256 * 1024;
 
 QByteArray encode(const WorkerMessage &message); ///< With its newline.
 WorkerMessage decode(const QByteArray &line);

@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
+#include <ctime>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -29,6 +30,7 @@ std::array<struct sigaction, kSignals.size()> previousActions;
 alignas(16) std::array<char, 64 * 1024> handlerStack;
 std::atomic_bool installed{false};
 std::atomic_flag dumping = ATOMIC_FLAG_INIT;
+std::atomic<pid_t> dumper{0}; ///< The thread that writes; 0 without one.
 
 void writeText(int file, const char *text)
 {
@@ -80,10 +82,14 @@ bool writeDump(int signalNumber)
 void onSignal(int signalNumber)
 {
     const int savedError = errno;
-    // A second thread that crashes meanwhile waits for the first one to end the process.
-    while (dumping.test_and_set())
-        ::pause();
-    writeDump(signalNumber);
+    // A thread that crashes while another one writes waits for that; one that crashes while it
+    // writes itself just ends the process.
+    const pid_t self = ::gettid();
+    constexpr timespec pause = {0, 10'000'000};
+    while (dumper != self && dumping.test_and_set())
+        ::nanosleep(&pause, nullptr);
+    if (dumper.exchange(self) != self)
+        writeDump(signalNumber);
     errno = savedError;
     // SA_RESETHAND brought the default action back; the signal, blocked until this handler returns,
     // then ends the process the way it would have without the handler.
@@ -133,7 +139,9 @@ bool CrashDump::write()
 {
     if (!installed || dumping.test_and_set())
         return false;
+    dumper = ::gettid();
     const bool ok = writeDump(0);
+    dumper = 0;
     dumping.clear();
     return ok;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/FileNames.h"
 
-#include <QByteArray>
+#include <QFile>
 
 #include <clocale>
 #include <cstring>
@@ -21,6 +21,16 @@ void FileNames::allowAllLetters()
 QString FileNames::identity(const QString &path)
 {
     return path;
+}
+
+int FileNames::length(const QString &name)
+{
+    return QFile::encodeName(name).size();
+}
+
+QByteArray FileNames::inFiles(const QString &path)
+{
+    return QFile::encodeName(path);
 }
 
 } // namespace velmora

@@ -14,4 +14,14 @@ QString FileNames::identity(const QString &path)
     return path.toUpper();
 }
 
+int FileNames::length(const QString &name)
+{
+    return name.size();
+}
+
+QByteArray FileNames::inFiles(const QString &path)
+{
+    return path.toUtf8();
+}
+
 } // namespace velmora

@@ -7,6 +7,8 @@
 #include "project/slides/ProjectItemSimple.h"
 #include "project/slides/TitleBackground.h"
 
+#include <QCoreApplication>
+
 namespace velmora
 {
 
@@ -41,7 +43,12 @@ QImage SlideRenderer::bareFrame(const ProjectItem &item, const FrameFormat &form
     if (!slide)
         return QImage();
     const QImage photo = photoFor(*slide, format, error);
-    return photo.isNull() ? photo : fitPhoto(photo, slide->angle(), format);
+    if (photo.isNull())
+        return photo;
+    const QImage frame = fitPhoto(photo, slide->angle(), format);
+    if (frame.isNull() && error) // There is no memory for it.
+        *error = QCoreApplication::translate("ImageLoader", "is too large");
+    return frame;
 }
 
 QImage SlideRenderer::captionedFrame(const QImage &bare, const ProjectItem &item)

@@ -2,6 +2,7 @@
 #include "project/images/ExifBlock.h"
 
 #include "project/images/JpegSegments.h"
+#include "project/images/TiffTags.h"
 
 #include <QIODevice>
 #include <QtEndian>
@@ -18,8 +19,6 @@ namespace
 constexpr qint64 kMaximumBlock = 16LL * 1024 * 1024;
 // Compressed, so that what it unpacks to is bounded as well.
 constexpr qint64 kMaximumProfile = 256LL * 1024;
-// TIFF files are read as a whole because their tags may stand behind the pixels.
-constexpr qint64 kMaximumTiff = 1800LL * 1024 * 1024;
 
 const char kExifMark[] = {'E', 'x', 'i', 'f', '\0', '\0'};
 constexpr int kExifMarkSize = sizeof(kExifMark);
@@ -107,11 +106,7 @@ QByteArray findExifBlock(QIODevice &device)
         return findInPng(device);
     if (head.startsWith("RIFF") && head.endsWith("WEBP"))
         return findInWebp(device);
-    const bool isTiff =
-        head.startsWith(QByteArray("II*\0", 4)) || head.startsWith(QByteArray("MM\0*", 4));
-    if (!isTiff || device.size() > kMaximumTiff || !device.seek(0))
-        return QByteArray();
-    return device.readAll();
+    return tiffTags(device);
 }
 
 } // namespace velmora

@@ -65,7 +65,7 @@ private slots:
     void init()
     {
         m_folder = std::make_unique<QTemporaryDir>(
-            QDir::tempPath() + QStringLiteral("/it's a 50%d [t]est ü 漢 XXXXXX"));
+            QDir::tempPath() + QStringLiteral("/it's a 50%1 [t]est ü 漢 XXXXXX"));
         QVERIFY(m_folder->isValid());
         for (const char *sub : {"images", "video"})
             QVERIFY(QDir(m_folder->path()).mkdir(QLatin1String(sub)));

@@ -156,7 +156,7 @@ private:
         return MediaSamples::listen(target);
     }
 
-    QTemporaryDir m_folder;
+    QTemporaryDir m_folder{QDir::tempPath() + QStringLiteral("/50%1 XXXXXX")};
 };
 
 QTEST_GUILESS_MAIN(WavTranscoderTest)

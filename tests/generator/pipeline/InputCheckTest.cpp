@@ -47,6 +47,22 @@ private slots:
         QVERIFY(lines.at(2).contains(sound));
     }
 
+    void videoDoesNotReplaceWhatItIsMadeOf()
+    {
+        const QString sound = m_fixture.sound(QStringLiteral("own.wav"), 1);
+        const QString video = m_fixture.output(QStringLiteral("own.mov"));
+        QVERIFY(QFile::copy(sound, video));
+        RenderRequest request =
+            m_fixture.request({m_fixture.photo(QStringLiteral("a.jpg"), 1)}, video);
+        QVERIFY(!InputCheck::refuseReplacing(*request.project, video).isSet());
+        request.project->setAudio({{{sound, {}}, {video, {}}}, 0});
+        const RenderError error = InputCheck::refuseReplacing(*request.project, video);
+        QCOMPARE(error.code, QString(RenderErrorCode::kOutput));
+        QVERIFY2(error.text.contains(QDir::toNativeSeparators(video)), qPrintable(error.text));
+        QVERIFY(
+            !InputCheck::refuseReplacing(*request.project, video + QStringLiteral(".mp4")).isSet());
+    }
+
     void countsTheRestOfVeryManyBadFiles()
     {
         QStringList photos;

@@ -3,6 +3,7 @@
 #include "helpers/DeadLock.h"
 #include "helpers/Files.h"
 #include "helpers/Words.h"
+#include "platform/FileNames.h"
 
 #include <QtTest>
 
@@ -63,7 +64,8 @@ private slots:
         QTest::newRow("does not exist") << "none/a.mp4";
         QTest::newRow("not a folder") << "plain/a.mp4";
         QTest::newRow("a folder has that name") << "dir.mp4";
-        QTest::newRow("too long") << QString(150, QChar(0xfc)); // in bytes
+        const QString letter(QChar(0xfc)); // two bytes, but one unit on Windows
+        QTest::newRow("too long") << letter.repeated(256 / FileNames::length(letter));
         // The system's own files are read-only even for the super-user.
         if (QFileInfo(QStringLiteral("/proc")).isDir())
             QTest::newRow("/proc") << "/proc/a.mp4";
@@ -179,6 +181,17 @@ private slots:
         OutputTarget target;
         const RenderError error = prepare(target, QStringLiteral("a.mp4"));
         QVERIFY2(!error.isSet(), qPrintable(error.text));
+    }
+
+    void longNamesThatDifferAtTheirEndDoNotMeet()
+    {
+        const QString name = QString(240, QLatin1Char('x')) + QStringLiteral("%1.mp4");
+        OutputTarget first;
+        QVERIFY(!prepare(first, name.arg(1)).isSet());
+        QVERIFY(writeFile(first.temporaryFile(), "x"));
+        OutputTarget second;
+        QVERIFY(!prepare(second, name.arg(2)).isSet());
+        QVERIFY(QFile::exists(first.temporaryFile()));
     }
 
     void sweepsUnfinishedVideosOfTheSameName()

@@ -197,7 +197,8 @@ private:
     QString prepare(const QStringList &names, int offset, int fade, int length,
                     bool cancelled = false)
     {
-        m_cache = std::make_unique<QTemporaryDir>();
+        m_cache =
+            std::make_unique<QTemporaryDir>(QDir::tempPath() + QStringLiteral("/50%1 XXXXXX"));
         EncodingContext context;
         context.cachePath = m_cache->path();
         context.encoder = MediaSamples::encoder();

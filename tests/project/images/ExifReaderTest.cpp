@@ -3,6 +3,7 @@
 
 #include "project/images/Pictures.h"
 
+#include <QBuffer>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -21,6 +22,51 @@ QByteArray orientationBlock(int orientation, bool bigEndian)
     return QByteArray::fromHex("49492a0008000000 0100 1201 0300 01000000") + value +
            QByteArray::fromHex("000000 00000000");
 }
+
+/// A TIFF file whose directories stand behind @p pixels bytes: the orientation 6, and when the
+/// photo was taken.
+QByteArray tiffWithTagsAtItsEnd(int pixels)
+{
+    QByteArray file = QByteArray::fromHex("49492a00") + QByteArray(4 + pixels, '\0');
+    const auto number = [&file](quint32 value, int bytes) {
+        for (int i = 0; i < bytes; ++i)
+            file.append(char(value >> 8 * i));
+    };
+    const auto entry = [&number](quint32 tag, quint32 type, quint32 count, quint32 value) {
+        number(tag, 2);
+        number(type, 2);
+        number(count, 4);
+        number(value, 4);
+    };
+    const auto first = quint32(file.size());
+    for (int i = 0; i < 4; ++i)
+        file[4 + i] = char(first >> 8 * i);
+    const quint32 exif = first + 2 + 3 * 12 + 4;
+    number(3, 2);
+    entry(0x0111, 4, 1, 8); // where the pixels begin
+    entry(0x0112, 3, 1, 6);
+    entry(0x8769, 4, 1, exif);
+    number(0, 4);
+    number(1, 2);
+    entry(0x9003, 2, 20, exif + 2 + 12 + 4);
+    number(0, 4);
+    return file + QByteArray("2021:07:04 12:13:14", 20);
+}
+
+/// Knows how much was read of it.
+class CountingBuffer : public QBuffer
+{
+public:
+    qint64 bytes = 0;
+
+protected:
+    qint64 readData(char *data, qint64 size) override
+    {
+        const qint64 read = QBuffer::readData(data, size);
+        bytes += std::max<qint64>(0, read);
+        return read;
+    }
+};
 
 QByteArray exifSegment(const QByteArray &block)
 {
@@ -128,6 +174,26 @@ private slots:
         const int tagEnd = whole.size() - 6; // The rest is padding and the link to further tags.
         for (int length = 0; length < tagEnd; ++length)
             QCOMPARE(ExifReader::read(whole.left(length)).orientation, 1);
+    }
+
+    void pixelsOfTiffFilesAreNotRead()
+    {
+        constexpr int pixels = 8 * 1024 * 1024;
+        CountingBuffer file;
+        file.setData(tiffWithTagsAtItsEnd(pixels));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const ExifInfo info = ExifReader::read(file);
+        QCOMPARE(info.orientation, 6);
+        QCOMPARE(info.taken, QDateTime(QDate(2021, 7, 4), QTime(12, 13, 14)));
+        QVERIFY2(file.bytes < pixels / 16, qPrintable(QString::number(file.bytes)));
+    }
+
+    void cutTiffFilesDoNoHarm()
+    {
+        const QByteArray whole = tiffWithTagsAtItsEnd(16);
+        const int textEnd = whole.size() - 1; // What follows only closes the text.
+        for (int length = 0; length < textEnd; ++length)
+            QVERIFY(!ExifReader::read(whole.left(length)).taken.isValid());
     }
 
     void missingFileYieldsDefaults()
