@@ -287,9 +287,7 @@ void SlidesPage::updateControls()
 void SlidesPage::updateActions()
 {
     const ProjectEditor::Slides selected = m_selection->slides();
-    const bool hasPhoto = std::any_of(selected.begin(), selected.end(), [](ProjectItem *slide) {
-        return qobject_cast<ProjectItemSimple *>(slide) != nullptr;
-    });
+    const bool hasPhoto = !selectedPhotos().isEmpty();
     for (QAction *action : {m_actions->up, m_actions->down, m_actions->rotate,
                             m_actions->rotateBack, m_actions->transition})
         action->setEnabled(hasPhoto);

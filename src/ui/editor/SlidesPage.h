@@ -99,6 +99,7 @@ private:
     void updateTotals();
     void placeHint();
     ProjectEditor::Slides scopeOf(int row) const;
+    ProjectEditor::Slides selectedPhotos() const;
     int shownCount() const;
 
     ProjectEditor &m_editor;

@@ -23,6 +23,9 @@
 #include <QMenu>
 #include <QPointer>
 
+#include <algorithm>
+#include <iterator>
+
 namespace velmora
 {
 
@@ -131,18 +134,29 @@ void SlidesPage::on_btnRestore_clicked()
         m_editor.setTitleSlide(title->backgroundIndex(), true);
 }
 
+/// Without the title slide, which keeps its place.
+ProjectEditor::Slides SlidesPage::selectedPhotos() const
+{
+    ProjectEditor::Slides photos;
+    const ProjectEditor::Slides selected = m_selection->slides();
+    std::copy_if(
+        selected.begin(), selected.end(), std::back_inserter(photos),
+        [](ProjectItem *slide) { return qobject_cast<ProjectItemSimple *>(slide) != nullptr; });
+    return photos;
+}
+
 void SlidesPage::on_btnUp_clicked()
 {
-    const ProjectEditor::Slides slides = m_selection->slides();
-    if (!slides.isEmpty())
-        m_editor.moveSlides(slides, m_model->rowOf(slides.first()) - 1);
+    const ProjectEditor::Slides photos = selectedPhotos();
+    if (!photos.isEmpty())
+        m_editor.moveSlides(photos, m_model->rowOf(photos.first()) - 1);
 }
 
 void SlidesPage::on_btnDown_clicked()
 {
-    const ProjectEditor::Slides slides = m_selection->slides();
-    if (!slides.isEmpty())
-        m_editor.moveSlides(slides, m_model->rowOf(slides.last()) + 2);
+    const ProjectEditor::Slides photos = selectedPhotos();
+    if (!photos.isEmpty())
+        m_editor.moveSlides(photos, m_model->rowOf(photos.last()) + 2);
 }
 
 void SlidesPage::onBtnShuffleClicked()

@@ -120,16 +120,23 @@ private slots:
 
     void keysEditTheSelection_data()
     {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QVector<int>>("rows");
         QTest::addColumn<QString>("order");
-        QTest::newRow("actUp") << "bcad";
-        QTest::newRow("actDown") << "adbc";
-        QTest::newRow("actDelete") << "ad";
+        const QVector<int> two = {2, 3};
+        QTest::newRow("up") << "actUp" << two << "bcad";
+        QTest::newRow("down") << "actDown" << two << "adbc";
+        QTest::newRow("delete") << "actDelete" << two << "ad";
+        QTest::newRow("up, title slide too") << "actUp" << QVector<int>{0, 3} << "acbd";
+        QTest::newRow("down, title slide too") << "actDown" << QVector<int>{0, 3} << "abdc";
     }
     void keysEditTheSelection()
     {
+        QFETCH(QString, name);
+        QFETCH(QVector<int>, rows);
         m->addPhotos(QStringLiteral("abcd"));
-        m->select({2, 3});
-        const int code = action(QTest::currentDataTag())->shortcut()[0];
+        m->select(rows);
+        const int code = action(name.toLatin1())->shortcut()[0];
         QTest::keyClick(&m->table(), static_cast<Qt::Key>(code & ~int(Qt::KeyboardModifierMask)),
                         Qt::KeyboardModifiers(code & int(Qt::KeyboardModifierMask)));
         QTEST(m->letters(), "order");
