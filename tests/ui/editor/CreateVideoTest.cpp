@@ -339,6 +339,21 @@ private slots:
         QCOMPARE(started.count(), 0);
     }
 
+    void foreignFormatGoesWithItsDocument()
+    {
+        const auto *formats = m->child<QComboBox>("cbxFormat");
+        ProjectFile other(m->settings, ProjectFile::TitleSlide::Create);
+        for (const char *foreign : {"mkv", "wmv"}) {
+            other.setFormat(QLatin1String(foreign));
+            m->page->setProject(&other);
+            QCOMPARE(formats->count(), 5);
+            QCOMPARE(formats->currentData().toString(), QLatin1String(foreign));
+        }
+        m->page->setProject(m->project.get());
+        QCOMPARE(formats->count(), 4);
+        QCOMPARE(formats->currentData().toString(), QStringLiteral("mp4"));
+    }
+
     void requestCarriesProfileAndFormat()
     {
         m->settings.outputProfile = QStringLiteral("everywhere");
