@@ -18,7 +18,8 @@ class PhotoImports : public QObject
 {
     Q_OBJECT
 public:
-    /// @p note and @p window, over which the list is shown, must outlive it.
+    /// @p note, which is for this alone, and @p window, over which the list is shown, must outlive
+    /// it.
     PhotoImports(ProjectEditor &editor, BusyNote &note, QWidget *window);
 
     /// @p row as for ProjectEditor::addPhotos().

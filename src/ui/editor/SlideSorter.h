@@ -19,7 +19,7 @@ class SlideSorter : public QObject
 public:
     enum class Criterion { Name, Date };
 
-    /// @p note must outlive it.
+    /// @p note is for this alone and must outlive it.
     SlideSorter(ProjectEditor &editor, BusyNote &note, QObject *parent = nullptr);
 
     /// Dates are read in the background first; nothing happens while that is going on already.

@@ -70,11 +70,14 @@ template <typename Value> QVariant common(const ProjectEditor::Slides &slides, V
 SlidesPage::SlidesPage(ProjectEditor &editor, const AppSettings &settings, QWidget *parent)
     : QWidget(parent), m_editor(editor), m_settings(settings),
       m_ui(std::make_unique<Ui::SlidesPage>()), m_model(new SlideTableModel(editor, this)),
-      m_note(new BusyNote), m_actions(new SlideActions(this)),
-      m_sorter(new SlideSorter(editor, *m_note, this))
+      m_importNote(new BusyNote), m_sortNote(new BusyNote), m_actions(new SlideActions(this)),
+      m_sorter(new SlideSorter(editor, *m_sortNote, this))
 {
     m_ui->setupUi(this);
-    m_ui->pageLayout->insertWidget(1, m_note);
+    m_importNote->setObjectName(QStringLiteral("importNote"));
+    m_sortNote->setObjectName(QStringLiteral("sortNote"));
+    m_ui->pageLayout->insertWidget(1, m_importNote);
+    m_ui->pageLayout->insertWidget(2, m_sortNote);
     m_hintText = new HintLabel;
     m_hint = createHint(m_hintText, m_ui->tableView->viewport());
     m_update.setSingleShot(true);

@@ -36,8 +36,8 @@ public:
     SlidesPage(ProjectEditor &editor, const AppSettings &settings, QWidget *parent = nullptr);
     ~SlidesPage() override;
 
-    /// The line for work in the background.
-    BusyNote &busyNote() { return *m_note; }
+    /// The line that tells of photos being added.
+    BusyNote &importNote() { return *m_importNote; }
     /// Whether the slides are about to be sorted, as soon as the dates of the photos are read.
     bool isSorting() const;
     /// Gives the keys to the table.
@@ -106,7 +106,8 @@ private:
     const AppSettings &m_settings;
     std::unique_ptr<Ui::SlidesPage> m_ui;
     SlideTableModel *m_model;
-    BusyNote *m_note;
+    BusyNote *m_importNote;
+    BusyNote *m_sortNote;
     SlideActions *m_actions;
     SlideSorter *m_sorter;
     SlideSelection *m_selection = nullptr;

@@ -108,11 +108,11 @@ private slots:
             write(QStringLiteral("img%1.png").arg(i), "broken");
         m->page->addFolder(m->path("drop"));
         QTRY_VERIFY(isImporting());
-        emit m->page->findChild<BusyNote *>()->cancelClicked();
+        emit m->child<BusyNote>("importNote")->cancelClicked();
         QTRY_VERIFY(!isImporting());
         QCOMPARE(m->items().size(), 1);
         QVERIFY(!report());
-        QVERIFY(!m->child<QWidget>("busyNote")->isVisible());
+        QVERIFY(!m->child<QWidget>("importNote")->isVisible());
     }
 
     void severalDropsReportOnce()
