@@ -115,6 +115,33 @@ private slots:
         QVERIFY(!m->child<QWidget>("importNote")->isVisible());
     }
 
+    void photosStayWithTheSlideBefore_data()
+    {
+        QTest::addColumn<QString>("result");
+        QTest::newRow("others came") << "xabyc";
+        QTest::newRow("moved") << "acby";
+        QTest::newRow("gone") << "acy";
+    }
+    void photosStayWithTheSlideBefore()
+    {
+        m->addPhotos(QStringLiteral("abc"));
+        ProjectEditor &editor = m->page->editor();
+        ProjectItem *before = m->items().at(2);
+        m->page->onFilesDropped({m->makePhoto(QStringLiteral("y.png"))}, 2);
+        switch (QTest::currentDataTag()[0]) {
+        case 'o':
+            editor.addPhotos({m->makePhoto(QStringLiteral("x.png"))}, 1);
+            break;
+        case 'm':
+            editor.moveSlides({before}, m->items().size());
+            break;
+        default:
+            editor.removeSlides({before});
+        }
+        QTRY_VERIFY(!isImporting());
+        QTEST(m->letters(), "result");
+    }
+
     void severalDropsReportOnce()
     {
         write(QStringLiteral("broken.png"), "broken");
