@@ -57,6 +57,24 @@ private slots:
         QCOMPARE(m->items().first()->title(), QStringLiteral("Starter"));
     }
 
+    void otherOrderIsSortedUpwards_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::newRow("moved") << "btnDown";
+        QTest::newRow("undone") << "btnUndo";
+        QTest::newRow("deleted") << "btnDelete";
+    }
+    void otherOrderIsSortedUpwards()
+    {
+        QFETCH(QString, button);
+        add(words("b.png c.png a.png"));
+        m->click("btnSort");
+        m->select({1});
+        m->click(button.toLatin1());
+        m->click("btnSort");
+        QVERIFY2(order().endsWith(QStringLiteral("b.png c.png")), qPrintable(order()));
+    }
+
     void datesAreReadInTheBackground()
     {
         add(words("b.png a.png c.png"));
