@@ -58,6 +58,8 @@ MainView::MainView(const Parts &parts)
     connectHistory();
     connect(m_updates, &UpdateNotice::newVersion, this, &MainView::onNewVersion);
     connect(&parts.notification, &DesktopNotification::activated, this, &CorWindow::bringToFront);
+    connect(m_document.get(), &ProjectDocument::replaced, this,
+            [this] { m_menu->setProjectOpen(m_document->project() != nullptr); });
     connect(m_actions, &DocumentActions::opened, this, &MainView::showEditor);
     connect(m_actions, &DocumentActions::closed, this, [this] { m_stack->setCurrentIndex(Start); });
     onPageChanged(Start);

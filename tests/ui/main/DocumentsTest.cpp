@@ -83,9 +83,17 @@ private slots:
         document.setFormat(QStringLiteral("mpg")); // which no render makes
         const QString path = m->folder.filePath(QStringLiteral("Holiday 2026.json"));
         QVERIFY(document.saveToFile(path));
+        const auto offered = [this] {
+            int count = 0;
+            for (const char *name : {"actSave", "actSaveAs", "actTitle"})
+                count += m->child<QAction>(name)->isEnabled() ? 1 : 0;
+            return count;
+        };
+        QCOMPARE(offered(), 0);
         m->chooseFiles({path});
         m->press(Qt::Key_O, Qt::ControlModifier);
         QCOMPARE(m->view->page(), MainView::Editor);
+        QCOMPARE(offered(), 3);
         QCOMPARE(m->view->windowTitle(), QStringLiteral("Holiday 2026[*] \u2013 Corvel Velmora"));
         QVERIFY(!m->view->isWindowModified());
         QCOMPARE(m->view->document().project()->format(), QStringLiteral("mkv"));
@@ -106,6 +114,7 @@ private slots:
         QCOMPARE(m->view->page(), MainView::Start);
         QCOMPARE(m->view->windowTitle(), QStringLiteral("Corvel Velmora"));
         QVERIFY(!m->view->document().project());
+        QCOMPARE(offered(), 0);
     }
 
     void openingTheOpenFileKeepsWhatIsSaved()
