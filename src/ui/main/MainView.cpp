@@ -25,6 +25,7 @@
 #include "ui/main/WindowGeometry.h"
 #include "ui/settings/SettingsWidget.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QStackedWidget>
@@ -330,7 +331,8 @@ void MainView::onToggleFullScreen()
 
 void MainView::tellInBackground(const QString &title, const QString &text)
 {
-    if (!isActiveWindow())
+    // Dialogs of the program are in front of this window as well.
+    if (!QApplication::activeWindow())
         m_parts.notification.show(title, text);
 }
 
