@@ -5,6 +5,7 @@
 #include "ui/main/MainViewFixture.h"
 
 #include <QAction>
+#include <QMenu>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTextEdit>
@@ -166,6 +167,21 @@ private slots:
         m->press(Qt::Key_T, Qt::ControlModifier);
         QTRY_COMPARE(m->view->document().path(), path);
         QCOMPARE(m->view->document().project()->name(), document.name());
+    }
+
+    void handedOverFilesWaitForMenus()
+    {
+        m->view->document().begin();
+        const QString path = m->folder.filePath(QStringLiteral("Holiday.json"));
+        QVERIFY(m->view->document().project()->saveToFile(path));
+        QMenu menu;
+        menu.addAction(QStringLiteral("Delete"));
+        menu.popup({});
+        m->view->openFiles({path});
+        QTest::qWait(300);
+        QCOMPARE(m->view->document().path(), QString());
+        menu.close();
+        QTRY_COMPARE(m->view->document().path(), path);
     }
 
     void handedOverFilesWaitForTheVideo()
