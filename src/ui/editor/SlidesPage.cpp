@@ -2,6 +2,7 @@
 #include "ui/editor/SlidesPage.h"
 
 #include "app/AppSettings.h"
+#include "app/TaskThread.h"
 #include "chrome/HintLabel.h"
 #include "chrome/Theme.h"
 #include "project/documents/ProjectFile.h"
@@ -71,7 +72,7 @@ SlidesPage::SlidesPage(ProjectEditor &editor, const AppSettings &settings, QWidg
     : QWidget(parent), m_editor(editor), m_settings(settings),
       m_ui(std::make_unique<Ui::SlidesPage>()), m_model(new SlideTableModel(editor, this)),
       m_importNote(new BusyNote), m_sortNote(new BusyNote), m_actions(new SlideActions(this)),
-      m_sorter(new SlideSorter(editor, *m_sortNote, this))
+      m_sorter(new SlideSorter(editor, *m_sortNote, this)), m_disk(new TaskThread)
 {
     m_ui->setupUi(this);
     m_importNote->setObjectName(QStringLiteral("importNote"));
@@ -89,7 +90,10 @@ SlidesPage::SlidesPage(ProjectEditor &editor, const AppSettings &settings, QWidg
     updateControls();
 }
 
-SlidesPage::~SlidesPage() = default;
+SlidesPage::~SlidesPage()
+{
+    m_disk->retire();
+}
 
 void SlidesPage::setUpTable()
 {
