@@ -2572,10 +2572,6 @@ Mit „Abbrechen“ wird der Vorgang abgebrochen.</translation>
         <translation>Titelfolie ändern</translation>
     </message>
     <message>
-        <source>Relocate photo</source>
-        <translation>Foto neu zuordnen</translation>
-    </message>
-    <message>
         <source>Add audio</source>
         <translation>Musik hinzufügen</translation>
     </message>

@@ -2572,10 +2572,6 @@ Pulse «Cancelar» para cancelar la operación.</translation>
         <translation>Cambiar diapositiva de título</translation>
     </message>
     <message>
-        <source>Relocate photo</source>
-        <translation>Localizar foto</translation>
-    </message>
-    <message>
         <source>Add audio</source>
         <translation>Añadir audio</translation>
     </message>

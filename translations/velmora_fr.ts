@@ -2572,10 +2572,6 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Changer la diapositive de titre</translation>
     </message>
     <message>
-        <source>Relocate photo</source>
-        <translation>Retrouver la photo</translation>
-    </message>
-    <message>
         <source>Add audio</source>
         <translation>Ajouter audio</translation>
     </message>

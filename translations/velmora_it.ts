@@ -2572,10 +2572,6 @@ Premere "Annulla" per annullare l'operazione.</translation>
         <translation>Cambia diapositiva del titolo</translation>
     </message>
     <message>
-        <source>Relocate photo</source>
-        <translation>Ritrova foto</translation>
-    </message>
-    <message>
         <source>Add audio</source>
         <translation>Aggiungi audio</translation>
     </message>

@@ -2572,10 +2572,6 @@ Press "Cancel" to cancel the operation.</source>
         <translation>タイトルスライドを変更</translation>
     </message>
     <message>
-        <source>Relocate photo</source>
-        <translation>写真の場所を指定</translation>
-    </message>
-    <message>
         <source>Add audio</source>
         <translation>音声を追加</translation>
     </message>

@@ -2572,10 +2572,6 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Zmień slajd tytułowy</translation>
     </message>
     <message>
-        <source>Relocate photo</source>
-        <translation>Wskaż zdjęcie</translation>
-    </message>
-    <message>
         <source>Add audio</source>
         <translation>Dodaj dźwięk</translation>
     </message>

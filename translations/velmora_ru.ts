@@ -2572,10 +2572,6 @@ Press "Cancel" to cancel the operation.</source>
         <translation>Изменить титульный слайд</translation>
     </message>
     <message>
-        <source>Relocate photo</source>
-        <translation>Указать фото заново</translation>
-    </message>
-    <message>
         <source>Add audio</source>
         <translation>Добавить звук</translation>
     </message>

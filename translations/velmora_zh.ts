@@ -2572,10 +2572,6 @@ Press "Cancel" to cancel the operation.</source>
         <translation>更改标题幻灯片</translation>
     </message>
     <message>
-        <source>Relocate photo</source>
-        <translation>重新定位照片</translation>
-    </message>
-    <message>
         <source>Add audio</source>
         <translation>添加音频</translation>
     </message>

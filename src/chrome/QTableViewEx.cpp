@@ -16,6 +16,8 @@
 namespace velmora
 {
 
+const RowsMimeData *QTableViewEx::s_dragged = nullptr;
+
 QTableViewEx::QTableViewEx(QWidget *parent) : QTableView(parent)
 {
     setSelectionBehavior(SelectRows);
@@ -102,10 +104,18 @@ void QTableViewEx::startDrag(Qt::DropActions)
     if (rows.isEmpty())
         return;
     auto *drag = new QDrag(this);
-    drag->setMimeData(new RowsMimeData(this, rows));
+    auto *dragged = new RowsMimeData(this, rows);
+    connect(dragged, &RowsMimeData::outdated, this, [dragged] {
+        // A drop that changes the rows itself has ended the drag already.
+        if (dragged == s_dragged)
+            QDrag::cancel();
+    });
+    drag->setMimeData(dragged);
     drag->setPixmap(dragPicture(rows));
     drag->setHotSpot({16, 16});
+    s_dragged = dragged;
     drag->exec(Qt::MoveAction);
+    s_dragged = nullptr;
 }
 
 /// The first dragged row, half transparent, with the number of rows where there are more.
@@ -147,6 +157,7 @@ void QTableViewEx::dragMoveEvent(QDragMoveEvent *event)
     const bool reorder = !RowsMimeData::rowsFrom(event->mimeData(), this).isEmpty();
     if (!accepts(*event)) {
         event->ignore();
+        showDropRow(-1);
         return;
     }
     event->setDropAction(reorder ? Qt::MoveAction : Qt::CopyAction);
@@ -166,6 +177,7 @@ void QTableViewEx::dropEvent(QDropEvent *event)
     stopAutoScroll();
     setState(NoState);
     showDropRow(-1);
+    s_dragged = nullptr;
     const QVector<int> rows = RowsMimeData::rowsFrom(event->mimeData(), this);
     const QStringList files = localFiles(*event->mimeData());
     if (!rows.isEmpty()) {

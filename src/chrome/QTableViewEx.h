@@ -9,6 +9,8 @@
 namespace velmora
 {
 
+class RowsMimeData;
+
 /// A table of rows into which files can be dropped and whose rows can be reordered by dragging one
 /// or several of them. It changes nothing in the model itself: it only tells what the user wants.
 /// Rows that can be dragged have Qt::ItemIsDragEnabled. GUI thread.
@@ -30,6 +32,8 @@ public:
     /// The row before which something dropped at @p position of the viewport goes; the number of
     /// rows at the end.
     int rowBeforeDrop(const QPoint &position) const;
+    /// Whether the user drags rows of any table right now.
+    static bool isDragging() { return s_dragged; }
 
 signals:
     /// Files or folders of this computer were dropped, to go after the row @p newRow; -1 where they
@@ -62,6 +66,8 @@ private:
     QString m_emptyText;
     int m_fixedRows = 0;
     int m_dropRow = -1; ///< Where the line of a running drag lies; -1 without one.
+    /// From the start of a drag of rows to its drop or end. Only compared.
+    static const RowsMimeData *s_dragged;
 };
 
 } // namespace velmora

@@ -11,6 +11,8 @@
 #include <QMouseEvent>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace velmora
 {
 
@@ -34,6 +36,8 @@ TitleBar::TitleBar(Buttons buttons, QWidget *parent)
     // A long title must not keep the window from becoming narrow.
     m_title->setMinimumWidth(1);
     m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+
+    m_title->installEventFilter(this);
 
     m_layout->setContentsMargins(12, 0, 6, 0);
     m_layout->setSpacing(2);
@@ -105,12 +109,20 @@ void TitleBar::updateIcon()
     m_icon->setPixmap(icon.pixmap(window()->windowHandle(), {kIconSize, kIconSize}));
 }
 
+/// A name that is too long gives way, rather than the mark of unsaved changes behind it.
 void TitleBar::updateTitle()
 {
-    QString title = window()->windowTitle();
-    title.replace(QLatin1String("[*]"),
-                  window()->isWindowModified() ? QStringLiteral("*") : QString());
-    m_title->setText(title);
+    const QString title = window()->windowTitle();
+    const QString place = QStringLiteral("[*]");
+    const int end = std::max(0, title.indexOf(place));
+    QString rest = title.mid(end);
+    rest.replace(place, window()->isWindowModified() ? QStringLiteral("*") : QString());
+    const QFontMetrics metrics = m_title->fontMetrics();
+    const QString name = title.left(end);
+    const QString shown = metrics.elidedText(
+        name, Qt::ElideMiddle, m_title->contentsRect().width() - metrics.horizontalAdvance(rest));
+    m_title->setText(shown + rest);
+    m_title->setToolTip(shown == name ? QString() : name + rest);
 }
 
 void TitleBar::updateState()
@@ -146,6 +158,9 @@ bool TitleBar::eventFilter(QObject *watched, QEvent *event)
             break;
         }
     }
+    if (watched == m_title &&
+        (event->type() == QEvent::Resize || event->type() == QEvent::FontChange))
+        updateTitle();
     return QFrame::eventFilter(watched, event);
 }
 

@@ -25,6 +25,7 @@ public:
 
     /// Adds a widget between title and buttons, such as a menu; takes ownership.
     void addWidget(QWidget *widget);
+    /// As it is shown: a long name is cut in the middle.
     QString title() const;
 
     static constexpr int Height = 40; ///< px

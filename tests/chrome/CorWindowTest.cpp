@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QFrame>
+#include <QLabel>
 #include <QPointer>
 #include <QTest>
 #include <QToolButton>
@@ -148,6 +149,24 @@ private slots:
         QCOMPARE(m_window->titleBar()->title(), QStringLiteral("Alps"));
         m_window->setWindowModified(true);
         QCOMPARE(m_window->titleBar()->title(), QStringLiteral("Alps*"));
+    }
+
+    void longNameLeavesItsMarkInSight()
+    {
+        const QString name = QStringLiteral("Summer ") + QString(200, QLatin1Char('x'));
+        m_window->setWindowTitle(name + QStringLiteral("[*] - Program"));
+        m_window->setWindowModified(true);
+        const auto *label = find<QLabel>("titleText");
+        for (const int width : {400, 600}) {
+            m_window->resize(width, 480);
+            QTRY_COMPARE(m_window->width(), width);
+            QVERIFY(label->text().startsWith(QStringLiteral("Summer")));
+            QVERIFY(label->text().endsWith(QStringLiteral("x* - Program")));
+            const int spare = label->width() - label->sizeHint().width();
+            QVERIFY2(spare >= 0 && spare < 20, qPrintable(QString::number(spare)));
+        }
+        m_window->resize(4000, 480);
+        QTRY_COMPARE(label->text(), name + QStringLiteral("* - Program"));
     }
 
     void contentIsReplaced()

@@ -11,6 +11,8 @@
 #include <QTest>
 #include <QUrl>
 
+#include <functional>
+
 using namespace velmora;
 
 namespace
@@ -29,6 +31,8 @@ struct DraggedFile : QMimeData {
 };
 
 } // namespace
+
+Q_DECLARE_METATYPE(std::function<void(QStandardItemModel &)>)
 
 class QTableViewExTest : public QObject
 {
@@ -138,6 +142,33 @@ private slots:
             return;
         QCOMPARE(moved.first().at(0).value<QVector<int>>(), rows);
         QCOMPARE(moved.first().at(1).toInt(), before);
+    }
+
+    void changedRowsAreNotMoved_data()
+    {
+        QTest::addColumn<std::function<void(QStandardItemModel &)>>("change");
+        const auto row = [](const char *name,
+                            const std::function<void(QStandardItemModel &)> &change) {
+            QTest::newRow(name) << change;
+        };
+        row("came", [](QStandardItemModel &model) { model.insertRow(0); });
+        row("went", [](QStandardItemModel &model) { model.removeRow(0); });
+        row("sorted", [](QStandardItemModel &model) { model.sort(0); });
+        row("all anew", [](QStandardItemModel &model) {
+            model.clear();
+            model.setRowCount(kRows);
+            model.setColumnCount(2);
+        });
+    }
+    void changedRowsAreNotMoved()
+    {
+        QFETCH(std::function<void(QStandardItemModel &)>, change);
+        QSignalSpy moved(m_table.get(), &QTableViewEx::rowsMoved);
+        RowsMimeData data(m_table.get(), {0});
+        QVERIFY(drag(data, 2 * kRowHeight + 30));
+        change(*m_model);
+        QVERIFY(!drop(data, 2 * kRowHeight + 30));
+        QCOMPARE(moved.size(), 0);
     }
 
     void fixedRowsStay()

@@ -22,7 +22,6 @@ BusyNote::BusyNote(QWidget *parent)
     : QFrame(parent), m_text(new QLabel(this)), m_bar(new QProgressBar(this)),
       m_cancel(new QPushButton(this))
 {
-    setObjectName(QStringLiteral("busyNote"));
     setProperty("card", true);
     m_text->setObjectName(QStringLiteral("lblBusy"));
     m_bar->setObjectName(QStringLiteral("busyBar"));

@@ -11,8 +11,8 @@ class QPushButton;
 namespace velmora
 {
 
-/// A line that tells of work going on in the background, with a button to cancel it. Short work
-/// does not show it. GUI thread.
+/// A line that tells of a job going on in the background, with a button to cancel it. A short one
+/// does not show it. Jobs that may go on at the same time have a note each. GUI thread.
 class BusyNote : public QFrame
 {
     Q_OBJECT

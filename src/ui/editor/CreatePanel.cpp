@@ -44,6 +44,7 @@ CreatePanel::CreatePanel(ProjectEditor &editor, const AppSettings &settings, His
         timer->setInterval(kProgressInterval);
     connect(&m_progressTimer, &QTimer::timeout, this, &CreatePanel::onProgressTimer);
     connect(&m_finalTimer, &QTimer::timeout, this, &CreatePanel::onFinalTimer);
+    connect(&m_editor, &ProjectEditor::projectChanged, this, &CreatePanel::dropForeignFormats);
     for (const auto signal : {&ProjectEditor::projectChanged, &ProjectEditor::settingsChanged,
                               &ProjectEditor::totalsChanged})
         connect(&m_editor, signal, this, &CreatePanel::refresh);
@@ -110,6 +111,13 @@ void CreatePanel::connectComposer()
     connect(&m_composer, &Composer::finished, this, &CreatePanel::onFinished);
     connect(&m_composer, &Composer::failed, this, &CreatePanel::onFailed);
     connect(&m_composer, &Composer::canceled, this, &CreatePanel::onCancelled);
+}
+
+/// Takes away what refresh() added for the document before.
+void CreatePanel::dropForeignFormats()
+{
+    while (m_ui->cbxFormat->count() > ValueLists::formats().size())
+        m_ui->cbxFormat->removeItem(m_ui->cbxFormat->count() - 1);
 }
 
 void CreatePanel::refresh()

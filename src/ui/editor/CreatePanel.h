@@ -82,6 +82,7 @@ private:
     void onKept(const QString &fileName, const QString &error);
     void onFailed();
     void showSetup();
+    void dropForeignFormats();
     void refresh();
     void updateCreateButton();
 

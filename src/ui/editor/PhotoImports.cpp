@@ -2,10 +2,13 @@
 #include "ui/editor/PhotoImports.h"
 
 #include "chrome/MessageDialog.h"
+#include "project/documents/ProjectFile.h"
 #include "ui/editor/BusyNote.h"
 #include "ui/model/ProjectEditor.h"
 
 #include <QDir>
+
+#include <algorithm>
 
 namespace velmora
 {
@@ -22,17 +25,28 @@ PhotoImports::PhotoImports(ProjectEditor &editor, BusyNote &note, QWidget *windo
 
 void PhotoImports::add(const QStringList &paths, int row)
 {
-    m_waiting.append({paths, row});
+    const ProjectFile *project = m_editor.project();
+    m_waiting.append({paths, row, project ? project->items().value(row - 1) : nullptr});
     if (!m_importer.isRunning())
         next();
 }
 
 void PhotoImports::next()
 {
-    const auto batch = m_waiting.takeFirst();
+    const Batch batch = m_waiting.takeFirst();
+    m_after = batch.after;
     m_note.begin(tr("Adding photos"));
-    m_importer.start(batch.first, batch.second);
+    m_importer.start(batch.paths, batch.row);
     emit runningChanged();
+}
+
+int PhotoImports::rowAfter(const ProjectItem *slide, int otherwise) const
+{
+    if (!slide || !m_editor.project())
+        return otherwise;
+    const ProjectEditor::Slides &slides = m_editor.project()->items();
+    const auto place = std::find(slides.begin(), slides.end(), slide);
+    return place == slides.end() ? otherwise : static_cast<int>(place - slides.begin()) + 1;
 }
 
 void PhotoImports::cancel()
@@ -47,7 +61,7 @@ void PhotoImports::onFinished(const PhotoImport &import)
     if (import.cancelled) {
         m_refused.clear();
     } else {
-        m_editor.addPhotos(import.photos, import.row);
+        m_editor.addPhotos(import.photos, rowAfter(m_after, import.row));
         m_refused += import.refused;
     }
     if (!m_waiting.isEmpty())

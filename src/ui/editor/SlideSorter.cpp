@@ -24,19 +24,22 @@ SlideSorter::SlideSorter(ProjectEditor &editor, BusyNote &note, QObject *parent)
         m_note.setProgress(tr("Reading the dates of the photos"), done, count);
     });
     connect(&m_note, &BusyNote::cancelClicked, this, [this] { m_dates.cancel(); });
+    connect(&editor, &ProjectEditor::slidesChanged, this, &SlideSorter::changed);
 }
 
 void SlideSorter::reset()
 {
     m_dates.cancel();
     m_criterion = Criterion::Name;
-    m_next = Direction::Ascending;
+    m_sorted.clear();
     emit changed();
 }
 
 Direction SlideSorter::directionFor(Criterion criterion) const
 {
-    return criterion == m_criterion ? m_next : Direction::Ascending;
+    const bool turns = criterion == m_criterion && m_used == Direction::Ascending &&
+                       m_editor.project() && m_editor.project()->items() == m_sorted;
+    return turns ? Direction::Descending : Direction::Ascending;
 }
 
 void SlideSorter::sort(Criterion criterion)
@@ -70,9 +73,9 @@ void SlideSorter::onDates(const PhotoDates::Dates &dates)
 
 void SlideSorter::apply(const ProjectEditor::Slides &order, Criterion criterion)
 {
-    const Direction used = directionFor(criterion);
+    m_used = directionFor(criterion);
     m_criterion = criterion;
-    m_next = used == Direction::Ascending ? Direction::Descending : Direction::Ascending;
+    m_sorted = order;
     m_editor.setOrder(order, QT_TRANSLATE_NOOP("velmora::ProjectEditor", "Sort photos"));
     emit changed();
 }

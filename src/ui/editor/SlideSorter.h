@@ -12,14 +12,14 @@ namespace velmora
 class BusyNote;
 
 /// Sorts and shuffles the slides of the project. Sorting again by the same criterion turns the
-/// direction around. GUI thread.
+/// direction around, as long as the slides still stand as they were sorted. GUI thread.
 class SlideSorter : public QObject
 {
     Q_OBJECT
 public:
     enum class Criterion { Name, Date };
 
-    /// @p note must outlive it.
+    /// @p note is for this alone and must outlive it.
     SlideSorter(ProjectEditor &editor, BusyNote &note, QObject *parent = nullptr);
 
     /// Dates are read in the background first; nothing happens while that is going on already.
@@ -33,10 +33,10 @@ public:
     bool isReading() const { return m_dates.isRunning(); }
     Criterion criterion() const { return m_criterion; }
     /// What the next sorting by the present criterion does.
-    SlideOrder::Direction nextDirection() const { return m_next; }
+    SlideOrder::Direction nextDirection() const { return directionFor(m_criterion); }
 
 signals:
-    void changed(); ///< The criterion or the direction.
+    void changed(); ///< Perhaps the criterion or the direction.
     void readingChanged();
 
 private:
@@ -48,7 +48,8 @@ private:
     BusyNote &m_note;
     PhotoDates m_dates;
     Criterion m_criterion = Criterion::Name;
-    SlideOrder::Direction m_next = SlideOrder::Direction::Ascending;
+    SlideOrder::Direction m_used = SlideOrder::Direction::Descending; ///< By the last sorting.
+    ProjectEditor::Slides m_sorted; ///< What it made. Only compared; empty before the first one.
 };
 
 } // namespace velmora

@@ -2,6 +2,7 @@
 #include "ui/editor/SlidesPage.h"
 
 #include "app/AppSettings.h"
+#include "app/TaskThread.h"
 #include "chrome/HintLabel.h"
 #include "chrome/Theme.h"
 #include "project/documents/ProjectFile.h"
@@ -70,11 +71,14 @@ template <typename Value> QVariant common(const ProjectEditor::Slides &slides, V
 SlidesPage::SlidesPage(ProjectEditor &editor, const AppSettings &settings, QWidget *parent)
     : QWidget(parent), m_editor(editor), m_settings(settings),
       m_ui(std::make_unique<Ui::SlidesPage>()), m_model(new SlideTableModel(editor, this)),
-      m_note(new BusyNote), m_actions(new SlideActions(this)),
-      m_sorter(new SlideSorter(editor, *m_note, this))
+      m_importNote(new BusyNote), m_sortNote(new BusyNote), m_actions(new SlideActions(this)),
+      m_sorter(new SlideSorter(editor, *m_sortNote, this)), m_disk(new TaskThread)
 {
     m_ui->setupUi(this);
-    m_ui->pageLayout->insertWidget(1, m_note);
+    m_importNote->setObjectName(QStringLiteral("importNote"));
+    m_sortNote->setObjectName(QStringLiteral("sortNote"));
+    m_ui->pageLayout->insertWidget(1, m_importNote);
+    m_ui->pageLayout->insertWidget(2, m_sortNote);
     m_hintText = new HintLabel;
     m_hint = createHint(m_hintText, m_ui->tableView->viewport());
     m_update.setSingleShot(true);
@@ -86,7 +90,10 @@ SlidesPage::SlidesPage(ProjectEditor &editor, const AppSettings &settings, QWidg
     updateControls();
 }
 
-SlidesPage::~SlidesPage() = default;
+SlidesPage::~SlidesPage()
+{
+    m_disk->retire();
+}
 
 void SlidesPage::setUpTable()
 {
@@ -287,9 +294,7 @@ void SlidesPage::updateControls()
 void SlidesPage::updateActions()
 {
     const ProjectEditor::Slides selected = m_selection->slides();
-    const bool hasPhoto = std::any_of(selected.begin(), selected.end(), [](ProjectItem *slide) {
-        return qobject_cast<ProjectItemSimple *>(slide) != nullptr;
-    });
+    const bool hasPhoto = !selectedPhotos().isEmpty();
     for (QAction *action : {m_actions->up, m_actions->down, m_actions->rotate,
                             m_actions->rotateBack, m_actions->transition})
         action->setEnabled(hasPhoto);

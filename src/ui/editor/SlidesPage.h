@@ -4,6 +4,7 @@
 #include "ui/editor/SlideDelegate.h"
 #include "ui/model/ProjectEditor.h"
 
+#include <QHash>
 #include <QTimer>
 #include <QWidget>
 
@@ -26,6 +27,7 @@ class SlideActions;
 class SlideSelection;
 class SlideSorter;
 class SlideTableModel;
+class TaskThread;
 
 /// The page of the slide table with its tools, the row "Change all:" and the totals. Its actions
 /// apply to all selected slides. GUI thread.
@@ -36,8 +38,8 @@ public:
     SlidesPage(ProjectEditor &editor, const AppSettings &settings, QWidget *parent = nullptr);
     ~SlidesPage() override;
 
-    /// The line for work in the background.
-    BusyNote &busyNote() { return *m_note; }
+    /// The line that tells of photos being added.
+    BusyNote &importNote() { return *m_importNote; }
     /// Whether the slides are about to be sorted, as soon as the dates of the photos are read.
     bool isSorting() const;
     /// Gives the keys to the table.
@@ -91,6 +93,8 @@ private:
     void deleteSelected();
     void rotateSelected(int degrees);
     void relocate(ProjectItem *slide);
+    QStringList missingBeside(const ProjectItem *slide, const QString &folder) const;
+    void relocateOthers(const QHash<QString, QString> &found, int search);
     void showContextMenu(const QPoint &position);
     void updateLater() { m_update.start(); }
     void updateControls();
@@ -99,18 +103,22 @@ private:
     void updateTotals();
     void placeHint();
     ProjectEditor::Slides scopeOf(int row) const;
+    ProjectEditor::Slides selectedPhotos() const;
     int shownCount() const;
 
     ProjectEditor &m_editor;
     const AppSettings &m_settings;
     std::unique_ptr<Ui::SlidesPage> m_ui;
     SlideTableModel *m_model;
-    BusyNote *m_note;
+    BusyNote *m_importNote;
+    BusyNote *m_sortNote;
     SlideActions *m_actions;
     SlideSorter *m_sorter;
     SlideSelection *m_selection = nullptr;
     QWidget *m_hint; ///< Invites while there are no photos.
     HintLabel *m_hintText;
+    TaskThread *m_disk;            ///< Retired at the end, as a disk may not answer for long.
+    int m_searches = 0;            ///< For photos beside one that was relocated.
     QTimer m_update;               ///< Many changes at once update the controls once.
     ProjectItem *m_told = nullptr; ///< The current slide that listeners know.
 };

@@ -3,6 +3,7 @@
 #include "ui/editor/SlidesPage.h"
 
 #include "app/AppSettings.h"
+#include "app/TaskThread.h"
 #include "chrome/MessageDialog.h"
 #include "chrome/Theme.h"
 #include "project/documents/MediaSuffixes.h"
@@ -22,6 +23,9 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QPointer>
+
+#include <algorithm>
+#include <iterator>
 
 namespace velmora
 {
@@ -131,18 +135,29 @@ void SlidesPage::on_btnRestore_clicked()
         m_editor.setTitleSlide(title->backgroundIndex(), true);
 }
 
+/// Without the title slide, which keeps its place.
+ProjectEditor::Slides SlidesPage::selectedPhotos() const
+{
+    ProjectEditor::Slides photos;
+    const ProjectEditor::Slides selected = m_selection->slides();
+    std::copy_if(
+        selected.begin(), selected.end(), std::back_inserter(photos),
+        [](ProjectItem *slide) { return qobject_cast<ProjectItemSimple *>(slide) != nullptr; });
+    return photos;
+}
+
 void SlidesPage::on_btnUp_clicked()
 {
-    const ProjectEditor::Slides slides = m_selection->slides();
-    if (!slides.isEmpty())
-        m_editor.moveSlides(slides, m_model->rowOf(slides.first()) - 1);
+    const ProjectEditor::Slides photos = selectedPhotos();
+    if (!photos.isEmpty())
+        m_editor.moveSlides(photos, m_model->rowOf(photos.first()) - 1);
 }
 
 void SlidesPage::on_btnDown_clicked()
 {
-    const ProjectEditor::Slides slides = m_selection->slides();
-    if (!slides.isEmpty())
-        m_editor.moveSlides(slides, m_model->rowOf(slides.last()) + 2);
+    const ProjectEditor::Slides photos = selectedPhotos();
+    if (!photos.isEmpty())
+        m_editor.moveSlides(photos, m_model->rowOf(photos.last()) + 2);
 }
 
 void SlidesPage::onBtnShuffleClicked()
@@ -187,19 +202,48 @@ void SlidesPage::relocate(ProjectItem *slide)
     // The project may have been replaced meanwhile.
     if (chosen.isEmpty() || !photo || m_model->rowOf(photo) < 0)
         return;
-    const QDir folder = QFileInfo(chosen).absoluteDir();
-    m_editor.beginStep(QT_TRANSLATE_NOOP("velmora::ProjectEditor", "Relocate photos"));
-    m_editor.relocate(slide, QFileInfo(chosen).absoluteFilePath());
+    const QString file = QFileInfo(chosen).absoluteFilePath();
+    const QStringList others = missingBeside(photo, old.path());
+    const int search = ++m_searches;
+    m_editor.relocate(slide, file, search);
+    m_disk->add([this, photo, file, others, search]() -> TaskThread::Report {
+        QHash<QString, QString> found;
+        const QDir folder = QFileInfo(file).dir();
+        for (const QString &other : others) {
+            const QString place = folder.filePath(QFileInfo(other).fileName());
+            if (QFileInfo::exists(place))
+                found.insert(other, place);
+        }
+        return [this, photo, file, found, search] {
+            // Undone, or of another project by now?
+            if (photo && m_model->rowOf(photo) >= 0 && photo->fileName() == file)
+                relocateOthers(found, search);
+        };
+    });
+}
+
+/// The files of other slides that are missing and lay in that folder.
+QStringList SlidesPage::missingBeside(const ProjectItem *slide, const QString &folder) const
+{
+    QStringList files;
     for (int row = 0; row < m_model->rowCount(); ++row) {
         const auto *other = qobject_cast<ProjectItemSimple *>(m_model->slideAt(row));
-        const bool missing = m_model->index(row, 0).data(SlideTableModel::MissingRole).toBool();
-        if (!other || other == photo || !missing)
-            continue;
-        const QFileInfo file(other->fileName());
-        if (file.path() == old.path() && folder.exists(file.fileName()))
-            m_editor.relocate(m_model->slideAt(row), folder.filePath(file.fileName()));
+        if (other && other != slide && QFileInfo(other->fileName()).path() == folder &&
+            m_model->index(row, 0).data(SlideTableModel::MissingRole).toBool())
+            files.append(other->fileName());
     }
-    m_editor.endStep();
+    return files;
+}
+
+/// @p found has the new places by the old ones.
+void SlidesPage::relocateOthers(const QHash<QString, QString> &found, int search)
+{
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        auto *photo = qobject_cast<ProjectItemSimple *>(m_model->slideAt(row));
+        const QString place = photo ? found.value(photo->fileName()) : QString();
+        if (!place.isEmpty())
+            m_editor.relocate(photo, place, search);
+    }
 }
 
 void SlidesPage::showContextMenu(const QPoint &position)

@@ -17,13 +17,20 @@ VideoName::VideoName(QLineEdit &field, ProjectEditor &editor, QObject *parent)
     connect(&editor, &ProjectEditor::projectChanged, this, &VideoName::takeProject);
     connect(&editor, &ProjectEditor::settingsChanged, this, &VideoName::followTitle);
     takeProject();
-    propose();
 }
 
 void VideoName::takeProject()
 {
-    m_title = m_editor.project() ? m_editor.project()->name() : QString();
+    // Announced again, a slideshow keeps the name that the user may have typed for its video.
+    if (m_editor.project() && m_editor.project() == m_project)
+        return;
+    m_project = m_editor.project();
     m_givenTitle.clear();
+    m_title = m_project ? m_project->name() : QString();
+    propose();
+    // The title of an earlier video would have this one replace it.
+    if (!ProjectName::isProposal(m_title))
+        showTitle();
 }
 
 void VideoName::propose()
@@ -37,6 +44,11 @@ void VideoName::followTitle()
     if (!m_editor.project() || m_editor.project()->name() == m_title)
         return;
     m_title = m_editor.project()->name();
+    showTitle();
+}
+
+void VideoName::showTitle()
+{
     if (m_title == ProjectFile::defaultName())
         propose();
     else if (!m_title.trimmed().isEmpty() && ProjectName::isAllowed(m_title))

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 class QLineEdit;
@@ -10,6 +11,7 @@ namespace velmora
 {
 
 class ProjectEditor;
+class ProjectFile;
 
 /// The field with the video's file name beside the slideshow's title: each gives its text to the
 /// other where that has none of its own. GUI thread.
@@ -28,9 +30,11 @@ public:
 private:
     void takeProject();
     void followTitle();
+    void showTitle();
 
     QLineEdit &m_field;
     ProjectEditor &m_editor;
+    QPointer<ProjectFile> m_project;
     QString m_title;      ///< The slideshow's, as seen last.
     QString m_givenTitle; ///< The one that giveTitle() gave; empty: none.
 };

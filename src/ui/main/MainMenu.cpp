@@ -62,6 +62,13 @@ MainMenu::MainMenu(QWidget *window)
     m_menu.addAction(quit);
     setMenu(&m_menu);
     retranslate();
+    updateActions();
+}
+
+void MainMenu::setProjectOpen(bool isOpen)
+{
+    m_projectOpen = isOpen;
+    updateActions();
 }
 
 void MainMenu::setGenerating(bool generating)
@@ -78,8 +85,10 @@ void MainMenu::setTextEditing(bool editing)
 
 void MainMenu::updateActions()
 {
-    for (QAction *action : {newProject, open, save, saveAs, title, history, settings})
+    for (QAction *action : {newProject, open, history, settings})
         action->setEnabled(!m_generating);
+    for (QAction *action : {save, saveAs, title})
+        action->setEnabled(m_projectOpen && !m_generating);
     for (QAction *action : {addPhoto, addFolder})
         action->setEnabled(!m_generating && !m_textEditing);
 }

@@ -34,6 +34,8 @@ public:
     QAction *const site;
     QAction *const quit;
 
+    /// Without a slideshow there is nothing to save or to name. None is open at first.
+    void setProjectOpen(bool isOpen);
     /// During a render nothing may change the project or leave the editor page.
     void setGenerating(bool generating);
     /// While a caption is edited no photos are added.
@@ -47,6 +49,7 @@ private:
     void updateActions();
 
     QMenu m_menu;
+    bool m_projectOpen = false;
     bool m_generating = false;
     bool m_textEditing = false;
 };

@@ -25,6 +25,7 @@
 #include "ui/main/WindowGeometry.h"
 #include "ui/settings/SettingsWidget.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QStackedWidget>
@@ -58,6 +59,8 @@ MainView::MainView(const Parts &parts)
     connectHistory();
     connect(m_updates, &UpdateNotice::newVersion, this, &MainView::onNewVersion);
     connect(&parts.notification, &DesktopNotification::activated, this, &CorWindow::bringToFront);
+    connect(m_document.get(), &ProjectDocument::replaced, this,
+            [this] { m_menu->setProjectOpen(m_document->project() != nullptr); });
     connect(m_actions, &DocumentActions::opened, this, &MainView::showEditor);
     connect(m_actions, &DocumentActions::closed, this, [this] { m_stack->setCurrentIndex(Start); });
     onPageChanged(Start);
@@ -329,7 +332,8 @@ void MainView::onToggleFullScreen()
 
 void MainView::tellInBackground(const QString &title, const QString &text)
 {
-    if (!isActiveWindow())
+    // Dialogs of the program are in front of this window as well.
+    if (!QApplication::activeWindow())
         m_parts.notification.show(title, text);
 }
 

@@ -1,22 +1,36 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/main/QuietMoment.h"
 
+#include "chrome/QTableViewEx.h"
+
 #include <QApplication>
 #include <QScopedValueRollback>
 
 namespace velmora
 {
 
+namespace
+{
+
+constexpr int kLookAgain = 200; // ms
+
+/// What ends without a word to the window.
+bool isHandBusy()
+{
+    return QTableViewEx::isDragging() || QApplication::activePopupWidget();
+}
+
+} // namespace
+
 QuietMoment::QuietMoment(QObject *parent) : QObject(parent)
 {
     m_soon.setSingleShot(true);
-    m_soon.setInterval(0);
     connect(&m_soon, &QTimer::timeout, this, &QuietMoment::look);
 }
 
 bool QuietMoment::isQuiet() const
 {
-    return !m_generating && !m_inTask && !QApplication::activeModalWidget();
+    return !m_generating && !m_inTask && !QApplication::activeModalWidget() && !isHandBusy();
 }
 
 void QuietMoment::run(const Task &task)
@@ -38,6 +52,8 @@ void QuietMoment::look()
         const QScopedValueRollback<bool> inTask(m_inTask, true);
         task();
     }
+    if (!m_waiting.isEmpty() && isHandBusy())
+        m_soon.start(kLookAgain);
 }
 
 } // namespace velmora

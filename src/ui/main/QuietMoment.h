@@ -11,8 +11,8 @@ namespace velmora
 {
 
 /// Keeps back what arrives by itself, such as files from a second start of the program, while a
-/// dialog is open or a video is being made: whoever waits for either relies on the project that is
-/// open. GUI thread.
+/// dialog or a menu is open, rows are being dragged or a video is being made: whoever waits for
+/// their end relies on the project that is open. GUI thread.
 class QuietMoment : public QObject
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
     void run(const Task &task);
     void setGenerating(bool generating);
     /// A dialog may have been closed; tasks follow from the event loop.
-    void lookSoon() { m_soon.start(); }
+    void lookSoon() { m_soon.start(0); }
 
 private:
     bool isQuiet() const;

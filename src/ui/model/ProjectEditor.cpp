@@ -32,7 +32,7 @@ public:
     }
 
     void changeSlides(const Slides &slides, const char *step,
-                      const std::function<void(SlideState &)> &change)
+                      const std::function<void(SlideState &)> &change, int group = -1)
     {
         QVector<SlideStatesCommand::Change> changes;
         for (ProjectItem *slide : slides) {
@@ -43,7 +43,7 @@ public:
                 changes.append({slide, before, after});
         }
         if (!changes.isEmpty())
-            stack.push(new SlideStatesCommand(editor, changes, QLatin1String(step)));
+            stack.push(new SlideStatesCommand(editor, changes, QLatin1String(step), group));
     }
 
     void changeProject(const char *step, const std::function<void(ProjectState &)> &change)
@@ -245,10 +245,11 @@ void ProjectEditor::setTitleSlide(int backgroundIndex, bool visible)
         });
 }
 
-void ProjectEditor::relocate(ProjectItem *slide, const QString &fileName)
+void ProjectEditor::relocate(ProjectItem *slide, const QString &fileName, int search)
 {
-    d->changeSlides({slide}, QT_TR_NOOP("Relocate photo"),
-                    [&fileName](SlideState &state) { state.fileName = fileName; });
+    d->changeSlides(
+        {slide}, QT_TR_NOOP("Relocate photos"),
+        [&fileName](SlideState &state) { state.fileName = fileName; }, search);
 }
 
 void ProjectEditor::addAudio(const QVector<AudioItem> &files, int row)

@@ -63,8 +63,9 @@ public:
     /// As setCaption(), but the slides keep their texts.
     void setCaptionStyle(const Slides &slides, const CaptionStyle &style);
     void setTitleSlide(int backgroundIndex, bool visible);
-    /// Points a photo slide to another file.
-    void relocate(ProjectItem *slide, const QString &fileName);
+    /// Points a photo slide to another file. Calls for several slides with the same @p search are
+    /// one step where they follow on each other; -1: a step of its own.
+    void relocate(ProjectItem *slide, const QString &fileName, int search = -1);
 
     // Sound.
     void addAudio(const QVector<AudioItem> &files, int row);

@@ -7,8 +7,8 @@ namespace velmora
 {
 
 SlideStatesCommand::SlideStatesCommand(ProjectEditor &editor, QVector<Change> changes,
-                                       const QString &text)
-    : QUndoCommand(text), m_editor(editor), m_changes(std::move(changes))
+                                       const QString &text, int group)
+    : QUndoCommand(text), m_editor(editor), m_changes(std::move(changes)), m_group(group)
 {
 }
 
@@ -20,6 +20,12 @@ void SlideStatesCommand::undo()
 void SlideStatesCommand::redo()
 {
     apply(&Change::after);
+}
+
+bool SlideStatesCommand::mergeWith(const QUndoCommand *other)
+{
+    m_changes += static_cast<const SlideStatesCommand *>(other)->m_changes;
+    return true;
 }
 
 void SlideStatesCommand::apply(SlideState Change::*state)

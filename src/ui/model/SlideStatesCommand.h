@@ -11,7 +11,8 @@ namespace velmora
 
 class ProjectEditor;
 
-/// Changes values of slides, such as their times. The slides outlive the command.
+/// Changes values of slides, such as their times. The slides outlive the command. Commands of the
+/// same group that follow on each other become one.
 class SlideStatesCommand : public QUndoCommand
 {
 public:
@@ -21,16 +22,21 @@ public:
         SlideState after;
     };
 
-    SlideStatesCommand(ProjectEditor &editor, QVector<Change> changes, const QString &text);
+    /// @p group -1: none.
+    SlideStatesCommand(ProjectEditor &editor, QVector<Change> changes, const QString &text,
+                       int group = -1);
 
     void undo() override;
     void redo() override;
+    int id() const override { return m_group; }
+    bool mergeWith(const QUndoCommand *other) override;
 
 private:
     void apply(SlideState Change::*state);
 
     ProjectEditor &m_editor;
-    QVector<Change> m_changes;
+    QVector<Change> m_changes; ///< Of slides that differ.
+    int m_group;
 };
 
 } // namespace velmora

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/RenderRequest.h"
 #include "helpers/Files.h"
+#include "project/documents/ProjectName.h"
 #include "ui/audio/AudioListWidget.h"
 #include "ui/editor/CreatePanel.h"
 #include "ui/editor/EditorPage.h"
@@ -123,6 +124,33 @@ private slots:
         setName(QStringLiteral("other"));
         createInVain();
         QCOMPARE(m->project->name(), title.isEmpty() ? QStringLiteral("other") : title);
+    }
+
+    void nextSlideshowHasItsOwnName_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<bool>("isTaken");
+        QTest::newRow("Trip") << "Trip" << true;
+        QTest::newRow("none") << "" << false;
+        QTest::newRow("not allowed") << "1:0" << false;
+        QTest::newRow("of an earlier video") << "sshow_2020-01-01_120000" << false;
+    }
+    void nextSlideshowHasItsOwnName()
+    {
+        QFETCH(QString, title);
+        QFETCH(bool, isTaken);
+        const auto *field = m->child<QLineEdit>("txtProjName");
+        m->page->editor().setName(QStringLiteral("Anna's wedding"));
+        setName(QStringLiteral("typed"));
+        m->page->setProject(m->project.get());
+        QCOMPARE(field->text(), QStringLiteral("typed"));
+        m->page->setProject(nullptr);
+        m->project = std::make_unique<ProjectFile>(m->settings, ProjectFile::TitleSlide::Create);
+        if (!title.isEmpty())
+            m->project->setName(title);
+        m->page->setProject(m->project.get());
+        QCOMPARE(field->text() == title, isTaken);
+        QCOMPARE(ProjectName::isProposal(field->text()), !isTaken);
     }
 
     void createMakesTheVideo_data()
@@ -309,6 +337,21 @@ private slots:
                  qPrintable(m->message()));
         QVERIFY2(m->message().contains(problem), qPrintable(m->message()));
         QCOMPARE(started.count(), 0);
+    }
+
+    void foreignFormatGoesWithItsDocument()
+    {
+        const auto *formats = m->child<QComboBox>("cbxFormat");
+        ProjectFile other(m->settings, ProjectFile::TitleSlide::Create);
+        for (const char *foreign : {"mkv", "wmv"}) {
+            other.setFormat(QLatin1String(foreign));
+            m->page->setProject(&other);
+            QCOMPARE(formats->count(), 5);
+            QCOMPARE(formats->currentData().toString(), QLatin1String(foreign));
+        }
+        m->page->setProject(m->project.get());
+        QCOMPARE(formats->count(), 4);
+        QCOMPARE(formats->currentData().toString(), QStringLiteral("mp4"));
     }
 
     void requestCarriesProfileAndFormat()

@@ -120,16 +120,23 @@ private slots:
 
     void keysEditTheSelection_data()
     {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QVector<int>>("rows");
         QTest::addColumn<QString>("order");
-        QTest::newRow("actUp") << "bcad";
-        QTest::newRow("actDown") << "adbc";
-        QTest::newRow("actDelete") << "ad";
+        const QVector<int> two = {2, 3};
+        QTest::newRow("up") << "actUp" << two << "bcad";
+        QTest::newRow("down") << "actDown" << two << "adbc";
+        QTest::newRow("delete") << "actDelete" << two << "ad";
+        QTest::newRow("up, title slide too") << "actUp" << QVector<int>{0, 3} << "acbd";
+        QTest::newRow("down, title slide too") << "actDown" << QVector<int>{0, 3} << "abdc";
     }
     void keysEditTheSelection()
     {
+        QFETCH(QString, name);
+        QFETCH(QVector<int>, rows);
         m->addPhotos(QStringLiteral("abcd"));
-        m->select({2, 3});
-        const int code = action(QTest::currentDataTag())->shortcut()[0];
+        m->select(rows);
+        const int code = action(name.toLatin1())->shortcut()[0];
         QTest::keyClick(&m->table(), static_cast<Qt::Key>(code & ~int(Qt::KeyboardModifierMask)),
                         Qt::KeyboardModifiers(code & int(Qt::KeyboardModifierMask)));
         QTEST(m->letters(), "order");
@@ -278,8 +285,15 @@ private slots:
         QVERIFY(!m->page->isEditingText());
     }
 
+    void missingPhotosAreRelocatedTogether_data()
+    {
+        QTest::addColumn<bool>("undoneAtOnce");
+        QTest::newRow("undone later") << false;
+        QTest::newRow("undone while the others are looked for") << true;
+    }
     void missingPhotosAreRelocatedTogether()
     {
+        QFETCH(bool, undoneAtOnce);
         m->addPhotos(QStringLiteral("abc"));
         QVERIFY(QDir().mkpath(m->path("moved")));
         for (const char *name : {"a.png", "b.png"})
@@ -304,8 +318,15 @@ private slots:
                 paths.append(qobject_cast<ProjectItemSimple *>(m->items().at(row))->fileName());
             return paths;
         };
-        QCOMPARE(files(),
-                 QStringList({m->path("moved/a.png"), m->path("moved/b.png"), m->path("c.png")}));
+        QCOMPARE(files().first(), m->path("moved/a.png"));
+        if (undoneAtOnce) {
+            m->page->editor().undoStack()->undo();
+            QTest::qWait(100);
+            QCOMPARE(files(), QStringList({m->path("a.png"), m->path("b.png"), m->path("c.png")}));
+            return;
+        }
+        QTRY_COMPARE(files(), QStringList({m->path("moved/a.png"), m->path("moved/b.png"),
+                                           m->path("c.png")}));
         QTRY_VERIFY(!missing.data(SlideTableModel::MissingRole).toBool());
         m->click("btnUndo");
         QCOMPARE(files(), QStringList({m->path("a.png"), m->path("b.png"), m->path("c.png")}));

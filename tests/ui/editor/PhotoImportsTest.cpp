@@ -108,11 +108,38 @@ private slots:
             write(QStringLiteral("img%1.png").arg(i), "broken");
         m->page->addFolder(m->path("drop"));
         QTRY_VERIFY(isImporting());
-        emit m->page->findChild<BusyNote *>()->cancelClicked();
+        emit m->child<BusyNote>("importNote")->cancelClicked();
         QTRY_VERIFY(!isImporting());
         QCOMPARE(m->items().size(), 1);
         QVERIFY(!report());
-        QVERIFY(!m->child<QWidget>("busyNote")->isVisible());
+        QVERIFY(!m->child<QWidget>("importNote")->isVisible());
+    }
+
+    void photosStayWithTheSlideBefore_data()
+    {
+        QTest::addColumn<QString>("result");
+        QTest::newRow("others came") << "xabyc";
+        QTest::newRow("moved") << "acby";
+        QTest::newRow("gone") << "acy";
+    }
+    void photosStayWithTheSlideBefore()
+    {
+        m->addPhotos(QStringLiteral("abc"));
+        ProjectEditor &editor = m->page->editor();
+        ProjectItem *before = m->items().at(2);
+        m->page->onFilesDropped({m->makePhoto(QStringLiteral("y.png"))}, 2);
+        switch (QTest::currentDataTag()[0]) {
+        case 'o':
+            editor.addPhotos({m->makePhoto(QStringLiteral("x.png"))}, 1);
+            break;
+        case 'm':
+            editor.moveSlides({before}, m->items().size());
+            break;
+        default:
+            editor.removeSlides({before});
+        }
+        QTRY_VERIFY(!isImporting());
+        QTEST(m->letters(), "result");
     }
 
     void severalDropsReportOnce()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helpers/Words.h"
 #include "project/images/Pictures.h"
+#include "ui/editor/BusyNote.h"
 #include "ui/editor/EditorPage.h"
 
 #include <QAction>
@@ -56,6 +57,24 @@ private slots:
         QCOMPARE(m->items().first()->title(), QStringLiteral("Starter"));
     }
 
+    void otherOrderIsSortedUpwards_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::newRow("moved") << "btnDown";
+        QTest::newRow("undone") << "btnUndo";
+        QTest::newRow("deleted") << "btnDelete";
+    }
+    void otherOrderIsSortedUpwards()
+    {
+        QFETCH(QString, button);
+        add(words("b.png c.png a.png"));
+        m->click("btnSort");
+        m->select({1});
+        m->click(button.toLatin1());
+        m->click("btnSort");
+        QVERIFY2(order().endsWith(QStringLiteral("b.png c.png")), qPrintable(order()));
+    }
+
     void datesAreReadInTheBackground()
     {
         add(words("b.png a.png c.png"));
@@ -77,6 +96,25 @@ private slots:
         changeDate("b.png", 2);
         m->child<QAction>("actSortByDate")->trigger();
         QTRY_COMPARE(order(), QStringLiteral("b.png a.png"));
+    }
+
+    void jobsAreCancelledOneByOne_data()
+    {
+        QTest::addColumn<QString>("result");
+        QTest::newRow("importNote") << "b.png a.png";
+        QTest::newRow("sortNote") << "a.png b.png c.png";
+    }
+    void jobsAreCancelledOneByOne()
+    {
+        add(words("a.png b.png"));
+        changeDate("a.png", 2);
+        changeDate("b.png", 1);
+        m->child<QAction>("actSortByDate")->trigger();
+        m->page->onFilesDropped({m->makePhoto(QStringLiteral("c.png"))}, -1);
+        emit m->child<BusyNote>(QTest::currentDataTag())->cancelClicked();
+        const auto *create = m->child<QWidget>("btnCreate"); // waits for both
+        QTRY_VERIFY(create->isEnabled());
+        QTEST(order(), "result");
     }
 
     void shuffleKeepsAllPhotos()

@@ -5,6 +5,7 @@
 #include "ui/main/MainViewFixture.h"
 
 #include <QAction>
+#include <QMenu>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTextEdit>
@@ -83,9 +84,17 @@ private slots:
         document.setFormat(QStringLiteral("mpg")); // which no render makes
         const QString path = m->folder.filePath(QStringLiteral("Holiday 2026.json"));
         QVERIFY(document.saveToFile(path));
+        const auto offered = [this] {
+            int count = 0;
+            for (const char *name : {"actSave", "actSaveAs", "actTitle"})
+                count += m->child<QAction>(name)->isEnabled() ? 1 : 0;
+            return count;
+        };
+        QCOMPARE(offered(), 0);
         m->chooseFiles({path});
         m->press(Qt::Key_O, Qt::ControlModifier);
         QCOMPARE(m->view->page(), MainView::Editor);
+        QCOMPARE(offered(), 3);
         QCOMPARE(m->view->windowTitle(), QStringLiteral("Holiday 2026[*] \u2013 Corvel Velmora"));
         QVERIFY(!m->view->isWindowModified());
         QCOMPARE(m->view->document().project()->format(), QStringLiteral("mkv"));
@@ -106,6 +115,7 @@ private slots:
         QCOMPARE(m->view->page(), MainView::Start);
         QCOMPARE(m->view->windowTitle(), QStringLiteral("Corvel Velmora"));
         QVERIFY(!m->view->document().project());
+        QCOMPARE(offered(), 0);
     }
 
     void openingTheOpenFileKeepsWhatIsSaved()
@@ -157,6 +167,21 @@ private slots:
         m->press(Qt::Key_T, Qt::ControlModifier);
         QTRY_COMPARE(m->view->document().path(), path);
         QCOMPARE(m->view->document().project()->name(), document.name());
+    }
+
+    void handedOverFilesWaitForMenus()
+    {
+        m->view->document().begin();
+        const QString path = m->folder.filePath(QStringLiteral("Holiday.json"));
+        QVERIFY(m->view->document().project()->saveToFile(path));
+        QMenu menu;
+        menu.addAction(QStringLiteral("Delete"));
+        menu.popup({});
+        m->view->openFiles({path});
+        QTest::qWait(300);
+        QCOMPARE(m->view->document().path(), QString());
+        menu.close();
+        QTRY_COMPARE(m->view->document().path(), path);
     }
 
     void handedOverFilesWaitForTheVideo()

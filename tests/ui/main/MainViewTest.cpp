@@ -168,9 +168,11 @@ private slots:
         m->beginSlideshow();
         QVERIFY(!m->child<QLabel>("lblLastProject")->isVisible());
         m->addToHistory("new.mp4");
-        QWidget other;
-        other.show();
-        QApplication::setActiveWindow(&other);
+        QDialog dialog;
+        dialog.show();
+        QApplication::setActiveWindow(&dialog);
+        emit m->view->editorPage().failed(QStringLiteral("Seen anyhow"));
+        QApplication::setActiveWindow(nullptr); // another program is in front
         emit m->view->editorPage().failed(QStringLiteral("No room"));
         emit m->view->editorPage().recorded();
         const QString video = m->folder.filePath(QStringLiteral("new.mp4"));
