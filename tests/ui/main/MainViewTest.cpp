@@ -342,6 +342,9 @@ private slots:
         m->addToHistory("new.mp4");
         m->show();
         m->beginSlideshow();
+        // Values that are not offered.
+        m->view->editorPage().editor().setTransitionSeconds(6);
+        m->view->editorPage().editor().setResolution({1280, 720});
         m->view->editorPage().editor().addPhotos({m->makePhoto(QStringLiteral("b.png"))}, -1);
         m->press(Qt::Key_Comma, Qt::ControlModifier);
         PseudoTranslator translator;
@@ -349,8 +352,9 @@ private slots:
         QTRY_COMPARE(firstButton(), PseudoTranslator::of("Add Photo"));
         // Beside names there are texts that are set whenever they are shown, and those of Qt.
         const QStringList others =
-            QStringLiteral("begin.png|English|1920x1080|Adding photos|Adding...|Preparing the "
-                           "preview|Scroll Left|Scroll Right")
+            QStringLiteral(
+                "begin.png|English|1920x1080|1280x720|Adding photos|Adding...|Preparing the "
+                "preview|Scroll Left|Scroll Right")
                 .split(QLatin1Char('|'));
         const QStringList bad = PseudoTranslator::untranslated(*m->view, others)
                                     .filter(QRegularExpression(QStringLiteral("^(?!New project)")));
@@ -361,6 +365,9 @@ private slots:
         QVERIFY(m->child<QAction>("actUndo")->toolTip().contains(QLatin1String("[Add photos]")));
         QVERIFY(m->child<QPushButton>("btnClear")->text().contains(QLatin1String("(3)")));
         QCOMPARE(m->child<QPopupButton>("btnDefaultTime")->text(), QStringLiteral("[3 sec]"));
+        QCOMPARE(m->child<QPopupButton>("btnTransitionDuration")->text(),
+                 QStringLiteral("[6 sec]"));
+        QCOMPARE(m->child<QPopupButton>("btnOutResolution")->text(), QStringLiteral("1280x720"));
         QCOMPARE(m->child<QPopupButton>("btnTime")->value().toInt(), 3);
         QCOMPARE(m->child<QPushButton>("btnCreate")->shortcut(),
                  QKeySequence(Qt::CTRL + Qt::Key_Return));
