@@ -37,15 +37,15 @@ void VideoName::followTitle()
     if (!m_editor.project() || m_editor.project()->name() == m_title)
         return;
     m_title = m_editor.project()->name();
-    if (m_title == ProjectFile::defaultName())
+    if (!m_editor.project()->hasOwnName())
         propose();
-    else if (!m_title.trimmed().isEmpty() && ProjectName::isAllowed(m_title))
+    else if (ProjectName::isAllowed(m_title))
         m_field.setText(m_title);
 }
 
 void VideoName::giveTitle()
 {
-    const bool isOwn = m_title != ProjectFile::defaultName() && m_title != m_givenTitle &&
+    const bool isOwn = m_editor.project()->hasOwnName() && m_title != m_givenTitle &&
                        !ProjectName::isProposal(m_title);
     if (isOwn)
         return;

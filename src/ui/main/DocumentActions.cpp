@@ -124,8 +124,8 @@ void DocumentActions::offerRestore(Autosave &autosave)
     Autosave::Found found = autosave.find(m_settings);
     if (!found.project)
         return;
-    const QString name =
-        found.path.isEmpty() ? found.project->name() : QFileInfo(found.path).completeBaseName();
+    const QString name = found.path.isEmpty() ? found.project->shownName()
+                                              : QFileInfo(found.path).completeBaseName();
     enum Button { Discard, Restore };
     MessageDialog::Message message;
     message.kind = MessageDialog::Kind::Question;
@@ -251,8 +251,10 @@ void DocumentActions::onTitle()
     if (!m_document.project())
         return;
     const QPointer<ProjectFile> project = m_document.project();
-    SetNameDialog dialog(project->name(), m_window);
-    if (dialog.exec() == QDialog::Accepted && project && project == m_document.project())
+    const QString shown = project->shownName();
+    SetNameDialog dialog(shown, m_window);
+    const bool isGiven = dialog.exec() == QDialog::Accepted && dialog.name() != shown;
+    if (isGiven && project && project == m_document.project())
         m_document.setName(dialog.name());
 }
 

@@ -53,6 +53,8 @@ public slots:
     bool onSave();   ///< False if nothing was saved.
     bool onSaveAs(); ///< As onSave().
     void onTitle();
+    /// Shows the state of the document, in the present language, in the window's title.
+    void updateTitle();
 
 signals:
     void opened(); ///< Another project document is open.
@@ -63,7 +65,6 @@ private:
     std::unique_ptr<ProjectFile> read(const QString &path); ///< Null: the user was told why.
     bool saveTo(const QString &path);
     void onResumed();
-    void updateTitle();
     QString proposedPath() const;
 
     ProjectDocument &m_document;

@@ -177,7 +177,7 @@ void MainView::onFinished(const QString &fileName)
 /// may be selected there, so nothing relies on it.
 void MainView::offerNextSteps(const QString &video, const ProjectFile *entry)
 {
-    const QString title = entry ? entry->name() : QFileInfo(video).completeBaseName();
+    const QString title = entry ? entry->shownName() : QFileInfo(video).completeBaseName();
     const QString diskTitle = entry ? starterText(*entry) : QString();
     auto *window = new FinalWindow(video, m_parts.fileManager, this);
     window->setAttribute(Qt::WA_DeleteOnClose);
@@ -336,6 +336,8 @@ bool MainView::event(QEvent *event)
 {
     if (event->type() == QEvent::WindowUnblocked)
         m_quiet->lookSoon();
+    if (event->type() == QEvent::LanguageChange)
+        m_actions->updateTitle();
     return CorWindow::event(event);
 }
 

@@ -102,6 +102,8 @@ private slots:
                                 << kept;
         };
         row("no title", "", "video", "video");
+        row("blank title", " ", "video", "video");
+        row("no title in German", "Neues Projekt", "video", "video");
         row("title", "Trip", "", "Trip");
         row("both", "Trip", "video", "Trip");
         row("no file name", "1:0", "", "1:0");
@@ -122,7 +124,8 @@ private slots:
         // A name that a render gave gives way to the next one.
         setName(QStringLiteral("other"));
         createInVain();
-        QCOMPARE(m->project->name(), title.isEmpty() ? QStringLiteral("other") : title);
+        const bool isOwn = title == QLatin1String("Trip") || title == QLatin1String("1:0");
+        QCOMPARE(m->project->name(), isOwn ? title : QStringLiteral("other"));
     }
 
     void createMakesTheVideo_data()
