@@ -55,6 +55,26 @@ private slots:
     }
     void cleanup() { m.reset(); }
 
+    void currentRowIsSeen()
+    {
+        m->select({2});
+        m->table().setFocus();
+        const auto photo = [this] {
+            return m->table().model()->index(4, 0).data(Qt::DecorationRole).value<QImage>();
+        };
+        QTRY_VERIFY(!photo().isNull());
+        const auto picture = [this] { return m->table().viewport()->grab(cell(4, 0)).toImage(); };
+        const QImage before = picture();
+        for (int i = 0; i < 2; ++i)
+            QTest::keyClick(&m->table(), Qt::Key_Down, Qt::ControlModifier);
+        QCOMPARE(m->table().currentIndex(), m->table().model()->index(4, 0));
+        QVERIFY(!m->table().selectionModel()->isRowSelected(4, {}));
+        const QImage current = picture();
+        QVERIFY(current != before);
+        QTest::keyClick(&m->table(), Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(picture(), before);
+    }
+
     void filesAreDroppedBetweenRows()
     {
         QVERIFY(dropFilesOn(
