@@ -187,6 +187,7 @@ void MainWindowWidget::connectParts()
         emit progressStarted();
     });
     connect(m_create, &CreatePanel::progressFinished, this, [this] {
+        m_preview->leaveFullSize(); // would cover what is shown next
         setGenerating(false);
         emit progressFinished();
     });
@@ -296,8 +297,10 @@ void MainWindowWidget::silence()
 
 void MainWindowWidget::hideEvent(QHideEvent *event)
 {
-    if (!event->spontaneous())
+    if (!event->spontaneous()) {
+        m_preview->leaveFullSize();
         silence();
+    }
     QWidget::hideEvent(event);
 }
 

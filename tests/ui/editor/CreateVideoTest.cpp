@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QStackedWidget>
+#include <QToolButton>
 #include <QUndoStack>
 
 using namespace velmora;
@@ -126,6 +127,29 @@ private slots:
         createInVain();
         const bool isOwn = title == QLatin1String("Trip") || title == QLatin1String("1:0");
         QCOMPARE(m->project->name(), isOwn ? title : QStringLiteral("other"));
+    }
+
+    void fullScreenDoesNotOutliveTheRenderOrThePage()
+    {
+        m->addPhotos(QStringLiteral("a"));
+        const QWidget *player = m->child<QWidget>("player");
+        const auto isFull = [player] { return player->window()->isFullScreen(); };
+        const auto show = [this] { m->child<QToolButton>("btnFullSize")->click(); };
+        create();
+        show();
+        QTRY_VERIFY(isFull());
+        QVariant wasFull;
+        connect(m->page.get(), &MainWindowWidget::finished, this, [&] { wasFull = isFull(); });
+        QTRY_VERIFY(wasFull.isValid());
+        QVERIFY(!wasFull.toBool());
+
+        show();
+        QTRY_VERIFY(isFull());
+        m->page->hide();
+        QCOMPARE(player->window(), m->page.get());
+        QVERIFY(!player->isVisible());
+        m->page->show();
+        QTRY_VERIFY(player->isVisible());
     }
 
     void createMakesTheVideo_data()
