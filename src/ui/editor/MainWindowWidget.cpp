@@ -170,6 +170,7 @@ void MainWindowWidget::connectParts()
     connect(m_slides, &SlidesPage::sortingChanged, this, &MainWindowWidget::updateObstacle);
     connect(m_slides, &SlidesPage::filesDropped, this, &MainWindowWidget::onFilesDropped);
     connect(m_slides, &SlidesPage::currentSlideChanged, m_preview, &PreviewWidget::setSlide);
+    connect(m_slides, &SlidesPage::filesChanged, m_preview, &PreviewWidget::refreshSoon);
     connect(m_slides, &SlidesPage::previewRequested, this, &MainWindowWidget::onPreviewClicked);
     connect(m_slides, &SlidesPage::captionRequested, this, &MainWindowWidget::editCaption);
     connect(m_slides, &SlidesPage::captionOfAllRequested, this,

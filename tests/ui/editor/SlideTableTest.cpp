@@ -4,6 +4,7 @@
 #include "helpers/Drop.h"
 #include "ui/editor/EditorPage.h"
 #include "ui/editor/SlideNumberDelegate.h"
+#include "ui/preview/VideoPlayer.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -217,6 +218,22 @@ private slots:
         for (int i = 0; i < text.width() * text.height() && !red; ++i)
             red = text.pixelColor(i % text.width(), i / text.width()) == QColor(Theme::Danger);
         QVERIFY(red);
+    }
+
+    void previewFollowsTheFile()
+    {
+        m->select({2});
+        const auto color = [this] {
+            const QImage &picture = m->child<VideoPlayer>("player")->picture();
+            return picture.isNull() ? QColor()
+                                    : picture.pixelColor(picture.width() / 2, picture.height() / 4);
+        };
+        QTRY_COMPARE(color(), QColor(Qt::darkGreen));
+        loseSecondPhoto();
+        QTRY_COMPARE(color(), QColor(Qt::black)); // a note, farther below
+        m->makePhoto(QStringLiteral("b.png"), Qt::red);
+        m->table().slides()->checkFiles();
+        QTRY_COMPARE(color(), QColor(Qt::red));
     }
 
     void relocateButtonHoldsItsText()
