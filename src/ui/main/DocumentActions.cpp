@@ -50,6 +50,7 @@ DocumentActions::DocumentActions(ProjectDocument &document, const AppSettings &s
     connect(menu.title, &QAction::triggered, this, &DocumentActions::onTitle);
     connect(&m_resume, &ProjectResume::ready, this,
             [this, &quiet] { quiet.run([this] { onResumed(); }); });
+    connect(&document, &ProjectDocument::replaced, this, &DocumentActions::forgetResume);
     connect(&document, &ProjectDocument::stateChanged, this, &DocumentActions::updateTitle);
     updateTitle();
 }
@@ -65,9 +66,10 @@ void DocumentActions::updateTitle()
 
 void DocumentActions::onResumed()
 {
-    if (!m_resume.isReady() || !mayLeave())
+    std::unique_ptr<ProjectFile> project = m_resume.isReady() ? m_resume.take() : nullptr;
+    if (!project || !mayLeave())
         return;
-    m_document.replace(m_resume.take(), QString());
+    m_document.replace(std::move(project), QString());
     emit opened();
 }
 

@@ -38,6 +38,8 @@ public:
     /// Opens a copy of an entry of the history; opened() may follow later. Nothing changes if the
     /// entry cannot be read.
     void resume(const ProjectFile &entry) { m_resume.start(entry); }
+    /// Leaves it at that, since the user went on with something else.
+    void forgetResume() { m_resume.cancel(); }
     /// Asks whether to restore what was not saved before a crash, if there is something.
     void offerRestore(Autosave &autosave);
     /// Opens a project document in place of the open one; tells the user why it cannot be read.

@@ -199,11 +199,12 @@ void MainView::runUpdateChecker()
 
 void MainView::onNewVersion(const QString &version)
 {
-    m_updates->show(version);
+    m_quiet->run([this, version] { m_updates->show(version); });
 }
 
 void MainView::onProgressStarted()
 {
+    m_actions->forgetResume();
     m_menu->setGenerating(true);
     m_quiet->setGenerating(true);
     m_taskbar.begin(TaskbarShare::Video);
