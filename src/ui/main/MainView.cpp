@@ -27,6 +27,7 @@
 
 #include <QCloseEvent>
 #include <QFileInfo>
+#include <QSettings>
 #include <QStackedWidget>
 
 #include <utility>
@@ -120,6 +121,12 @@ void MainView::addFiles(const QStringList &files)
 void MainView::offerRestore()
 {
     m_actions->offerRestore(*m_autosave);
+}
+
+void MainView::letGo()
+{
+    m_autosave->letGo();
+    m_parts.store.sync();
 }
 
 void MainView::onMessageReceived(const QString &message)
