@@ -109,7 +109,12 @@ int runProgram(velmora::Application &application, const QStringList &files)
         for (const QString &text : qAsConst(early))
             window.onMessageReceived(text);
     });
-    return QApplication::exec();
+    const int result = QApplication::exec();
+    // Another start need not wait for the rest of the end, which may be long.
+    window.letGo();
+    history.finish();
+    application.releaseInstance();
+    return result;
 }
 
 int runInstance(int &argc, char **argv)
@@ -121,8 +126,6 @@ int runInstance(int &argc, char **argv)
         application.sendMessage(StartMessage::compose(files), kHandOverTimeout))
         return 0;
     const int result = runProgram(application, files);
-    // Another start need not wait for this.
-    application.releaseInstance();
     MetricSender::instance().flush(kMetricTimeout);
     return result;
 }

@@ -35,6 +35,13 @@ HistoryStore::HistoryStore(const QString &path, const AppSettings &settings)
 
 HistoryStore::~HistoryStore() = default;
 
+void HistoryStore::finish() const
+{
+    if (m_writer) {
+        m_writer->finish();
+    }
+}
+
 QString HistoryStore::copyPath() const
 {
     return m_path + QStringLiteral(".bak");
@@ -42,9 +49,7 @@ QString HistoryStore::copyPath() const
 
 bool HistoryStore::load()
 {
-    if (m_writer) {
-        m_writer->finish();
-    }
+    finish();
     m_projects.clear();
     QByteArray content;
     QString reason;
@@ -105,9 +110,7 @@ bool HistoryStore::appendProject(const QJsonObject &object)
 
 bool HistoryStore::save(QString *error) const
 {
-    if (m_writer) {
-        m_writer->finish();
-    }
+    finish();
     const QString reason = write(m_projects, m_settings.transitionTime);
     if (error && !reason.isEmpty()) {
         *error = reason;

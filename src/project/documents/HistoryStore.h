@@ -54,6 +54,8 @@ public:
     /// what the file holds in the end. @p done is called by the event loop, unless @p context is
     /// gone by then.
     void saveLater(QObject *context, Done done);
+    /// Waits for what saveLater() has begun.
+    void finish() const;
 
     /// The copy of a file that was not read whole, made before that is replaced.
     QString copyPath() const;

@@ -14,6 +14,9 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
+#include <iterator>
+
 namespace velmora
 {
 
@@ -34,6 +37,19 @@ const QLatin1String kFiles("files");
 const QLatin1String kDuration("duration");
 const QLatin1String kImages("images");
 const QLatin1String kTransitionTime("transition_time");
+
+/// The name of a new project as documents have it that were made in other languages.
+const char *const kDefaultNames[] = {
+    "New project",
+    "Neues Projekt",
+    "Nuevo proyecto",
+    "Nouveau projet",
+    "Nuovo progetto",
+    "Nowy projekt",
+    u8"\u041D\u043E\u0432\u044B\u0439 \u043F\u0440\u043E\u0435\u043A\u0442", // Russian
+    u8"\u65B0\u3057\u3044\u30D7\u30ED\u30B8\u30A7\u30AF\u30C8",              // Japanese
+    u8"\u65B0\u9879\u76EE",                                                  // Chinese
+};
 
 /// Words with which a failed read names its cause.
 const QLatin1String kResolutionError("resolution");
@@ -104,7 +120,19 @@ void ProjectFile::placeItem(ProjectItem *item, ProjectItem *anchor, int shift)
 
 QString ProjectFile::defaultName()
 {
-    return tr("New project");
+    return QStringLiteral("New project");
+}
+
+bool ProjectFile::hasOwnName() const
+{
+    const auto isName = [this](const char *name) { return m_name == QString::fromUtf8(name); };
+    return !m_name.trimmed().isEmpty() &&
+           std::none_of(std::begin(kDefaultNames), std::end(kDefaultNames), isName);
+}
+
+QString ProjectFile::shownName() const
+{
+    return hasOwnName() ? m_name : tr("New project");
 }
 
 QVector<ProjectItem *> ProjectFile::addFiles(const QStringList &paths, int timeSeconds,

@@ -32,9 +32,13 @@ public:
     /// A new project with the defaults of @p settings, which must outlive it.
     ProjectFile(const AppSettings &settings, TitleSlide titleSlide, QObject *parent = nullptr);
 
-    /// The name of a new project, in the present language.
+    /// The name of a new project, in any language of the program.
     static QString defaultName();
     const QString &name() const { return m_name; }
+    /// Whether the name is another one than a new project's, and not blank.
+    bool hasOwnName() const;
+    /// What the user is told: the name, or a new project's in the present language.
+    QString shownName() const;
     void setName(const QString &name) { m_name = name; }
     const QString &fileName() const { return m_fileName; } ///< Path of the video to produce.
     void setFileName(const QString &fileName) { m_fileName = fileName; }

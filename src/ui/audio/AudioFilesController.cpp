@@ -45,6 +45,11 @@ AudioFilesController::AudioFilesController(ProjectEditor &editor, QObject *paren
     connect(&m_editor, &ProjectEditor::audioChanged, this, &AudioFilesController::follow);
     connect(&m_prober, &AudioProber::found, this, &AudioFilesController::onFound);
     connect(&m_prober, &AudioProber::measured, this, &AudioFilesController::onMeasured);
+    connect(&m_missing, &MissingFiles::changed, this, &AudioFilesController::onMissingChanged);
+    connect(&m_missing, &MissingFiles::touched, this, [this](const QStringList &files) {
+        for (const QString &file : files)
+            m_prober.measure(file);
+    });
     connect(&m_prober, &AudioProber::progress, this, &AudioFilesController::addingChanged);
     connect(m_player, &TrackPlayer::ended, this, &AudioFilesController::stop);
     connect(m_player, &TrackPlayer::failed, this, &AudioFilesController::playFailed);
@@ -121,6 +126,7 @@ QString AudioFilesController::dialogFilter(const QOperatingSystemVersion &system
 
 void AudioFilesController::reload()
 {
+    m_prober.cancel();
     cancelAdding();
     stop();
     beginResetModel();
@@ -200,6 +206,25 @@ void AudioFilesController::measureUnknown()
             m_prober.measure(item.fileName);
         }
     }
+    checkFiles();
+}
+
+void AudioFilesController::checkFiles()
+{
+    QStringList files;
+    for (const AudioItem &item : qAsConst(m_items))
+        files.append(item.fileName);
+    if (!files.isEmpty())
+        m_missing.check(files);
+}
+
+/// Those that came back are measured anew.
+void AudioFilesController::onMissingChanged()
+{
+    for (const AudioItem &item : qAsConst(m_items)) {
+        if (m_missing.isMissing(item.fileName) && m_times.value(item.fileName) >= 0)
+            onMeasured(item.fileName, -1);
+    }
 }
 
 void AudioFilesController::onMeasured(const QString &path, qint64 milliseconds)
@@ -218,7 +243,8 @@ void AudioFilesController::addFiles(const QStringList &files, int newRow)
     qCDebug(lcUi).noquote() << QStringLiteral("NEW AUDIO ROW:'%1' AFTER:'%2'").arg(row).arg(newRow);
     if (files.isEmpty() || !m_editor.project())
         return;
-    m_prober.add(files, row);
+    m_places.enqueue({newRow < 0 ? QModelIndex() : index(newRow), row});
+    m_prober.add(files);
     emit addingChanged(0);
 }
 
@@ -229,8 +255,9 @@ void AudioFilesController::onFound(const AudioImport &import)
         m_times.insert(track.path, track.milliseconds);
         items.append({track.path, ValueLists::durationText(track.milliseconds)});
     }
+    const Place place = m_places.dequeue();
     if (!items.isEmpty())
-        m_editor.addAudio(items, import.row);
+        m_editor.addAudio(items, place.before.isValid() ? place.before.row() + 1 : place.row);
     emit addingChanged(0);
     if (!import.refused.isEmpty())
         emit notAllAdded(import.refused);
@@ -238,7 +265,8 @@ void AudioFilesController::onFound(const AudioImport &import)
 
 void AudioFilesController::cancelAdding()
 {
-    m_prober.cancel();
+    m_prober.cancelAdding();
+    m_places.clear();
     emit addingChanged(0);
 }
 

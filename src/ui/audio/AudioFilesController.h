@@ -3,11 +3,13 @@
 
 #include "project/documents/AudioItemList.h"
 #include "ui/audio/AudioProber.h"
+#include "ui/model/MissingFiles.h"
 
 #include <QAbstractListModel>
 #include <QHash>
 #include <QOperatingSystemVersion>
 #include <QPersistentModelIndex>
+#include <QQueue>
 
 namespace velmora
 {
@@ -47,10 +49,13 @@ public:
 
 public slots:
     /// Files, folders with their subfolders, and shortcuts to either go after the row @p newRow;
-    /// negative: to the end. All files of a call are added as one step, when all were looked at.
+    /// negative: to the end. All files of a call are added as one step, when all were looked at:
+    /// behind the same track, wherever it is by then.
     void addFiles(const QStringList &files, int newRow);
     /// Forgets the files that are still to be looked at.
     void cancelAdding();
+    /// Looks anew which files exist, such as after the user came back from another program.
+    void checkFiles();
     void remove(const QVector<int> &rows);
     /// Moves @p rows (ascending) to directly before the row @p before, as counted before the move.
     void move(const QVector<int> &rows, int before);
@@ -69,12 +74,19 @@ signals:
     void playFailed(const QString &fileName, const QString &reason);
 
 private:
+    /// Where files go that are being looked at.
+    struct Place {
+        QPersistentModelIndex before; ///< Invalid: at the end, or that track was deleted.
+        int row = -1;                 ///< As it was when they were added.
+    };
+
     void reload();
     void follow();
     void replace(int first, int removed, const QVector<AudioItem> &added);
     bool followMove(int first, const QVector<AudioItem> &after);
     void measureUnknown();
     void onFound(const AudioImport &import);
+    void onMissingChanged();
     void onMeasured(const QString &path, qint64 milliseconds);
     void refreshPlaying();
     void announce();
@@ -83,6 +95,8 @@ private:
     ProjectEditor &m_editor;
     QVector<AudioItem> m_items;
     QHash<QString, qint64> m_times; ///< ms by path; unreadable files have -1.
+    QQueue<Place> m_places;         ///< One for each addition that has not ended.
+    MissingFiles m_missing;
     AudioProber m_prober;
     TrackPlayer *m_player;
     QPersistentModelIndex m_playing;

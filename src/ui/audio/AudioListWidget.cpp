@@ -193,6 +193,14 @@ void AudioListWidget::retranslate()
     updateActions();
 }
 
+bool AudioListWidget::event(QEvent *event)
+{
+    // Files may have been moved or brought back in another program.
+    if (event->type() == QEvent::WindowActivate || event->type() == QEvent::Show)
+        m_controller->checkFiles();
+    return QWidget::event(event);
+}
+
 void AudioListWidget::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);

@@ -54,6 +54,7 @@ public slots:
     void stop();
 
 protected:
+    bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:

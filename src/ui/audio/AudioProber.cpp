@@ -41,7 +41,7 @@ public:
     AudioImport import;
 
 private:
-    bool isCancelled() const { return m_prober.m_generation != m_generation; }
+    bool isCancelled() const { return m_prober.m_additions.generation != m_generation; }
 
     /// Music below a folder: folder by folder in natural order.
     QStringList musicBelow(const QString &folder) const
@@ -96,7 +96,7 @@ AudioProber::AudioProber(QObject *parent) : QObject(parent)
     connect(
         this, &AudioProber::lookedAt, this,
         [this](int generation, int looked) {
-            if (m_generation == generation)
+            if (m_additions.generation == generation)
                 emit progress(looked);
         },
         Qt::QueuedConnection);
@@ -107,14 +107,13 @@ AudioProber::~AudioProber()
     cancel();
 }
 
-void AudioProber::add(const QStringList &paths, int row)
+void AudioProber::add(const QStringList &paths)
 {
     ++m_adding;
-    run(&m_additions, [this, paths, row](int generation) -> TaskThread::Report {
+    run(&m_additions, [this, paths](int generation) -> TaskThread::Report {
         Search search(*this, generation);
         for (const QString &path : paths)
             search.look(path);
-        search.import.row = row;
         return [this, import = search.import] {
             --m_adding;
             emit found(import);
@@ -130,20 +129,30 @@ void AudioProber::measure(const QString &path)
     });
 }
 
-void AudioProber::cancel()
+void AudioProber::cancelAdding()
 {
-    const std::lock_guard<std::mutex> locker(m_mutex);
-    ++m_generation;
-    m_additions.clear();
-    m_measurements.clear();
+    drop(&m_additions);
     m_adding = 0;
 }
 
-void AudioProber::run(std::deque<Request> *requests, Request request)
+void AudioProber::cancel()
+{
+    cancelAdding();
+    drop(&m_measurements);
+}
+
+void AudioProber::drop(Queue *queue)
+{
+    const std::lock_guard<std::mutex> locker(m_mutex);
+    ++queue->generation;
+    queue->requests.clear();
+}
+
+void AudioProber::run(Queue *queue, Request request)
 {
     {
         const std::lock_guard<std::mutex> locker(m_mutex);
-        requests->push_back(std::move(request));
+        queue->requests.push_back(std::move(request));
     }
     m_thread.add([this] { return next(); });
 }
@@ -151,18 +160,19 @@ void AudioProber::run(std::deque<Request> *requests, Request request)
 TaskThread::Report AudioProber::next()
 {
     Request request;
+    Queue *queue = nullptr;
     int generation = 0;
     {
         const std::lock_guard<std::mutex> locker(m_mutex);
-        std::deque<Request> &requests = m_additions.empty() ? m_measurements : m_additions;
-        if (requests.empty())
+        queue = m_additions.requests.empty() ? &m_measurements : &m_additions;
+        if (queue->requests.empty())
             return [] {};
-        request = std::move(requests.front());
-        requests.pop_front();
-        generation = m_generation;
+        request = std::move(queue->requests.front());
+        queue->requests.pop_front();
+        generation = queue->generation;
     }
-    return [this, generation, tell = request(generation)] {
-        if (m_generation == generation)
+    return [queue, generation, tell = request(generation)] {
+        if (queue->generation == generation)
             tell();
     };
 }

@@ -23,7 +23,6 @@ struct AudioImport {
     };
     QVector<Track> tracks; ///< In the order of the paths.
     QStringList refused;   ///< As given, or found in a folder.
-    int row = -1;          ///< As given to add().
 };
 
 /// The length of a sound file in ms; -1 when it cannot be used as music. Any thread but the GUI's:
@@ -41,11 +40,13 @@ public:
     ~AudioProber() override;
 
     /// Files are taken in the order given; folders with their subfolders and in natural order, only
-    /// files with the suffixes of music. Ends with found().
-    void add(const QStringList &paths, int row);
+    /// files with the suffixes of music. Ends with found(), in the order of the calls.
+    void add(const QStringList &paths);
     /// Ends with measured(). Waits for the paths of add().
     void measure(const QString &path);
-    /// Drops all requests; nothing more is told of them.
+    /// Drops the requests of add(); nothing more is told of them.
+    void cancelAdding();
+    /// Drops all requests.
     void cancel();
     bool isAdding() const { return m_adding > 0; }
 
@@ -61,15 +62,21 @@ private:
     /// Runs on the thread; what it returns, on the GUI thread unless it was cancelled meanwhile.
     using Request = std::function<TaskThread::Report(int generation)>;
 
-    void run(std::deque<Request> *requests, Request request);
+    /// Requests of one kind, guarded by the lock.
+    struct Queue {
+        std::deque<Request> requests;
+        std::atomic_int generation{0}; ///< Another one drops what is in work. Changed under lock.
+    };
+
+    void run(Queue *queue, Request request);
+    void drop(Queue *queue);
     /// On the thread: the request that comes next.
     TaskThread::Report next();
 
-    std::atomic_int m_generation{0}; ///< Changed under the lock.
     int m_adding = 0;
     std::mutex m_mutex;
-    std::deque<Request> m_additions; ///< Guarded by the lock, as those below.
-    std::deque<Request> m_measurements;
+    Queue m_additions;
+    Queue m_measurements;
     TaskThread m_thread; ///< The last member: it uses the others.
 };
 

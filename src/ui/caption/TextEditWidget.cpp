@@ -23,6 +23,7 @@ TextEditWidget::TextEditWidget(ProjectEditor &editor, QWidget *parent)
 {
     m_ui->setupUi(this);
     setUpControls();
+    setUpTabOrder();
     setUpShortcuts();
     fillEffects();
     connect(&m_editor, &ProjectEditor::projectChanged, this, &TextEditWidget::cancel);
@@ -74,6 +75,20 @@ void TextEditWidget::setUpControls()
     connect(m_ui->butSaveText, &QPushButton::clicked, this, &TextEditWidget::save);
     connect(m_ui->butCancelText, &QPushButton::clicked, this, &TextEditWidget::cancel);
     connect(m_ui->btnBackInTextEdit, &QToolButton::clicked, this, &TextEditWidget::cancel);
+}
+
+/// The buttons of the pickers are made in code, so the form does not know them.
+void TextEditWidget::setUpTabOrder()
+{
+    QWidget *last = m_ui->btnPlayEffect;
+    for (const QWidget *picker : {static_cast<QWidget *>(m_ui->framePosition),
+                                  static_cast<QWidget *>(m_ui->frameStarterBg)}) {
+        const QList<QPushButton *> buttons = picker->findChildren<QPushButton *>();
+        for (QPushButton *button : buttons) {
+            setTabOrder(last, button);
+            last = button;
+        }
+    }
 }
 
 void TextEditWidget::setUpShortcuts()

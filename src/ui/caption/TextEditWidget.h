@@ -57,6 +57,7 @@ private:
     enum class Play { No, Yes };
 
     void setUpControls();
+    void setUpTabOrder();
     void setUpShortcuts();
     void fillEffects();
     void begin(ProjectItem *item, bool allSlides);

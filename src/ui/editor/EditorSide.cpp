@@ -20,6 +20,20 @@ constexpr int kPreviewControls = 160; // px beside a picture of 16:9 that fills 
 constexpr int kTighterPreview = 56;   // px that may be missing from that if all is shown
 constexpr int kLeastPreview = 264;    // px that are worth a preview beside the groups
 
+/// What takes keys in @p part, in the part's own order.
+QVector<QWidget *> keyWidgets(QWidget *part)
+{
+    QVector<QWidget *> widgets;
+    QWidget *next = part;
+    do {
+        const bool isInside = next == part || part->isAncestorOf(next);
+        if (isInside && next->focusPolicy() != Qt::NoFocus && !next->focusProxy())
+            widgets.append(next);
+        next = next->nextInFocusChain();
+    } while (next != part);
+    return widgets;
+}
+
 } // namespace
 
 EditorSide::EditorSide(QWidget *preview, QWidget *create, QWidget *parent)
@@ -128,6 +142,23 @@ void EditorSide::arrange()
 {
     m_preview->setMaximumHeight(previewHeight());
     setMode(fittingMode());
+    setTabOrder();
+}
+
+/// From the top to the bottom, wherever the parts were before they came here: also the player,
+/// that may have been a window of its own meanwhile.
+void EditorSide::setTabOrder()
+{
+    QVector<QWidget *> parts = {m_preview, m_bar};
+    parts += m_groups;
+    parts.append(m_create);
+    if (m_mode == Mode::Tabs)
+        std::swap(parts[0], parts[1]);
+    QVector<QWidget *> widgets;
+    for (QWidget *part : qAsConst(parts))
+        widgets += keyWidgets(part);
+    for (int i = 1; i < widgets.size(); ++i)
+        QWidget::setTabOrder(widgets.at(i - 1), widgets.at(i));
 }
 
 void EditorSide::setMode(Mode mode)

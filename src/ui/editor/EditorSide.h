@@ -51,6 +51,7 @@ private:
     void arrange();
     void setMode(Mode mode);
     void showParts();
+    void setTabOrder();
 
     QWidget *m_preview;
     QWidget *m_create;

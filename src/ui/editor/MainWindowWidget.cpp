@@ -170,6 +170,7 @@ void MainWindowWidget::connectParts()
     connect(m_slides, &SlidesPage::sortingChanged, this, &MainWindowWidget::updateObstacle);
     connect(m_slides, &SlidesPage::filesDropped, this, &MainWindowWidget::onFilesDropped);
     connect(m_slides, &SlidesPage::currentSlideChanged, m_preview, &PreviewWidget::setSlide);
+    connect(m_slides, &SlidesPage::filesChanged, m_preview, &PreviewWidget::refreshSoon);
     connect(m_slides, &SlidesPage::previewRequested, this, &MainWindowWidget::onPreviewClicked);
     connect(m_slides, &SlidesPage::captionRequested, this, &MainWindowWidget::editCaption);
     connect(m_slides, &SlidesPage::captionOfAllRequested, this,
@@ -187,6 +188,7 @@ void MainWindowWidget::connectParts()
         emit progressStarted();
     });
     connect(m_create, &CreatePanel::progressFinished, this, [this] {
+        m_preview->leaveFullSize(); // would cover what is shown next
         setGenerating(false);
         emit progressFinished();
     });
@@ -296,8 +298,10 @@ void MainWindowWidget::silence()
 
 void MainWindowWidget::hideEvent(QHideEvent *event)
 {
-    if (!event->spontaneous())
+    if (!event->spontaneous()) {
+        m_preview->leaveFullSize();
         silence();
+    }
     QWidget::hideEvent(event);
 }
 

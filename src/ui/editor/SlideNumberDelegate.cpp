@@ -30,6 +30,8 @@ int SlideNumberDelegate::width()
 void SlideNumberDelegate::paintCell(QPainter &painter, const QStyleOptionViewItem &option,
                                     const QModelIndex &index) const
 {
+    if (option.state & QStyle::State_HasFocus)
+        paintFocus(painter, option.rect);
     painter.setPen(QColor(Theme::SecondaryText));
     const QRect number(option.rect.left() + kIndent, option.rect.top(), kNumberWidth - kIndent,
                        option.rect.height());
@@ -39,6 +41,20 @@ void SlideNumberDelegate::paintCell(QPainter &painter, const QStyleOptionViewIte
         QPoint(number.right() + 1, option.rect.top() + (option.rect.height() - box.height()) / 2),
         box);
     paintThumbnail(painter, area, index);
+}
+
+/// Clear of the selection's bar, the number and the photo.
+void SlideNumberDelegate::paintFocus(QPainter &painter, const QRect &cell) const
+{
+    constexpr int kBeside = 6; // px
+    constexpr int kAbove = 3;  // px
+    const double opacity = painter.opacity();
+    painter.setOpacity(1);
+    painter.setPen(QPen(QColor(Theme::Accent), 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(cell).adjusted(kBeside, kAbove, -1, -kAbove - 1), kRadius,
+                            kRadius);
+    painter.setOpacity(opacity);
 }
 
 void SlideNumberDelegate::paintThumbnail(QPainter &painter, const QRect &area,

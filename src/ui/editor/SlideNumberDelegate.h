@@ -21,6 +21,7 @@ protected:
                    const QModelIndex &index) const override;
 
 private:
+    void paintFocus(QPainter &painter, const QRect &cell) const;
     void paintThumbnail(QPainter &painter, const QRect &area, const QModelIndex &index) const;
 };
 

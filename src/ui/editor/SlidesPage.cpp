@@ -107,6 +107,7 @@ void SlidesPage::setUpTable()
                 if (roles.isEmpty()) // photos may have gone or come back
                     updateLater();
             });
+    connect(m_model, &SlideTableModel::filesChanged, this, &SlidesPage::filesChanged);
     connect(&table, &QWidget::customContextMenuRequested, this, &SlidesPage::showContextMenu);
     connect(&table, &SlideTable::timeChosen, this, &SlidesPage::onTimeChanged);
     connect(&table, &SlideTable::transitionChosen, this, &SlidesPage::onTransitionChanged);

@@ -57,6 +57,7 @@ signals:
     void previewRequested();
     void rotateChanged();
     void sortingChanged();
+    void filesChanged(); ///< Photos have gone, come back or been written anew.
 
 public slots:
     void onTimeChanged(int row, int seconds);

@@ -49,15 +49,15 @@ void VideoName::followTitle()
 
 void VideoName::showTitle()
 {
-    if (m_title == ProjectFile::defaultName())
+    if (!m_project || !m_project->hasOwnName())
         propose();
-    else if (!m_title.trimmed().isEmpty() && ProjectName::isAllowed(m_title))
+    else if (ProjectName::isAllowed(m_title))
         m_field.setText(m_title);
 }
 
 void VideoName::giveTitle()
 {
-    const bool isOwn = m_title != ProjectFile::defaultName() && m_title != m_givenTitle &&
+    const bool isOwn = m_editor.project()->hasOwnName() && m_title != m_givenTitle &&
                        !ProjectName::isProposal(m_title);
     if (isOwn)
         return;

@@ -51,6 +51,7 @@ void VideoSettingsFrame::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
         retranslate();
+        refresh();
     }
     QFrame::changeEvent(event);
 }

@@ -62,7 +62,14 @@ Autosave::Autosave(const ProjectDocument &document, ProjectEditor &editor,
 
 Autosave::~Autosave()
 {
+    letGo();
+}
+
+void Autosave::letGo()
+{
+    m_timer.stop();
     m_writer.finish();
+    m_lock.unlock();
 }
 
 int Autosave::intervalOf(const QSettings &store)

@@ -47,6 +47,8 @@ public:
     /// moment stays for the next start, and no copy is kept until then.
     Found find(const AppSettings &settings);
     QString fileName() const { return m_fileName; }
+    /// Leaves the file to the next start of the program, as the end of this object does.
+    void letGo();
 
 public slots:
     /// Writes the project if it has changed since it was written last.

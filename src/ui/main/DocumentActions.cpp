@@ -50,6 +50,7 @@ DocumentActions::DocumentActions(ProjectDocument &document, const AppSettings &s
     connect(menu.title, &QAction::triggered, this, &DocumentActions::onTitle);
     connect(&m_resume, &ProjectResume::ready, this,
             [this, &quiet] { quiet.run([this] { onResumed(); }); });
+    connect(&document, &ProjectDocument::replaced, this, &DocumentActions::forgetResume);
     connect(&document, &ProjectDocument::stateChanged, this, &DocumentActions::updateTitle);
     updateTitle();
 }
@@ -65,9 +66,10 @@ void DocumentActions::updateTitle()
 
 void DocumentActions::onResumed()
 {
-    if (!m_resume.isReady() || !mayLeave())
+    std::unique_ptr<ProjectFile> project = m_resume.isReady() ? m_resume.take() : nullptr;
+    if (!project || !mayLeave())
         return;
-    m_document.replace(m_resume.take(), QString());
+    m_document.replace(std::move(project), QString());
     emit opened();
 }
 
@@ -124,8 +126,8 @@ void DocumentActions::offerRestore(Autosave &autosave)
     Autosave::Found found = autosave.find(m_settings);
     if (!found.project)
         return;
-    const QString name =
-        found.path.isEmpty() ? found.project->name() : QFileInfo(found.path).completeBaseName();
+    const QString name = found.path.isEmpty() ? found.project->shownName()
+                                              : QFileInfo(found.path).completeBaseName();
     enum Button { Discard, Restore };
     MessageDialog::Message message;
     message.kind = MessageDialog::Kind::Question;
@@ -251,8 +253,10 @@ void DocumentActions::onTitle()
     if (!m_document.project())
         return;
     const QPointer<ProjectFile> project = m_document.project();
-    SetNameDialog dialog(project->name(), m_window);
-    if (dialog.exec() == QDialog::Accepted && project && project == m_document.project())
+    const QString shown = project->shownName();
+    SetNameDialog dialog(shown, m_window);
+    const bool isGiven = dialog.exec() == QDialog::Accepted && dialog.name() != shown;
+    if (isGiven && project && project == m_document.project())
         m_document.setName(dialog.name());
 }
 

@@ -38,6 +38,8 @@ public:
     /// Opens a copy of an entry of the history; opened() may follow later. Nothing changes if the
     /// entry cannot be read.
     void resume(const ProjectFile &entry) { m_resume.start(entry); }
+    /// Leaves it at that, since the user went on with something else.
+    void forgetResume() { m_resume.cancel(); }
     /// Asks whether to restore what was not saved before a crash, if there is something.
     void offerRestore(Autosave &autosave);
     /// Opens a project document in place of the open one; tells the user why it cannot be read.
@@ -53,6 +55,8 @@ public slots:
     bool onSave();   ///< False if nothing was saved.
     bool onSaveAs(); ///< As onSave().
     void onTitle();
+    /// Shows the state of the document, in the present language, in the window's title.
+    void updateTitle();
 
 signals:
     void opened(); ///< Another project document is open.
@@ -63,7 +67,6 @@ private:
     std::unique_ptr<ProjectFile> read(const QString &path); ///< Null: the user was told why.
     bool saveTo(const QString &path);
     void onResumed();
-    void updateTitle();
     QString proposedPath() const;
 
     ProjectDocument &m_document;

@@ -23,7 +23,7 @@ QString LastVideo::path() const
 
 QString LastVideo::name() const
 {
-    return project() ? project()->name() : QString();
+    return project() ? project()->shownName() : QString();
 }
 
 void LastVideo::showFolder(QWidget *window) const

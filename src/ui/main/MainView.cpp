@@ -28,6 +28,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
+#include <QSettings>
 #include <QStackedWidget>
 
 #include <utility>
@@ -125,6 +126,12 @@ void MainView::offerRestore()
     m_actions->offerRestore(*m_autosave);
 }
 
+void MainView::letGo()
+{
+    m_autosave->letGo();
+    m_parts.store.sync();
+}
+
 void MainView::onMessageReceived(const QString &message)
 {
     qCInfo(lcUi).noquote() << QStringLiteral("Message received:'%1'").arg(message);
@@ -180,7 +187,7 @@ void MainView::onFinished(const QString &fileName)
 /// may be selected there, so nothing relies on it.
 void MainView::offerNextSteps(const QString &video, const ProjectFile *entry)
 {
-    const QString title = entry ? entry->name() : QFileInfo(video).completeBaseName();
+    const QString title = entry ? entry->shownName() : QFileInfo(video).completeBaseName();
     const QString diskTitle = entry ? starterText(*entry) : QString();
     auto *window = new FinalWindow(video, m_parts.fileManager, this);
     window->setAttribute(Qt::WA_DeleteOnClose);
@@ -203,11 +210,12 @@ void MainView::runUpdateChecker()
 
 void MainView::onNewVersion(const QString &version)
 {
-    m_updates->show(version);
+    m_quiet->run([this, version] { m_updates->show(version); });
 }
 
 void MainView::onProgressStarted()
 {
+    m_actions->forgetResume();
     m_menu->setGenerating(true);
     m_quiet->setGenerating(true);
     m_taskbar.begin(TaskbarShare::Video);
@@ -341,6 +349,8 @@ bool MainView::event(QEvent *event)
 {
     if (event->type() == QEvent::WindowUnblocked)
         m_quiet->lookSoon();
+    if (event->type() == QEvent::LanguageChange)
+        m_actions->updateTitle();
     return CorWindow::event(event);
 }
 

@@ -68,6 +68,9 @@ public:
     void openFiles(const QStringList &files);
     /// Asks whether to restore what was not saved before a crash, if there is something.
     void offerRestore();
+    /// For the end of the program: finishes with the files that the next start uses as well. The
+    /// end of the window may wait for photos on a disk that does not answer.
+    void letGo();
 
 public slots:
     void onMessageReceived(const QString &message);

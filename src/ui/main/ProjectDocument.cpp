@@ -46,7 +46,7 @@ QString ProjectDocument::displayName() const
 {
     if (!m_project)
         return {};
-    return m_path.isEmpty() ? m_project->name() : QFileInfo(m_path).completeBaseName();
+    return m_path.isEmpty() ? m_project->shownName() : QFileInfo(m_path).completeBaseName();
 }
 
 void ProjectDocument::begin()

@@ -12,6 +12,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace velmora
 {
@@ -72,23 +73,40 @@ bool ProjectResume::start(const ProjectFile &entry)
                                   << errors.join(QStringLiteral(", "));
         return false;
     }
+    cancel();
     m_project = std::move(project);
-    m_ready = false;
-    const int search = ++m_search;
+    const int search = m_search;
     m_searcher.add([this, search, paths = files(*m_project)]() -> TaskThread::Report {
         const QStringList missing = missingFiles(paths, m_search, search);
         return [this, search, missing] {
-            if (search == m_search)
-                onLooked(missing);
+            if (search != m_search)
+                return;
+            m_missing = missing;
+            m_ready = true;
+            emit ready();
         };
     });
     return true;
 }
 
+void ProjectResume::cancel()
+{
+    ++m_search;
+    m_ready = false;
+    m_project.reset();
+}
+
 std::unique_ptr<ProjectFile> ProjectResume::take()
 {
     m_ready = false;
-    return std::move(m_project);
+    std::unique_ptr<ProjectFile> project = std::move(m_project);
+    const QStringList missing = std::exchange(m_missing, {});
+    if (!project || missing.isEmpty())
+        return project;
+    if (!wantsToResume(m_window, missing))
+        return nullptr;
+    removeFiles(project.get(), missing);
+    return project;
 }
 
 QStringList ProjectResume::files(const ProjectFile &project)
@@ -119,21 +137,6 @@ void ProjectResume::removeFiles(ProjectFile *project, const QStringList &paths)
                        [&gone](const AudioItem &item) { return gone.contains(item.fileName); }),
         audio.items.end());
     project->setAudio(audio);
-}
-
-void ProjectResume::onLooked(const QStringList &missing)
-{
-    if (!m_project)
-        return;
-    if (!missing.isEmpty()) {
-        if (!wantsToResume(m_window, missing)) {
-            m_project.reset();
-            return;
-        }
-        removeFiles(m_project.get(), missing);
-    }
-    m_ready = true;
-    emit ready();
 }
 
 } // namespace velmora

@@ -68,6 +68,8 @@ SlideTableModel::SlideTableModel(ProjectEditor &editor, QObject *parent)
     connect(&m_check, &QTimer::timeout, this, &SlideTableModel::checkFilesNow);
     connect(&m_missing, &MissingFiles::changed, this, &SlideTableModel::onMissingChanged);
     connect(&m_missing, &MissingFiles::touched, this, &SlideTableModel::forgetThumbnails);
+    connect(&m_missing, &MissingFiles::changed, this, &SlideTableModel::filesChanged);
+    connect(&m_missing, &MissingFiles::touched, this, &SlideTableModel::filesChanged);
     m_provider.setPhotoBox(photoBox());
     m_provider.start(QThread::LowPriority);
     reset();

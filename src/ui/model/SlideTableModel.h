@@ -57,6 +57,9 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
+signals:
+    void filesChanged(); ///< Photos have gone, come back or been written anew.
+
 private:
     using Slides = QVector<ProjectItem *>;
 

@@ -79,6 +79,12 @@ void PreviewWidget::stop()
     m_player->stop();
 }
 
+void PreviewWidget::leaveFullSize()
+{
+    if (m_player->isWindow())
+        toggleFullSize();
+}
+
 /// Nobody could stop what plays on a page that is not shown.
 void PreviewWidget::hideEvent(QHideEvent *event)
 {

@@ -34,6 +34,8 @@ public slots:
     /// Plays the whole slideshow from its start.
     void playFull();
     void stop();
+    /// Puts the player back in its place, if it covers the screen.
+    void leaveFullSize();
     /// The settings have changed: shows the project as it is with them.
     void refreshSoon() { m_changes.start(); }
 

@@ -208,6 +208,9 @@ void VideoPlayerWidget::arrangeButtons()
         wanted.insertWidget(place++, button);
     }
     m_ui->lblLength->setVisible(!compact);
+    QWidget *before = compact ? m_ui->btnStop : m_ui->btnFullSize;
+    setTabOrder(before, m_ui->btnPreview);
+    setTabOrder(m_ui->btnPreview, m_ui->btnRepeat);
 }
 
 void VideoPlayerWidget::showDuration(double duration)

@@ -87,6 +87,26 @@ private slots:
             "audio": {"offset": 0, "loop": false, "fade": 4, "files": []}})"));
     }
 
+    void defaultNameIsOfNoLanguage_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("own");
+        QTest::newRow("of a new project") << ProjectFile::defaultName() << false;
+        QTest::newRow("of a German one") << QStringLiteral("Neues Projekt") << false;
+        QTest::newRow("of a Russian one") << QString::fromUtf8("Новый проект") << false;
+        QTest::newRow("blank") << QStringLiteral(" ") << false;
+        QTest::newRow("own") << QStringLiteral("Neues Projekt 2") << true;
+    }
+    void defaultNameIsOfNoLanguage()
+    {
+        QFETCH(QString, name);
+        ProjectFile project(settings, ProjectFile::TitleSlide::Omit);
+        project.setName(name);
+        QTEST(project.hasOwnName(), "own");
+        QCOMPARE(project.shownName(), project.hasOwnName() ? name : QStringLiteral("New project"));
+        QCOMPARE(project.name(), name);
+    }
+
     void documentForm()
     {
         const auto project = ProjectFile::fromJson(parse(kDocument), settings);

@@ -172,6 +172,27 @@ private slots:
         QCOMPARE(order(), QStringLiteral("dcba"));
     }
 
+    void waitingFilesFollowTheirTrack_data()
+    {
+        QTest::addColumn<QVector<int>>("moved"); // row, before; a row alone is deleted
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("another was deleted") << QVector<int>{0} << "bdc";
+        QTest::newRow("it was deleted") << QVector<int>{1} << "acd";
+        QTest::newRow("it was moved") << QVector<int>{1, 0} << "bdac";
+    }
+    void waitingFilesFollowTheirTrack()
+    {
+        QFETCH(QVector<int>, moved);
+        add(files("a.wav b.wav c.wav"));
+        m_controller->addFiles({file("d.wav")}, 1);
+        if (moved.size() == 1)
+            m_controller->remove(moved);
+        else
+            m_controller->move({moved.first()}, moved.last());
+        QTRY_VERIFY(!m_controller->isAdding());
+        QTEST(order(), "expected");
+    }
+
     void cancelledAddingAddsNothing()
     {
         QSignalSpy refused(m_controller.get(), &AudioFilesController::notAllAdded);
@@ -256,9 +277,24 @@ private slots:
         m_editor->setProject(&loaded);
         QCOMPARE(params.last().at(0).toInt(), 3);
         QCOMPARE(params.last().at(1).toLongLong(), 65000);
+        // Giving up other files does not give up these.
+        m_controller->addFiles(files("c.wav"), -1);
+        m_controller->cancelAdding();
         QTRY_COMPARE(params.last().at(1).toLongLong(), 3000);
-        QTRY_VERIFY(m_controller->index(1).data(AudioFilesController::BrokenRole).toBool());
-        QVERIFY(!m_controller->index(0).data(AudioFilesController::BrokenRole).toBool());
+        const auto isBroken = [this](int row) {
+            return m_controller->index(row).data(AudioFilesController::BrokenRole).toBool();
+        };
+        QTRY_VERIFY(isBroken(1));
+        QVERIFY(!isBroken(0));
+
+        // Files go and come back while the user is elsewhere.
+        QVERIFY(QFile::rename(file("b.wav"), file("gone.wav")));
+        m_controller->checkFiles();
+        QTRY_VERIFY(isBroken(0) && !isBroken(1));
+        QVERIFY(QFile::rename(file("gone.wav"), file("b.wav")));
+        m_controller->checkFiles();
+        QTRY_VERIFY(!isBroken(0) && isBroken(1));
+        QCOMPARE(m_controller->totalTime(), 3000);
         QVERIFY(!m_editor->isModified());
         m_editor->setProject(nullptr);
         QCOMPARE(m_controller->rowCount(), 0);

@@ -10,6 +10,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QStackedWidget>
+#include <QToolButton>
 #include <QUndoStack>
 
 using namespace velmora;
@@ -103,6 +104,8 @@ private slots:
                                 << kept;
         };
         row("no title", "", "video", "video");
+        row("blank title", " ", "video", "video");
+        row("no title in German", "Neues Projekt", "video", "video");
         row("title", "Trip", "", "Trip");
         row("both", "Trip", "video", "Trip");
         row("no file name", "1:0", "", "1:0");
@@ -123,7 +126,31 @@ private slots:
         // A name that a render gave gives way to the next one.
         setName(QStringLiteral("other"));
         createInVain();
-        QCOMPARE(m->project->name(), title.isEmpty() ? QStringLiteral("other") : title);
+        const bool isOwn = title == QLatin1String("Trip") || title == QLatin1String("1:0");
+        QCOMPARE(m->project->name(), isOwn ? title : QStringLiteral("other"));
+    }
+
+    void fullScreenDoesNotOutliveTheRenderOrThePage()
+    {
+        m->addPhotos(QStringLiteral("a"));
+        const QWidget *player = m->child<QWidget>("player");
+        const auto isFull = [player] { return player->window()->isFullScreen(); };
+        const auto show = [this] { m->child<QToolButton>("btnFullSize")->click(); };
+        create();
+        show();
+        QTRY_VERIFY(isFull());
+        QVariant wasFull;
+        connect(m->page.get(), &MainWindowWidget::finished, this, [&] { wasFull = isFull(); });
+        QTRY_VERIFY(wasFull.isValid());
+        QVERIFY(!wasFull.toBool());
+
+        show();
+        QTRY_VERIFY(isFull());
+        m->page->hide();
+        QCOMPARE(player->window(), m->page.get());
+        QVERIFY(!player->isVisible());
+        m->page->show();
+        QTRY_VERIFY(player->isVisible());
     }
 
     void nextSlideshowHasItsOwnName_data()

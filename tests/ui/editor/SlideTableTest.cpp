@@ -4,6 +4,7 @@
 #include "helpers/Drop.h"
 #include "ui/editor/EditorPage.h"
 #include "ui/editor/SlideNumberDelegate.h"
+#include "ui/preview/VideoPlayer.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -54,6 +55,26 @@ private slots:
         QCoreApplication::processEvents();
     }
     void cleanup() { m.reset(); }
+
+    void currentRowIsSeen()
+    {
+        m->select({2});
+        m->table().setFocus();
+        const auto photo = [this] {
+            return m->table().model()->index(4, 0).data(Qt::DecorationRole).value<QImage>();
+        };
+        QTRY_VERIFY(!photo().isNull());
+        const auto picture = [this] { return m->table().viewport()->grab(cell(4, 0)).toImage(); };
+        const QImage before = picture();
+        for (int i = 0; i < 2; ++i)
+            QTest::keyClick(&m->table(), Qt::Key_Down, Qt::ControlModifier);
+        QCOMPARE(m->table().currentIndex(), m->table().model()->index(4, 0));
+        QVERIFY(!m->table().selectionModel()->isRowSelected(4, {}));
+        const QImage current = picture();
+        QVERIFY(current != before);
+        QTest::keyClick(&m->table(), Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(picture(), before);
+    }
 
     void filesAreDroppedBetweenRows()
     {
@@ -197,6 +218,22 @@ private slots:
         for (int i = 0; i < text.width() * text.height() && !red; ++i)
             red = text.pixelColor(i % text.width(), i / text.width()) == QColor(Theme::Danger);
         QVERIFY(red);
+    }
+
+    void previewFollowsTheFile()
+    {
+        m->select({2});
+        const auto color = [this] {
+            const QImage &picture = m->child<VideoPlayer>("player")->picture();
+            return picture.isNull() ? QColor()
+                                    : picture.pixelColor(picture.width() / 2, picture.height() / 4);
+        };
+        QTRY_COMPARE(color(), QColor(Qt::darkGreen));
+        loseSecondPhoto();
+        QTRY_COMPARE(color(), QColor(Qt::black)); // a note, farther below
+        m->makePhoto(QStringLiteral("b.png"), Qt::red);
+        m->table().slides()->checkFiles();
+        QTRY_COMPARE(color(), QColor(Qt::red));
     }
 
     void relocateButtonHoldsItsText()

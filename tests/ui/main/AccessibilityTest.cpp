@@ -62,6 +62,42 @@ QSet<const QWidget *> reachedByTab(QWidget &window)
     return reached;
 }
 
+bool takesTab(const QWidget &widget)
+{
+    return (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.isVisible() && widget.isEnabled() &&
+           !widget.focusProxy();
+}
+
+QString called(const QWidget &widget)
+{
+    return QStringLiteral("%1 \"%2\"")
+        .arg(QString::fromLatin1(widget.metaObject()->className()), widget.objectName());
+}
+
+/// Tells of the controls of @p page to which Tab goes back on the screen: up, but not to the next
+/// column, or to the left in the same line.
+QStringList misplaced(const QWidget &page)
+{
+    QStringList faults;
+    const QWidget *before = nullptr;
+    for (const QWidget *widget = page.nextInFocusChain(); widget != &page;
+         widget = widget->nextInFocusChain()) {
+        // The help follows what it explains, and stands at its label.
+        if (!takesTab(*widget) || !page.isAncestorOf(widget) ||
+            widget->objectName().startsWith(QLatin1String("btnHelp")))
+            continue;
+        const QRect place(widget->mapTo(&page, {}), widget->size());
+        const QRect last = before ? QRect(before->mapTo(&page, {}), before->size()) : QRect();
+        const bool isUp = place.bottom() < last.top() && place.left() < last.right();
+        const bool isLeft = place.right() < last.left() && place.top() < last.bottom();
+        if (before && (isUp || isLeft))
+            faults.append(QStringLiteral("Tab goes back from %1 to %2")
+                              .arg(called(*before), called(*widget)));
+        before = widget;
+    }
+    return faults;
+}
+
 /// Tells of the controls of @p page that Tab does not reach.
 QStringList unreached(QWidget &page)
 {
@@ -72,12 +108,8 @@ QStringList unreached(QWidget &page)
     const bool covered = panel && panel->isVisible();
     QStringList faults;
     for (const QWidget *widget : (covered ? panel : &page)->findChildren<QWidget *>()) {
-        const bool takesFocus = (widget->focusPolicy() & Qt::TabFocus) != 0;
-        if (takesFocus && widget->isVisible() && widget->isEnabled() && !widget->focusProxy() &&
-            !reached.contains(widget))
-            faults.append(QStringLiteral("Tab does not reach %1 \"%2\"")
-                              .arg(QString::fromLatin1(widget->metaObject()->className()),
-                                   widget->objectName()));
+        if (takesTab(*widget) && !reached.contains(widget))
+            faults.append(QStringLiteral("Tab does not reach ") + called(*widget));
     }
     return faults;
 }
@@ -110,6 +142,9 @@ private slots:
             QStringList here;
             collect(QAccessible::queryAccessibleInterface(&shown), &here, &seen);
             here += unreached(shown);
+            if (page.startsWith(QLatin1String("editor")) ||
+                page.startsWith(QLatin1String("caption")))
+                here += misplaced(shown);
             for (const QString &fault : qAsConst(here))
                 faults.append(page + QStringLiteral(": ") + fault);
         });

@@ -182,6 +182,10 @@ private slots:
         second.clear();
         second.saveNow();
         QVERIFY(QFile::exists(fileName()));
+        // At the end of the program, the window may stay longer than the next start can wait.
+        m->view->letGo();
+        Autosave next(m->view->document(), m->view->editorPage().editor(), m->folder.path(), 1000);
+        QVERIFY(next.find(m->settings).project);
     }
 };
 

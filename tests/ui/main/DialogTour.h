@@ -130,6 +130,7 @@ private:
         ProjectFile project(m_fixture.settings, ProjectFile::TitleSlide::Create);
         project.addFiles({QStringLiteral("/home/anna/Pictures/Harbour/Beach.jpg")}, 4, 1);
         ProjectResume resume(m_fixture.settings, m_fixture.view.get());
+        QObject::connect(&resume, &ProjectResume::ready, &resume, &ProjectResume::take);
         lookAtNext("resume", [&] { resume.start(project); });
     }
 

@@ -77,6 +77,38 @@ private slots:
         QCOMPARE(m->history->projects().front()->items().size(), 3);
     }
 
+    void resumeLeavesARenderInPeace_data()
+    {
+        QTest::addColumn<bool>("waits");
+        QTest::newRow("asked for during a render") << true;
+        QTest::newRow("a render begins meanwhile") << false;
+    }
+    void resumeLeavesARenderInPeace()
+    {
+        QFETCH(bool, waits);
+        auto entry = std::make_unique<ProjectFile>(m->settings, ProjectFile::TitleSlide::Create);
+        entry->addFiles({m->folder.filePath(QStringLiteral("gone.png"))}, 3, 1);
+        m->history->add(std::move(entry));
+        m->show();
+        if (waits)
+            m->view->onProgressStarted();
+        m->click("btnRecent");
+        if (!waits)
+            m->view->onProgressStarted();
+        constexpr int kSearch = 200; // ms, more than a file takes
+        QTest::qWait(kSearch);
+        QVERIFY(!QApplication::activeModalWidget());
+        if (waits)
+            m->dialogs.press(QStringLiteral("RESUME"));
+        m->view->onProgressFinished();
+        if (waits)
+            QTRY_VERIFY(m->view->document().project());
+        else
+            QTest::qWait(kSearch);
+        QCOMPARE(m->dialogs.title(), waits ? QStringLiteral("Not all files exist") : QString());
+        QCOMPARE(m->view->document().project() != nullptr, waits);
+    }
+
     void documentIsOpenedChangedAndSaved()
     {
         ProjectFile document(m->settings, ProjectFile::TitleSlide::Create);

@@ -344,6 +344,9 @@ private slots:
         m->addToHistory("new.mp4");
         m->show();
         m->beginSlideshow();
+        // Values that are not offered.
+        m->view->editorPage().editor().setTransitionSeconds(6);
+        m->view->editorPage().editor().setResolution({1280, 720});
         m->view->editorPage().editor().addPhotos({m->makePhoto(QStringLiteral("b.png"))}, -1);
         m->press(Qt::Key_Comma, Qt::ControlModifier);
         PseudoTranslator translator;
@@ -351,11 +354,11 @@ private slots:
         QTRY_COMPARE(firstButton(), PseudoTranslator::of("Add Photo"));
         // Beside names there are texts that are set whenever they are shown, and those of Qt.
         const QStringList others =
-            QStringLiteral("begin.png|English|1920x1080|Adding photos|Adding...|Preparing the "
-                           "preview|Scroll Left|Scroll Right")
+            QStringLiteral(
+                "begin.png|English|1920x1080|1280x720|Adding photos|Adding...|Preparing the "
+                "preview|Scroll Left|Scroll Right")
                 .split(QLatin1Char('|'));
-        const QStringList bad = PseudoTranslator::untranslated(*m->view, others)
-                                    .filter(QRegularExpression(QStringLiteral("^(?!New project)")));
+        const QStringList bad = PseudoTranslator::untranslated(*m->view, others);
         QCOMPARE(bad.join(QLatin1Char('\n')), QString());
         for (const QAction *action : m->view->actions())
             QVERIFY2(action->text().startsWith(QLatin1Char('[')), qPrintable(action->text()));
@@ -363,6 +366,10 @@ private slots:
         QVERIFY(m->child<QAction>("actUndo")->toolTip().contains(QLatin1String("[Add photos]")));
         QVERIFY(m->child<QPushButton>("btnClear")->text().contains(QLatin1String("(3)")));
         QCOMPARE(m->child<QPopupButton>("btnDefaultTime")->text(), QStringLiteral("[3 sec]"));
+        QCOMPARE(m->child<QPopupButton>("btnTransitionDuration")->text(),
+                 QStringLiteral("[6 sec]"));
+        QCOMPARE(m->child<QPopupButton>("btnOutResolution")->text(), QStringLiteral("1280x720"));
+        QCOMPARE(m->view->windowTitle(), QStringLiteral("[New project][*] \u2013 Corvel Velmora"));
         QCOMPARE(m->child<QPopupButton>("btnTime")->value().toInt(), 3);
         QCOMPARE(m->child<QPushButton>("btnCreate")->shortcut(),
                  QKeySequence(Qt::CTRL + Qt::Key_Return));
