@@ -24,7 +24,7 @@ bool HistoryWidget::isUploading() const
 void HistoryWidget::onStartUpload(const QString &uploadService)
 {
     if (const ProjectFile *project = selectedProject())
-        startUpload(project->fileName(), project->name(), uploadService);
+        startUpload(project->fileName(), project->shownName(), uploadService);
 }
 
 void HistoryWidget::startUpload(const QString &fileName, const QString &title,

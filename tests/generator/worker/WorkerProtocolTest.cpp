@@ -101,7 +101,8 @@ private slots:
         row("finished with a number", "{\"event\":\"finished\",\"file\":3}");
         row("failed without code", "{\"event\":\"failed\",\"text\":\"x\"}");
         row("deep", QByteArray(50000, '['));
-        row("too long", "{\"event\":\"stage\",\"stage\":\"" + QByteArray(WorkerProtocol::kMaximumLine, 'x') + "\"}");
+        row("too long", "{\"event\":\"stage\",\"stage\":\"" +
+                            QByteArray(WorkerProtocol::kMaximumLine, 'x') + "\"}");
         row("null bytes", QByteArray(10, '\0'));
     }
     void hostileLinesAreInvalid()
