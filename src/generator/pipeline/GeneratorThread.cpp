@@ -58,6 +58,8 @@ GeneratorThread::~GeneratorThread()
 {
     cancel();
     wait();
+    // Shows the thread sanitizer, as in FrameProducer, that the encoding threads are done.
+    const std::scoped_lock locker(m_mutex, m_context.outputMutex);
 }
 
 void GeneratorThread::cancel()
