@@ -209,11 +209,14 @@ private slots:
         QMenu menu;
         menu.addAction(QStringLiteral("Delete"));
         menu.popup({});
+        bool cameMeanwhile = false;
+        connect(&m->view->document(), &ProjectDocument::replaced, &menu,
+                [&] { cameMeanwhile = menu.isVisible(); });
         m->view->openFiles({path});
-        QTest::qWait(300);
-        QCOMPARE(m->view->document().path(), QString());
+        QTest::qWait(300); // The menu may close by itself when another program comes to the front.
         menu.close();
         QTRY_COMPARE(m->view->document().path(), path);
+        QVERIFY(!cameMeanwhile);
     }
 
     void handedOverFilesWaitForTheVideo()
