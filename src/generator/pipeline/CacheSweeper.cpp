@@ -6,8 +6,8 @@
 #include "generator/GeneratorLog.h"
 #include "generator/encoding/VideoUtil.h"
 #include "generator/pipeline/OutputTarget.h"
+#include "platform/AbandonedFolders.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -19,16 +19,7 @@ namespace velmora
 namespace
 {
 
-constexpr qint64 kYoungestUnlocked = 60; // s; a render locks its folder right after making it
 constexpr qint64 kLongestNote = 32 * 1024;
-
-bool isBeingMade(const QDir &folder)
-{
-    if (folder.exists(CacheSweeper::kLockFile))
-        return false;
-    const QDateTime made = QFileInfo(folder.path()).lastModified();
-    return made.secsTo(QDateTime::currentDateTime()) < kYoungestUnlocked;
-}
 
 /// False while something keeps it, as an encoder may that is about to end.
 bool removeUnfinishedVideo(const QDir &folder)
@@ -52,27 +43,12 @@ bool removeUnfinishedVideo(const QDir &folder)
 
 int CacheSweeper::sweep(const QString &cacheFolder)
 {
-    int removed = 0;
-    const QDir cache(cacheFolder);
-    const QStringList names = cache.entryList({QString(kFolderPrefix) + QLatin1Char('*')},
-                                              QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
-    for (const QString &name : names) {
-        QDir folder(cache.filePath(name));
-        if (isBeingMade(folder))
-            continue;
-        QLockFile lock(folder.filePath(kLockFile));
-        lock.setStaleLockTime(0);
-        if (!lock.tryLock(0))
-            continue;
-        const bool complete = removeUnfinishedVideo(folder);
-        lock.unlock();
-        // Without the folder nobody would know of the video.
-        if (complete && folder.removeRecursively()) {
-            ++removed;
-            qCInfo(generatorLog) << "Removed the cache of a dead render" << folder.path();
-        }
-    }
-    return removed;
+    // Without the folder nobody would know of the video.
+    const QStringList removed = AbandonedFolders::remove(QDir(cacheFolder), kFolderPrefix,
+                                                         kLockFile, removeUnfinishedVideo);
+    for (const QString &folder : removed)
+        qCInfo(generatorLog) << "Removed the cache of a dead render" << folder;
+    return removed.size();
 }
 
 void CacheSweeper::sweepLocks(const QString &lockFolder)

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/windows/DeletableLink.h"
 
+#include "platform/AbandonedFolders.h"
 #include "platform/PlatformLog.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -18,7 +18,6 @@ namespace
 {
 
 const QLatin1String kPrefix("burn-");
-constexpr qint64 kYoungestUnlocked = 60; // s; a folder is locked right after it was made
 
 const wchar_t *wide(const QString &text)
 {
@@ -43,13 +42,6 @@ QString linkName(const QString &file)
 QString cacheFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
-}
-
-bool isBeingMade(const QDir &folder)
-{
-    const QDateTime made = QFileInfo(folder.path()).lastModified();
-    return !folder.exists(DeletableLink::kLockFile) &&
-           made.secsTo(QDateTime::currentDateTime()) < kYoungestUnlocked;
 }
 
 } // namespace
@@ -103,21 +95,9 @@ bool DeletableLink::createIn(const QString &folder, const QString &file, bool co
 
 void DeletableLink::sweep()
 {
-    const QDir cache(cacheFolder());
-    const QStringList names = cache.entryList({QString(kPrefix) + QLatin1Char('*')},
-                                              QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
-    for (const QString &name : names) {
-        QDir folder(cache.filePath(name));
-        if (isBeingMade(folder))
-            continue;
-        QLockFile lock(folder.filePath(kLockFile));
-        lock.setStaleLockTime(0);
-        if (!lock.tryLock(0))
-            continue;
-        lock.unlock();
-        if (folder.removeRecursively())
-            qCInfo(lcPlatform) << "Removed what a dead burn has left" << folder.path();
-    }
+    const QStringList removed = AbandonedFolders::remove(QDir(cacheFolder()), kPrefix, kLockFile);
+    for (const QString &folder : removed)
+        qCInfo(lcPlatform) << "Removed what a dead burn has left" << folder;
 }
 
 } // namespace velmora
