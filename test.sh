@@ -35,7 +35,8 @@ windows_tests=(
     SlideTransitionTest SlidesTest SoundCheckerTest SoundPlanTest StandardOutputTest
     StartMessageTest SystemInfoTest TaskThreadTest TerminationWatcherTest ThubnailProviderTest
     TileGridTest TimelineTest TitleBackgroundTest ToolRunnerTest TransitionTest TransitionTypeTest
-    UnavailableUploadTest UpdateCheckerTest VelmoraStartTest VelmoratoolTest WavTranscoderTest
+    UnavailableUploadTest UpdateCheckerTest VelmoraStartTest VelmoratoolTest VideoNameTest
+    WavTranscoderTest
     WavWriterTest WorkerProtocolTest WorkerTest
 )
 sdk=${VELMORA_WINDOWS_SDK_ARCHIVE:-../shared/windows/velmora-windows-sdk.tar.xz}

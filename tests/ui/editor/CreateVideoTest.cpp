@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generator/pipeline/RenderRequest.h"
 #include "helpers/Files.h"
-#include "project/documents/ProjectName.h"
 #include "ui/audio/AudioListWidget.h"
 #include "ui/editor/CreatePanel.h"
 #include "ui/editor/EditorPage.h"
@@ -21,7 +20,6 @@ class CreateVideoTest : public QObject
     Q_OBJECT
 
 private:
-    void setName(const QString &name) { m->child<QLineEdit>("txtProjName")->setText(name); }
     int page() const { return m->child<QStackedWidget>("tcCreate")->currentIndex(); }
     Composer &composer() const { return m->page->createPanel().composer(); }
 
@@ -46,89 +44,11 @@ private:
             editor.undoStack()->undo();
     }
 
-    /// Has CREATE fail, and waits until that is told.
-    void createInVain()
-    {
-        composer().setProgram(m->path("none"));
-        m->answerNext(0);
-        m->click("btnCreate");
-        QTRY_VERIFY(!m->message().isEmpty());
-    }
-
     std::unique_ptr<EditorPage> m;
 
 private slots:
     void init() { m = std::make_unique<EditorPage>(); }
     void cleanup() { m.reset(); }
-
-    void nameIsChecked_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("allowed");
-        for (const char symbol : QByteArray("*:[]{}\\/"))
-            QTest::newRow(QByteArray(1, symbol).constData())
-                << (QStringLiteral("a") + QLatin1Char(symbol)) << false;
-        QTest::newRow("!") << "a!" << true;
-        QTest::newRow("hyphen") << "a-b" << true;
-    }
-    void nameIsChecked()
-    {
-        QFETCH(QString, name);
-        QFETCH(bool, allowed);
-        QSignalSpy started(m->page.get(), &MainWindowWidget::progressStarted);
-        QSignalSpy ended(m->page.get(), &MainWindowWidget::progressFinished);
-        QSignalSpy failed(m->page.get(), &MainWindowWidget::failed);
-        setName(name);
-        createInVain();
-        QCOMPARE(m->message(), allowed
-                                   ? QStringLiteral("Creation error")
-                                   : QStringLiteral("Project name should not contain any of these "
-                                                    "symbols: *:[]{}\\/!"));
-        QCOMPARE(started.count(), allowed ? 1 : 0);
-        QCOMPARE(ended.count(), started.count());
-        QCOMPARE(failed.count(), started.count());
-        if (allowed)
-            QCOMPARE(failed.first().first().toString(), m->details());
-        QCOMPARE(m->details().isEmpty(), !allowed);
-        QCOMPARE(page(), 0);
-    }
-
-    void titleAndFileNameAreTwo_data()
-    {
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("fileName");
-        QTest::addColumn<QString>("kept");
-        const auto row = [](const char *name, const char *title, const char *fileName,
-                            const char *kept) {
-            QTest::newRow(name) << QString::fromLatin1(title) << QString::fromLatin1(fileName)
-                                << kept;
-        };
-        row("no title", "", "video", "video");
-        row("blank title", " ", "video", "video");
-        row("no title in German", "Neues Projekt", "video", "video");
-        row("title", "Trip", "", "Trip");
-        row("both", "Trip", "video", "Trip");
-        row("no file name", "1:0", "", "1:0");
-    }
-    void titleAndFileNameAreTwo()
-    {
-        QFETCH(QString, title);
-        QFETCH(QString, fileName);
-        if (!title.isEmpty())
-            m->page->editor().setName(title);
-        if (!fileName.isEmpty())
-            setName(fileName);
-        createInVain();
-        QTEST(m->project->name(), "kept");
-        const QString made = QFileInfo(m->project->fileName()).completeBaseName();
-        QCOMPARE(made, m->child<QLineEdit>("txtProjName")->text());
-        QCOMPARE(made == title, title == QLatin1String("Trip") && fileName.isEmpty());
-        // A name that a render gave gives way to the next one.
-        setName(QStringLiteral("other"));
-        createInVain();
-        const bool isOwn = title == QLatin1String("Trip") || title == QLatin1String("1:0");
-        QCOMPARE(m->project->name(), isOwn ? title : QStringLiteral("other"));
-    }
 
     void fullScreenDoesNotOutliveTheRenderOrThePage()
     {
@@ -151,33 +71,6 @@ private slots:
         QVERIFY(!player->isVisible());
         m->page->show();
         QTRY_VERIFY(player->isVisible());
-    }
-
-    void nextSlideshowHasItsOwnName_data()
-    {
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<bool>("isTaken");
-        QTest::newRow("Trip") << "Trip" << true;
-        QTest::newRow("none") << "" << false;
-        QTest::newRow("not allowed") << "1:0" << false;
-        QTest::newRow("of an earlier video") << "sshow_2020-01-01_120000" << false;
-    }
-    void nextSlideshowHasItsOwnName()
-    {
-        QFETCH(QString, title);
-        QFETCH(bool, isTaken);
-        const auto *field = m->child<QLineEdit>("txtProjName");
-        m->page->editor().setName(QStringLiteral("Anna's wedding"));
-        setName(QStringLiteral("typed"));
-        m->page->setProject(m->project.get());
-        QCOMPARE(field->text(), QStringLiteral("typed"));
-        m->page->setProject(nullptr);
-        m->project = std::make_unique<ProjectFile>(m->settings, ProjectFile::TitleSlide::Create);
-        if (!title.isEmpty())
-            m->project->setName(title);
-        m->page->setProject(m->project.get());
-        QCOMPARE(field->text() == title, isTaken);
-        QCOMPARE(ProjectName::isProposal(field->text()), !isTaken);
     }
 
     void createMakesTheVideo_data()
@@ -206,7 +99,7 @@ private slots:
         QSignalSpy progress(m->page.get(), &MainWindowWidget::progress);
         QSignalSpy recorded(m->page.get(), &MainWindowWidget::recorded);
         const QString name = QStringLiteral("it's a 100% vidéo 漢!");
-        setName(name);
+        m->nameVideo(name);
         create();
         QVERIFY(m->page->isGenerating());
         QVERIFY(!m->table().isEnabled());
@@ -267,7 +160,7 @@ private slots:
     {
         QVERIFY(writeFile(m->path("old.mp4")));
         QSignalSpy started(m->page.get(), &MainWindowWidget::progressStarted);
-        setName(QStringLiteral("old"));
+        m->nameVideo(QStringLiteral("old"));
         m->answerNext(0);
         m->click("btnCreate");
         QTRY_VERIFY(m->message().contains(QStringLiteral("old.mp4")));
@@ -320,7 +213,7 @@ private slots:
         QFETCH(QString, by);
         m->addPhotos(QStringLiteral("ab"));
         QTRY_VERIFY(m->child<QPushButton>("btnCreate")->isEnabled());
-        setName(QStringLiteral("early"));
+        m->nameVideo(QStringLiteral("early"));
         QSignalSpy started(m->page.get(), &MainWindowWidget::progressStarted);
         m->click("btnCreate");
         ProjectFile other(m->settings, ProjectFile::TitleSlide::Create);
@@ -389,13 +282,13 @@ private slots:
         QCOMPARE(format->count(), 4);
         QTest::keyClick(format, Qt::Key_Down);
         QCOMPARE(m->project->format(), QStringLiteral("avi"));
-        setName(QStringLiteral("wanted"));
+        m->nameVideo(QStringLiteral("wanted"));
         RenderRequest request;
         QString error;
         const QString file = m->path("cache/data/wanted.json");
         connect(m->page.get(), &MainWindowWidget::progressStarted, this,
                 [&] { request.load(file, AppSettings(), &error); });
-        createInVain();
+        m->createInVain();
         QVERIFY2(request.project, qPrintable(error));
         // It holds the user's paths and texts.
         QVERIFY(!QFile::exists(file));

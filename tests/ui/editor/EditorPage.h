@@ -5,6 +5,7 @@
 #include "chrome/MessageDialog.h"
 #include "project/documents/HistoryStore.h"
 #include "project/documents/ProjectFile.h"
+#include "ui/editor/CreatePanel.h"
 #include "ui/editor/MainWindowWidget.h"
 #include "ui/editor/SlideTable.h"
 #include "ui/model/SlideTableModel.h"
@@ -12,6 +13,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QtTest>
@@ -99,6 +101,16 @@ public:
                                                   QItemSelectionModel::NoUpdate);
         table().selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
         QCoreApplication::processEvents(); // the controls follow once for all changes
+    }
+
+    void nameVideo(const QString &name) const { child<QLineEdit>("txtProjName")->setText(name); }
+    /// Has CREATE fail, and waits until that is told.
+    void createInVain()
+    {
+        page->createPanel().composer().setProgram(path("none"));
+        answerNext(0);
+        click("btnCreate");
+        QTRY_VERIFY(!message().isEmpty());
     }
 
     /// Answers the next message dialog; message() then has what it said.
